@@ -1,0 +1,51 @@
+# How everything of the project is compiled, and the function that makes one of its libraries.
+
+set( CMAKE_CXX_STANDARD 20 )
+set( CMAKE_CXX_STANDARD_REQUIRED ON )
+set( CMAKE_CXX_EXTENSIONS OFF )
+set( CMAKE_C_STANDARD 11 )
+set( CMAKE_C_STANDARD_REQUIRED ON )
+set( CMAKE_C_EXTENSIONS OFF )
+set( CMAKE_EXPORT_COMPILE_COMMANDS ON )
+set( CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib" )
+set( CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib" )
+set( CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin" )
+
+add_library( corvane-flags INTERFACE )
+target_compile_options( corvane-flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+    $<$<COMPILE_LANGUAGE:CXX>:-Wmissing-declarations> $<$<COMPILE_LANGUAGE:C>:-Wmissing-prototypes>
+    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." )
+if( CORVANE_SANITIZE )
+    target_compile_options( corvane-flags INTERFACE
+        "-fsanitize=${CORVANE_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer )
+    # C callers and the library see the same handle types under different names.
+    if( CMAKE_CXX_COMPILER_ID STREQUAL "Clang" )
+        target_compile_options( corvane-flags INTERFACE -fno-sanitize=function )
+    endif()
+    target_link_options( corvane-flags INTERFACE "-fsanitize=${CORVANE_SANITIZE}" )
+endif()
+
+# corvane_library( rt NEEDS ... PRIVATE_NEEDS ... OUTPUT name ) makes the shared library of source/rt, which exports
+# only what begins with the folder's name. NEEDS are libraries that its public headers include.
+function( corvane_library NAME )
+    cmake_parse_arguments( ARG "" "OUTPUT" "NEEDS;PRIVATE_NEEDS" ${ARGN} )
+    file( GLOB units CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp" )
+    add_library( ${NAME} SHARED ${units} )
+    add_library( corvane::${NAME} ALIAS ${NAME} )
+    target_include_directories( ${NAME} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>" )
+    target_link_libraries( ${NAME} PUBLIC ${ARG_NEEDS}
+        PRIVATE "$<BUILD_INTERFACE:corvane-flags>" ${ARG_PRIVATE_NEEDS} )
+    target_compile_options( ${NAME} PRIVATE -fno-exceptions -fno-rtti )
+    set( map "${CMAKE_CURRENT_BINARY_DIR}/${NAME}.map" )
+    file( CONFIGURE OUTPUT "${map}" CONTENT "{ global: ${NAME}*; local: *; };\n" )
+    target_link_options( ${NAME} PRIVATE "-Wl,--version-script=${map}" )
+    if( NOT CORVANE_SANITIZE )
+        target_link_options( ${NAME} PRIVATE -Wl,--no-undefined )
+    endif()
+    set_target_properties( ${NAME} PROPERTIES
+        OUTPUT_NAME "${ARG_OUTPUT}"
+        VERSION "${PROJECT_VERSION}" SOVERSION "${PROJECT_VERSION_MAJOR}"
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+        LINK_DEPENDS "${map}" )
+endfunction()

@@ -1,0 +1,288 @@
+// IRIs and URIs (RFC 3987, 3.1 and 3.2). All that both conversions and the skipper go by, where the host is
+// and what may stand where, is ASCII that no conversion adds or takes away: so a text has the same parts
+// before and after.
+#include "rsc/rsc_iri.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <string_view>
+
+#include "net/net.h"
+#include "rt/rt_text.hpp"
+
+using rt::adopt;
+using rt::Ref;
+using rt::share;
+using rt::Text;
+using rt::textOf;
+
+static bool isDigit( RT_CHAR ch ) { return ch >= '0' && ch <= '9'; }
+static bool isLetter( RT_CHAR ch, char last )
+{
+    return ch < 0x80 && ( ch | 0x20 ) >= 'a' && ( ch | 0x20 ) <= RT_CHAR( last );
+}
+static bool isHexdig( RT_CHAR ch ) { return isDigit( ch ) || isLetter( ch, 'f' ); }
+static bool isAmong( RT_CHAR ch, std::string_view chars )
+{
+    return ch < 0x80 && chars.find( static_cast<char>( ch ) ) != chars.npos;
+}
+
+// The unreserved and the reserved characters.
+static constexpr auto uriChars = []
+{
+    std::array<bool, 0x80> chars{};
+    for ( char ch : std::string_view( "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"
+                                      "-._~:/?#[]@!$&'()*+,;=" ) )
+        chars[static_cast<std::size_t>( ch )] = true;
+    return chars;
+}();
+
+// RFC 3987, 2.2.
+static bool isUcschar( RT_CHAR ch )
+{
+    if ( ch < 0x10000 )
+        return ( ch >= 0xA0 && ch <= 0xD7FF ) || ( ch >= 0xF900 && ch <= 0xFDCF )
+               || ( ch >= 0xFDF0 && ch <= 0xFFEF );
+    return ch < 0xF0000 && ( ch & 0xFFFF ) <= 0xFFFD && ch >> 12 != 0xE0;
+}
+
+static bool isIprivate( RT_CHAR ch )
+{
+    return ( ch >= 0xE000 && ch <= 0xF8FF )
+           || ( ch >= 0xF0000 && ch <= 0x10FFFD && ( ch & 0xFFFF ) <= 0xFFFD );
+}
+
+// RFC 3987, 4.1: these are never written out.
+static bool isBidiControl( RT_CHAR ch )
+{
+    return ch == 0x200E || ch == 0x200F || ( ch >= 0x202A && ch <= 0x202E );
+}
+
+// The part of an IRI that a reader is in, as far as it decides what may stand there.
+struct Place
+{
+    bool inQuery = false;
+    bool inFragment = false;
+
+    bool takes( RT_CHAR ch ) const
+    {
+        if ( ch < 0x80 )
+            return uriChars[ch] && ( ch != '#' || !inFragment );
+        return isUcschar( ch ) || ( inQuery && isIprivate( ch ) );
+    }
+    void pass( RT_CHAR ch )
+    {
+        inFragment = inFragment || ch == '#';
+        inQuery = !inFragment && ( inQuery || ch == '?' );
+    }
+};
+
+// The IRI at the start of a text.
+struct Found
+{
+    int64_t length = 0;       // 0 if there is none
+    bool unicode = false;     // it holds characters outside ASCII,
+    bool convertible = false; // or escapes of such, or something like an "xn--" label
+};
+
+static int64_t skipScheme( Text text )
+{
+    int64_t length = 0;
+    while (
+        length < text.length
+        && ( isLetter( text.chs[length], 'z' )
+             || ( length > 0 && ( isDigit( text.chs[length] ) || isAmong( text.chs[length], "+-." ) ) ) ) )
+        ++length;
+    return length;
+}
+
+static Found find( Text text )
+{
+    Found found;
+    Text rest = text;
+    if ( !rest.take( skipScheme( rest ) ) || !rest || rest.take( 1 ).chs[0] != ':' )
+        return found;
+    for ( Place place; rest; place.pass( rest.take( 1 ).chs[0] ) )
+    {
+        RT_CHAR ch = rest.chs[0];
+        if ( ch == '%' )
+        {
+            if ( rest.length < 3 || !isHexdig( rest.chs[1] ) || !isHexdig( rest.chs[2] ) )
+                break;
+            found.convertible |= rest.chs[1] >= '8';
+            rest.take( 2 );
+            continue;
+        }
+        if ( !place.takes( ch ) )
+            break;
+        found.unicode |= ch >= 0x80;
+        found.convertible |= ch == '-' && rest.length > 1 && rest.chs[1] == '-';
+    }
+    found.length = text.length - rest.length;
+    found.convertible |= found.unicode;
+    return found;
+}
+
+// An IRI in three. The host is empty where the scheme has none.
+struct Parts
+{
+    Text front;
+    Text host;
+    Text rest;
+};
+
+static Parts split( Text iri )
+{
+    auto until = []( Text text, std::string_view chars )
+    {
+        auto isEnd = [&]( RT_CHAR ch ) { return isAmong( ch, chars ); };
+        return text.first( std::find_if( text.chs, text.chs + text.length, isEnd ) - text.chs );
+    };
+    Text scheme = iri.first( skipScheme( iri ) );
+    Text authority = iri.behind( scheme.length + 1 );
+    auto isScheme = [&]( std::string_view name )
+    {
+        return std::equal( scheme.chs, scheme.chs + scheme.length, name.begin(), name.end(),
+                           []( RT_CHAR a, char b ) { return ( a | 0x20 ) == RT_CHAR( b ); } );
+    };
+    // In a SIP URI an "@" stands nowhere but behind the user, who may hold "/" and "?" (RFC 3261, 25.1).
+    if ( !isScheme( "sip" ) && !isScheme( "sips" ) )
+    {
+        if ( authority.length < 2 || authority.chs[0] != '/' || authority.chs[1] != '/' )
+            return { iri, {}, {} };
+        authority = until( authority.behind( 2 ), "/?#" );
+    }
+    Text user = until( authority, "@" );
+    // An address in brackets is cut to pieces here, and changes as little as it would whole.
+    Text host =
+        until( user.length < authority.length ? authority.behind( user.length + 1 ) : authority, ":;/?#" );
+    return { iri.first( host.chs - iri.chs ), host, iri.behind( host.chs + host.length - iri.chs ) };
+}
+
+// Other characters than ASCII become escapes of their UTF-8.
+static void appendEncoded( Ref<RT_STRING> *uri, Text text )
+{
+    Ref<RT_STRING> string = text.copy();
+    Ref<RT_BUFFER> utf8 = adopt( rtCharsetStringToBuffer( RT_CHARSET_UTF8, string.get() ) );
+    auto bytes = static_cast<const uint8_t *>( rtBufferBacking( utf8.get() ) );
+    for ( int64_t i = 0; i < rtBufferLength( utf8.get() ); ++i )
+        if ( bytes[i] < 0x80 )
+            rtStringAppendChar( uri->address(), bytes[i] );
+        else
+            rtStringAppendFormatCstr( uri->address(), "%%%^02!16i", -1, int64_t( bytes[i] ) );
+}
+
+// Takes one character, and with it the escapes that it is written in, if an IRI takes it there.
+static RT_CHAR takeDecoded( Text *text, const Place &place )
+{
+    std::array<char, 4> bytes;
+    int64_t count = 0, needed = 1;
+    for ( ; count < needed && text->length > 3 * count && text->chs[3 * count] == '%'; ++count )
+    {
+        int64_t value = 0;
+        rtFormatTryDecodeIntChars( text->chs + 3 * count + 1, 2, 16, &value, nullptr );
+        bytes[static_cast<std::size_t>( count )] = static_cast<char>( value );
+        if ( count == 0 )
+            needed = std::clamp( std::countl_one( static_cast<uint8_t>( value ) ), 0, 4 );
+    }
+    if ( count > 1 && count == needed )
+        if ( auto decoded = adopt( rtStringTryCreateFromUtf8( bytes.data(), count ) ) )
+            if ( RT_CHAR ch = rtStringCharAt( decoded.get(), 0 ); place.takes( ch ) && !isBidiControl( ch ) )
+            {
+                text->take( 3 * count );
+                return ch;
+            }
+    return text->take( 1 ).chs[0];
+}
+
+static void appendDecoded( Ref<RT_STRING> *iri, Text text, Place *place )
+{
+    while ( text )
+    {
+        RT_CHAR ch = takeDecoded( &text, *place );
+        place->pass( ch );
+        rtStringAppendChar( iri->address(), ch );
+    }
+}
+
+// What is no domain name, neither in ASCII nor in Unicode, is escaped like any other text.
+static Ref<RT_STRING> hostToAscii( Text host )
+{
+    Ref<RT_STRING> name = host.copy(), ascii = adopt( rtStringCreate() );
+    if ( netDnsIdnaDomainNameOk( name.get() ) )
+        return adopt( netDnsIdnaDomainNameToAscii( name.get() ) );
+    appendEncoded( &ascii, host );
+    return ascii;
+}
+
+RT_BOOL rscGensValidatePart( int64_t part, RT_STRING text )
+{
+    RT_ASSERT( part == RSC_GENS_PART_IRI );
+    RT_ASSERT( text );
+    return rt::covers( rsc___SkipIri, text );
+}
+
+RT_STRING rscTryConvertToUri( RT_STRING iri )
+{
+    RT_ASSERT( iri );
+    Text text = textOf( iri );
+    Found found = find( text );
+    if ( found.length == 0 || found.length < text.length )
+        return nullptr;
+    if ( !found.unicode )
+        return share( iri ).take();
+    Parts parts = split( text );
+    Ref<RT_STRING> uri = adopt( rtStringCreate() );
+    appendEncoded( &uri, parts.front );
+    rtStringAppend( uri.address(), hostToAscii( parts.host ).get() );
+    appendEncoded( &uri, parts.rest );
+    return uri.take();
+}
+
+// The host goes through ASCII, so that one host has one form, however it is written.
+RT_STRING rscTryConvertFromUri( RT_STRING uri )
+{
+    RT_ASSERT( uri );
+    Text text = textOf( uri );
+    Found found = find( text );
+    if ( found.length == 0 || found.length < text.length )
+        return nullptr;
+    if ( !found.convertible )
+        return share( uri ).take();
+    Parts parts = split( text );
+    Place place;
+    Ref<RT_STRING> iri = adopt( rtStringCreate() );
+    appendDecoded( &iri, parts.front, &place );
+    Ref<RT_STRING> host = hostToAscii( parts.host );
+    if ( netDnsIdnaDomainNameOk( host.get() ) )
+        rtStringAppend( iri.address(), adopt( netDnsIdnaDomainNameToUnicode( host.get() ) ).get() );
+    else
+        appendDecoded( &iri, textOf( host ), &place );
+    appendDecoded( &iri, parts.rest, &place );
+    return iri.take();
+}
+
+int64_t rsc___SkipIri( const RT_CHAR *chs, int64_t length )
+{
+    RT_ASSERT( length >= 0 );
+    RT_ASSERT( chs || length == 0 );
+    return find( { chs, length } ).length;
+}
+
+int64_t rsc___SkipIpV4Address( const RT_CHAR *chs, int64_t length )
+{
+    return net___SkipIpV4Address( chs, length );
+}
+
+int64_t rsc___SkipIpV6Address( const RT_CHAR *chs, int64_t length )
+{
+    return net___SkipIpV6Address( chs, length );
+}
+
+int64_t rsc___SkipPort( const RT_CHAR *chs, int64_t length )
+{
+    RT_ASSERT( length >= 0 );
+    RT_ASSERT( chs || length == 0 );
+    return std::find_if_not( chs, chs + length, isDigit ) - chs;
+}

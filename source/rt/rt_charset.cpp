@@ -1,0 +1,178 @@
+// UTF-8 (RFC 3629). Most text is ASCII, which goes in blocks that compilers turn into vector instructions.
+#include "rt/rt_charset.h"
+
+#include "rt/rt_buffer.hpp"
+#include "rt/rt_frame.hpp"
+#include "rt/rt_string.hpp"
+
+static constexpr int64_t blockLength = 16;
+
+template <class FROM> static bool isAsciiBlock( const FROM *from )
+{
+    FROM block[blockLength], all = 0;
+    std::memcpy( block, from, sizeof block );
+    for ( FROM item : block )
+        all = static_cast<FROM>( all | item );
+    return all < 0x80;
+}
+
+// By way of copies, since bytes might be part of anything.
+template <class FROM, class TO> static void convertBlock( const FROM *from, TO *to )
+{
+    FROM read[blockLength];
+    TO written[blockLength];
+    std::memcpy( read, from, sizeof read );
+    for ( int64_t i = 0; i < blockLength; ++i )
+        written[i] = static_cast<TO>( read[i] );
+    std::memcpy( to, written, sizeof written );
+}
+
+static bool isContinuation( unsigned char byte ) { return ( byte & 0xC0 ) == 0x80; }
+
+static bool isSurrogate( RT_CHAR ch ) { return ch >= 0xD800 && ch <= 0xDFFF; }
+
+static int64_t encodedSize( RT_CHAR ch ) { return 1 + ( ch >= 0x80 ) + ( ch >= 0x800 ) + ( ch >= 0x10000 ); }
+
+// How many bytes form the character at the start, whose code point goes to the last argument; 0 if none does.
+static int64_t decodeOne( const unsigned char *bytes, int64_t length, RT_CHAR *ch )
+{
+    unsigned char lead = bytes[0];
+    if ( lead < 0x80 )
+    {
+        *ch = lead;
+        return 1;
+    }
+    int64_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    if ( lead < 0xC2 || lead > 0xF4 || size > length )
+        return 0;
+    RT_CHAR code = lead & ( 0x7Fu >> size );
+    for ( int64_t i = 1; i < size; ++i )
+    {
+        if ( !isContinuation( bytes[i] ) )
+            return 0;
+        code = code << 6 | ( bytes[i] & 0x3F );
+    }
+    *ch = code;
+    return RT_CHAR_OK( code ) && !isSurrogate( code ) && encodedSize( code ) == size ? size : 0;
+}
+
+static void encodeOne( RT_CHAR ch, int64_t size, unsigned char *into )
+{
+    for ( int64_t i = size - 1; i > 0; --i, ch >>= 6 )
+        into[i] = static_cast<unsigned char>( 0x80 | ( ch & 0x3F ) );
+    into[0] = static_cast<unsigned char>( size == 1 ? ch : ( 0xF00 >> size & 0xFF ) | ch );
+}
+
+// The number of code points, -1 if the bytes are not strictly UTF-8. Without WRITES it only looks.
+template <bool WRITES> static int64_t decode( const unsigned char *bytes, int64_t length, RT_CHAR *into )
+{
+    int64_t at = 0, count = 0;
+    while ( at < length )
+    {
+        if ( length - at >= blockLength && isAsciiBlock( bytes + at ) )
+        {
+            if constexpr ( WRITES )
+                convertBlock( bytes + at, into + count );
+            at += blockLength;
+            count += blockLength;
+            continue;
+        }
+        RT_CHAR ch;
+        int64_t size = decodeOne( bytes + at, length - at, &ch );
+        if ( size == 0 )
+            return -1;
+        if constexpr ( WRITES )
+            into[count] = ch;
+        at += size;
+        ++count;
+    }
+    return count;
+}
+
+// The number of bytes. Without WRITES it only counts.
+template <bool WRITES> static int64_t encode( const RT_CHAR *chs, int64_t length, unsigned char *into )
+{
+    int64_t at = 0, count = 0;
+    while ( at < length )
+    {
+        if ( length - at >= blockLength && isAsciiBlock( chs + at ) )
+        {
+            if constexpr ( WRITES )
+                convertBlock( chs + at, into + count );
+            at += blockLength;
+            count += blockLength;
+            continue;
+        }
+        RT_CHAR ch = RT_CHAR_OK( chs[at] ) && !isSurrogate( chs[at] ) ? chs[at] : 0xFFFD;
+        int64_t size = encodedSize( ch );
+        if constexpr ( WRITES )
+            encodeOne( ch, size, into + count );
+        ++at;
+        count += size;
+    }
+    return count;
+}
+
+RT_BOOL rt___Utf8Ok( const unsigned char *bytes, int64_t length )
+{
+    return decode<false>( bytes, length, nullptr ) != -1;
+}
+
+int64_t rt___Utf8Length( const unsigned char *bytes, int64_t length )
+{
+    int64_t at = 0, count = 0;
+    for ( ; length - at >= blockLength; at += blockLength )
+    {
+        unsigned char block[blockLength], inBlock = 0;
+        std::memcpy( block, bytes + at, sizeof block );
+        for ( unsigned char byte : block )
+            inBlock = static_cast<unsigned char>( inBlock + !isContinuation( byte ) );
+        count += inBlock;
+    }
+    for ( ; at < length; ++at )
+        count += !isContinuation( bytes[at] );
+    return count;
+}
+
+int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_CHAR *into )
+{
+    return decode<true>( bytes, length, into );
+}
+
+RT_STRING rtStringTryCreateFromUtf8( const char *bytes, int64_t length )
+{
+    RT_ASSERT( length >= 0 );
+    RT_ASSERT( bytes || length == 0 );
+    if ( length == 0 )
+        return rtStringCreate();
+    auto *from = reinterpret_cast<const unsigned char *>( bytes );
+    rt::Ref<RT_STRING> string;
+    RT_CHAR *chs = rt::newString( rt___Utf8Length( from, length ), string.address() );
+    return rt___Utf8Decode( from, length, chs ) == -1 ? nullptr : string.take();
+}
+
+void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string )
+{
+    RT_ASSERT( buffer );
+    RT_ASSERT( *buffer );
+    RT_ASSERT( string );
+    if ( int64_t size = encode<false>( string->chs, string->length, nullptr ) )
+        encode<true>( string->chs, string->length, rt::extend( buffer, size ) );
+}
+
+RT_STRING rtCharsetBufferToStringWithFlags( int64_t charset, RT_BUFFER buffer, int64_t flags )
+{
+    RT_ASSERT( charset == RT_CHARSET_UTF8 );
+    RT_ASSERT( flags == 1 );
+    return rtStringTryCreateFromUtf8( static_cast<const char *>( rtBufferBacking( buffer ) ),
+                                      rtBufferLength( buffer ) );
+}
+
+RT_BUFFER rtCharsetStringToBuffer( int64_t charset, RT_STRING string )
+{
+    RT_ASSERT( charset == RT_CHARSET_UTF8 );
+    RT_ASSERT( string );
+    RT_BUFFER buffer = rtBufferCreate();
+    rtBufferAppendUtf8( &buffer, string );
+    return buffer;
+}

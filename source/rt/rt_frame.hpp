@@ -1,0 +1,255 @@
+// The frame of all object types of all libraries: what a type has beside its fields and its own work.
+//
+// An object is a plain structure: the runtime's header first, then the fields, then the list of them.
+//
+//     struct TELSX_REASON_
+//     {
+//         RT_OBJECT object;
+//         rt::Ref<RT_STRING> protocol;
+//         rt::Ref<RT_STRING> cause;
+//
+//         static auto fields( auto &self ) { return std::tie( self.protocol, self.cause ); }
+//     };
+//
+// A field is a Ref, an int64_t or an RT_BOOL. Copying, comparing and freeing go through the list, in its
+// order. A type whose order of comparison is another one states that order in a second list, called order.
+// The RT_DEFINE lines at the end name the exported functions of a unit; what they do is written in the
+// functions above them.
+#pragma once
+
+#include <atomic>
+#include <compare>
+#include <concepts>
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "rt/rt_object.h"
+
+// Ends the process if a condition that the caller owes doesn't hold. The text must be taken by # in the macro
+// that the unit writes: an argument handed on to another macro is expanded on the way.
+#define RT_CHECK( CONDITION, MESSAGE, EXPRESSION ) \
+    ( ( CONDITION ) ? void() : rt::fail( MESSAGE, __FILE__, __LINE__, EXPRESSION ) )
+#define RT_ASSERT( ... ) RT_CHECK( ( __VA_ARGS__ ), nullptr, #__VA_ARGS__ )
+
+namespace rt
+{
+
+// The runtime is told the unit, "source/telsx/telsx_reason", and not the compiler's name for the file.
+[[noreturn, gnu::cold, gnu::noinline]] inline void fail( const char *message, const char *file, int line,
+                                                         const char *expression )
+{
+    for ( const char *at = file; ( at = std::strstr( at, "source/" ) ) != nullptr; ++at )
+        file = at;
+    char unit[128] = "";
+    std::size_t length = std::strcspn( file, "." );
+    std::memcpy( unit, file, length < sizeof unit ? length : sizeof unit - 1 );
+    rt___Abort( message, unit, line, expression );
+}
+
+// Every handle points to a structure that begins with the runtime's header.
+template <class T> RT_OBJ asObj( T *object ) { return reinterpret_cast<RT_OBJ>( object ); }
+
+inline void retain( RT_OBJ obj )
+{
+    std::atomic_ref count( obj->count );
+    if ( count.load( std::memory_order_relaxed ) < RT_COUNT_IMMORTAL )
+        count.fetch_add( 1 );
+}
+
+// The only holder needs no atomic subtraction: nobody else is there to add or subtract.
+inline void release( RT_OBJ obj )
+{
+    std::atomic_ref count( obj->count );
+    int64_t before = count.load( std::memory_order_acquire );
+    if ( before == 1 || ( before < RT_COUNT_IMMORTAL && count.fetch_sub( 1 ) == 1 ) )
+        rt___ObjFree( obj );
+}
+
+inline bool shared( RT_OBJ obj ) { return std::atomic_ref( obj->count ).load() > 1; }
+
+// Owns one reference, or is null: a field, or a variable of a function that may return early.
+template <class HANDLE> class Ref
+{
+public:
+    Ref() = default;
+    Ref( const Ref &other ) : handle( other.handle )
+    {
+        if ( handle )
+            retain( asObj( handle ) );
+    }
+    Ref( Ref &&other ) noexcept : handle( other.take() ) {}
+    ~Ref()
+    {
+        if ( handle )
+            release( asObj( handle ) );
+    }
+
+    // The old reference is released last, with the parameter.
+    Ref &operator=( Ref other ) noexcept
+    {
+        std::swap( handle, other.handle );
+        return *this;
+    }
+
+    static Ref adopt( HANDLE given )
+    {
+        Ref ref;
+        ref.handle = given;
+        return ref;
+    }
+
+    // An absent object comes before a present one.
+    friend std::strong_ordering operator<=>( const Ref &a, const Ref &b )
+    {
+        if ( !a || !b )
+            return bool( a ) <=> bool( b );
+        return rtObjCompare( asObj( a.handle ), asObj( b.handle ) ) <=> 0;
+    }
+    friend bool operator==( const Ref &a, const Ref &b ) { return ( a <=> b ) == 0; }
+
+    explicit operator bool() const { return handle != nullptr; }
+    HANDLE get() const { return handle; }
+    HANDLE operator->() const { return handle; }
+    HANDLE retained() const { return Ref( *this ).take(); }
+    HANDLE take() { return std::exchange( handle, nullptr ); }
+    HANDLE *address() { return &handle; }
+
+private:
+    HANDLE handle = nullptr;
+};
+
+// A Ref that takes over the caller's reference, and one that takes a reference of its own.
+template <class HANDLE> Ref<HANDLE> adopt( HANDLE handle ) { return Ref<HANDLE>::adopt( handle ); }
+
+template <class HANDLE> Ref<HANDLE> share( HANDLE handle )
+{
+    if ( handle )
+        retain( asObj( handle ) );
+    return adopt( handle );
+}
+
+template <class F>
+concept Number = std::same_as<F, int64_t> || std::same_as<F, RT_BOOL>;
+
+// The absent form of each kind of field.
+template <class HANDLE> void clear( Ref<HANDLE> &field ) { field = {}; }
+inline void clear( int64_t &field ) { field = -1; }
+inline void clear( RT_BOOL &field ) { field = 0; }
+
+template <class HANDLE> bool present( const Ref<HANDLE> &field ) { return bool( field ); }
+inline bool present( const int64_t &field ) { return field != -1; }
+
+// What a getter returns, and what a setter stores.
+template <class HANDLE> HANDLE value( const Ref<HANDLE> &field ) { return field.retained(); }
+template <Number F> F value( const F &field ) { return field; }
+
+template <class HANDLE> void put( Ref<HANDLE> &field, HANDLE given ) { field = share( given ); }
+template <Number F> void put( F &field, F given ) { field = given; }
+
+// The size of an object with these fields behind the runtime's header.
+template <class... FIELD> consteval std::size_t sizeWith( std::type_identity<std::tuple<FIELD &...>> )
+{
+    std::size_t size = sizeof( RT_OBJECT ), align = alignof( RT_OBJECT );
+    ( ( size = ( size + alignof( FIELD ) - 1 ) / alignof( FIELD ) * alignof( FIELD ) + sizeof( FIELD ) ),
+      ... );
+    return ( size + align - 1 ) / align * align;
+}
+
+// Whether a type's list names all its fields.
+template <class T> consteval bool listsAllFields()
+{
+    return sizeWith( std::type_identity<decltype( T::fields( std::declval<T &>() ) )>() ) == sizeof( T );
+}
+
+// A new object with all fields absent. The runtime has filled the header, so only the fields are made.
+template <class T> T *create( RT_SORT sort )
+{
+    T *object = reinterpret_cast<T *>( rt___ObjCreate( sizeof( T ), sort ) );
+    std::apply( []( auto &...field ) { ( ( std::construct_at( &field ), clear( field ) ), ... ); },
+                T::fields( *object ) );
+    return object;
+}
+
+template <class T> T *createFrom( T *source )
+{
+    T *copy = create<T>( source->object.sort );
+    T::fields( *copy ) = T::fields( *source );
+    return copy;
+}
+
+template <class T> void clearFields( T *object )
+{
+    std::apply( []( auto &...field ) { ( clear( field ), ... ); }, T::fields( *object ) );
+}
+
+// The first field that differs decides.
+template <class T> int64_t compareFields( T *a, T *b )
+{
+    auto order = [&]
+    {
+        if constexpr ( requires { T::order( *a ); } )
+            return T::order( *a ) <=> T::order( *b );
+        else
+            return T::fields( *a ) <=> T::fields( *b );
+    }();
+    return order < 0 ? -1 : order > 0;
+}
+
+// Copy on write: the object behind the handle, made private to it if anyone else holds it.
+template <class T> T *own( T **handle )
+{
+    T *old = *handle;
+    if ( shared( asObj( old ) ) )
+    {
+        *handle = createFrom( old );
+        release( asObj( old ) );
+    }
+    return *handle;
+}
+
+} // namespace rt
+
+// The sort record of the type, and the eight functions that every type has. MODULE is the module's prefix,
+// telsx, and MODULE_OBJECT the address of its module object or null.
+#define RT_DEFINE_STDFUNCS( MODULE, MODULE_OBJECT, NAME, HANDLE, FREE, COMPARE, TO_STRING )                \
+    static constexpr RT_SORT_ MODULE##___sort_##HANDLE = { RT_STATIC_OBJECT, MODULE_OBJECT, #HANDLE, FREE, \
+                                                           COMPARE,          TO_STRING,     {} };          \
+    RT_DEFINE_OPERATIONS( MODULE, NAME, HANDLE )
+#define RT_DEFINE_OPERATIONS( MODULE, NAME, HANDLE )                              \
+    RT_SORT MODULE##NAME##Sort( void ) { return &MODULE##___sort_##HANDLE; }      \
+    void MODULE##NAME##Retain( HANDLE obj )                                       \
+    {                                                                             \
+        RT_CHECK( obj, "stdfunc retain", "obj" );                                 \
+        rt::retain( rt::asObj( obj ) );                                           \
+    }                                                                             \
+    void MODULE##NAME##Release( HANDLE obj )                                      \
+    {                                                                             \
+        RT_CHECK( obj, "stdfunc release", "obj" );                                \
+        rt::release( rt::asObj( obj ) );                                          \
+    }                                                                             \
+    RT_OBJ MODULE##NAME##Obj( HANDLE obj ) { return rt::asObj( obj ); }           \
+    HANDLE MODULE##NAME##From( RT_OBJ obj )                                       \
+    {                                                                             \
+        RT_CHECK( !obj || obj->sort == &MODULE##___sort_##HANDLE, "stdfunc from", \
+                  "!obj || rtObjSort(obj)==&" #MODULE "___sort_" #HANDLE );       \
+        return reinterpret_cast<HANDLE>( obj );                                   \
+    }                                                                             \
+    RT_STRING MODULE##NAME##ToString( HANDLE obj )                                \
+    {                                                                             \
+        RT_CHECK( obj, "stdfunc tostring", "obj" );                               \
+        return rtObjToString( rt::asObj( obj ) );                                 \
+    }                                                                             \
+    int64_t MODULE##NAME##Compare( HANDLE objA, HANDLE objB )                     \
+    {                                                                             \
+        RT_CHECK( objA, "stdfunc compare a", "objA" );                            \
+        RT_CHECK( objB, "stdfunc compare b", "objB" );                            \
+        return rtObjCompare( rt::asObj( objA ), rt::asObj( objB ) );              \
+    }                                                                             \
+    RT_BOOL MODULE##NAME##Equals( HANDLE objA, HANDLE objB )                      \
+    {                                                                             \
+        return rtObjCompare( rt::asObj( objA ), rt::asObj( objB ) ) == 0;         \
+    }

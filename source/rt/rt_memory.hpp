@@ -1,0 +1,44 @@
+// Memory that is no object. Who runs out of it can't go on.
+#pragma once
+
+#include <cstdlib>
+
+#include "rt/rt_frame.hpp"
+
+namespace rt
+{
+
+template <class T> T *allocate( int64_t count )
+{
+    RT_CHECK( count >= 0 && count <= PTRDIFF_MAX / static_cast<int64_t>( sizeof( T ) ), "out of memory",
+              "count" );
+    void *block = std::malloc( static_cast<std::size_t>( count ) * sizeof( T ) );
+    RT_CHECK( block || count == 0, "out of memory", "block" );
+    return static_cast<T *>( block );
+}
+
+// A larger block in the place of an old one.
+template <class T> T *reallocate( T *old, int64_t count )
+{
+    RT_CHECK( count > 0 && count <= PTRDIFF_MAX / static_cast<int64_t>( sizeof( T ) ), "out of memory",
+              "count" );
+    void *block = std::realloc( static_cast<void *>( old ), static_cast<std::size_t>( count ) * sizeof( T ) );
+    RT_CHECK( block, "out of memory", "block" );
+    return static_cast<T *>( block );
+}
+
+// How much to make room for when something must grow, so that appending is amortised O(1).
+inline int64_t grown( int64_t capacity, int64_t needed )
+{
+    int64_t more = capacity + capacity / 2;
+    return more > needed ? more : needed;
+}
+
+// memcpy for counts of elements; a null pointer goes with a count of 0.
+template <class T> void copyItems( T *to, const T *from, int64_t count )
+{
+    if ( count > 0 )
+        std::memcpy( static_cast<void *>( to ), from, static_cast<std::size_t>( count ) * sizeof( T ) );
+}
+
+} // namespace rt

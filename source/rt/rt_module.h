@@ -1,0 +1,50 @@
+/* Modules: how the runtime starts and stops a library that stands on it. */
+#ifndef RT_RT_MODULE_H
+#define RT_RT_MODULE_H
+
+#include "rt/rt_object.h"
+
+RT_BEGIN
+
+/* What a module says of its build. */
+typedef struct RT_MODULE_RECORD_
+{
+    int64_t form; /* 2 */
+    const char *family;
+    const char *product;
+    int64_t release[3];
+    const char *buildTime; /* "UTC YYYY-MM-DD hh:mm:ss (Weekday)" */
+    const char *vendor;
+    const char *legalNotice;
+    const char *name;
+    const char *description;
+    const char *version;
+    const char *modulesNeeded; /* names with one blank between them */
+    const char *last;          /* "" */
+} RT_MODULE_RECORD;
+
+/* The module object. */
+typedef struct RT_MODULE_
+{
+    RT_OBJECT object;
+    const RT_MODULE_RECORD *record;
+    RT_BOOL ( *startup )( void );
+    void *reserved;
+    void ( *shutdown )( void );
+    void *reservedToo[5];
+} RT_MODULE;
+
+/* Starts a module, which is what its ...Module() function returns: before anything else of it is called.
+ * Returns the module's own answer, true for started. May be called again, from any thread: only the first
+ * call starts the module, and as many stops are needed. Null aborts. */
+RT_API RT_BOOL rtModuleStart( RT_OBJ module );
+
+/* The counterpart: the last one stops the module. A module that is not started aborts, and so does null. */
+RT_API void rtModuleStop( RT_OBJ module );
+
+/* The module's record, static. Null aborts. */
+RT_API const RT_MODULE_RECORD *rtModuleRecord( RT_OBJ module );
+
+RT_END
+
+#endif

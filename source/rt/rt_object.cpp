@@ -1,0 +1,78 @@
+// Objects, their counts and their end.
+#include "rt/rt_object.h"
+
+#include <cstdio>
+
+#include "rt/rt_memory.hpp"
+#include "rt/rt_string.h"
+
+#ifdef RT_COUNT_OBJECTS
+static std::atomic<int64_t> alive;
+static void countAlive( int64_t change ) { alive += change; }
+int64_t rtObjsAlive( void ) { return alive; }
+#else
+static void countAlive( int64_t ) {}
+int64_t rtObjsAlive( void ) { return -1; }
+#endif
+
+void rtObjRetain( RT_OBJ obj )
+{
+    RT_ASSERT( obj );
+    rt::retain( obj );
+}
+
+void rtObjRelease( RT_OBJ obj )
+{
+    RT_ASSERT( obj );
+    rt::release( obj );
+}
+
+RT_SORT rtObjSort( RT_OBJ obj )
+{
+    RT_ASSERT( obj );
+    return obj->sort;
+}
+
+RT_STRING rtObjToString( RT_OBJ obj )
+{
+    RT_ASSERT( obj );
+    return obj->sort->toStringFunc ? obj->sort->toStringFunc( obj )
+                                   : rtStringCreateFromCstr( obj->sort->name, -1 );
+}
+
+int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB )
+{
+    if ( objA == objB )
+        return 0;
+    if ( !objA || !objB )
+        return objA ? 1 : -1;
+    if ( objA->sort != objB->sort )
+        return std::less<>()( objA->sort, objB->sort ) ? -1 : 1;
+    if ( objA->sort->compareFunc )
+        return objA->sort->compareFunc( objA, objB );
+    return std::less<>()( objA, objB ) ? -1 : 1;
+}
+
+RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort )
+{
+    RT_OBJ obj = reinterpret_cast<RT_OBJ>( rt::allocate<char>( size ) );
+    *obj = { sort, 1 };
+    countAlive( 1 );
+    return obj;
+}
+
+void rt___ObjFree( RT_OBJ obj )
+{
+    if ( obj->sort->freeFunc )
+        obj->sort->freeFunc( obj );
+    std::free( obj );
+    countAlive( -1 );
+}
+
+void rt___Abort( const char *message, const char *file, int64_t line, const char *expression )
+{
+    const char *between = message ? ": " : "";
+    std::fprintf( stderr, "%s:%lld: %s%s%s\n", file, static_cast<long long>( line ), message ? message : "",
+                  between, expression );
+    std::abort();
+}

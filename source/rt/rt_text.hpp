@@ -1,0 +1,46 @@
+// Text to be read: how the libraries above measure and cut it.
+#pragma once
+
+#include <string_view>
+
+#include "rt/rt_frame.hpp"
+#include "rt/rt_string.h"
+
+namespace rt
+{
+
+// How many code points at the start of a text form an element, 0 for none.
+using Skipper = int64_t ( * )( const RT_CHAR *chs, int64_t length );
+
+// A text, or the part of one that is still to be read. Points into a string that somebody else holds.
+struct Text
+{
+    const RT_CHAR *chs = nullptr;
+    int64_t length = 0;
+
+    explicit operator bool() const { return length != 0; }
+    Ref<RT_STRING> copy() const { return adopt( rtStringCreateFromCharsCopy( chs, length ) ); }
+    Text first( int64_t count ) const { return { chs, count }; }
+    Text behind( int64_t count ) const { return { chs + count, length - count }; }
+
+    // Takes that many code points, or the element at the start, away and returns it; empty if there is none.
+    Text take( int64_t count )
+    {
+        Text front = first( count );
+        *this = behind( count );
+        return front;
+    }
+    Text take( Skipper skip ) { return take( skip( chs, length ) ); }
+};
+
+inline Text textOf( RT_STRING string ) { return { rtStringBacking( string ), rtStringLength( string ) }; }
+inline Text textOf( const Ref<RT_STRING> &string ) { return textOf( string.get() ); }
+
+// Whether the element is the whole text, and the text isn't empty.
+inline bool covers( Skipper skip, Text text )
+{
+    return text.length && skip( text.chs, text.length ) == text.length;
+}
+inline bool covers( Skipper skip, RT_STRING string ) { return covers( skip, textOf( string ) ); }
+
+} // namespace rt

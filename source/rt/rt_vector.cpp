@@ -1,0 +1,196 @@
+// Vectors: one array with room at its end and, once something was taken or put there, at its front.
+#include "rt/rt_vector.h"
+
+#include <algorithm>
+
+#include "rt/rt_memory.hpp"
+
+using rt::Ref;
+
+struct RT_VECTOR_
+{
+    RT_OBJECT object;
+    RT_OBJ *block;    // the array, or null
+    int64_t capacity; // of the array
+    int64_t first;    // where the elements begin in it
+    int64_t length;
+
+    RT_OBJ *begin() { return block + first; }
+    RT_OBJ *end() { return block + first + length; }
+};
+
+static void freeFunc( RT_OBJ obj )
+{
+    RT_VECTOR vector = rtVectorFrom( obj );
+    std::for_each( vector->begin(), vector->end(), rt::release );
+    std::free( vector->block );
+}
+
+static int64_t compareFunc( RT_OBJ objA, RT_OBJ objB )
+{
+    RT_VECTOR a = rtVectorFrom( objA ), b = rtVectorFrom( objB );
+    for ( int64_t i = 0; i < a->length && i < b->length; ++i )
+        if ( int64_t order = rtObjCompare( a->begin()[i], b->begin()[i] ) )
+            return order;
+    return a->length < b->length ? -1 : a->length > b->length;
+}
+
+static RT_STRING toStringFunc( RT_OBJ obj )
+{
+    RT_VECTOR vector = rtVectorFrom( obj );
+    Ref<RT_STRING> text = rt::adopt( rtStringCreate() );
+    for ( RT_OBJ *item = vector->begin(); item != vector->end(); ++item )
+    {
+        if ( item != vector->begin() )
+            rtStringAppendCstr( text.address(), ", ", 2 );
+        rtStringAppend( text.address(), rt::adopt( rtObjToString( *item ) ).get() );
+    }
+    return text.take();
+}
+
+RT_DEFINE_STDFUNCS( rt, nullptr, Vector, RT_VECTOR, freeFunc, compareFunc, toStringFunc )
+
+RT_VECTOR rtVectorCreate( void ) { return rtVectorCreateWithCapacity( 0 ); }
+
+RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity )
+{
+    RT_ASSERT( capacity >= 0 );
+    auto *vector = reinterpret_cast<RT_VECTOR>( rt___ObjCreate( sizeof( RT_VECTOR_ ), rtVectorSort() ) );
+    vector->block = capacity ? rt::allocate<RT_OBJ>( capacity ) : nullptr;
+    vector->capacity = capacity;
+    vector->first = 0;
+    vector->length = 0;
+    return vector;
+}
+
+// The vector behind the handle, made private to it.
+static RT_VECTOR own( RT_VECTOR *handle )
+{
+    RT_ASSERT( handle );
+    RT_ASSERT( *handle );
+    RT_VECTOR old = *handle;
+    if ( rt::shared( rt::asObj( old ) ) )
+    {
+        RT_VECTOR copy = rtVectorCreateWithCapacity( old->length );
+        std::for_each( old->begin(), old->end(), rt::retain );
+        rt::copyItems( copy->block, old->begin(), old->length );
+        copy->length = old->length;
+        *handle = copy;
+        rtVectorRelease( old );
+    }
+    return *handle;
+}
+
+// Opens a gap for one element, whose place it returns. What is nearer moves; a full array grows, with room at
+// the front only if that is where it is needed.
+static RT_OBJ *openGap( RT_VECTOR vector, int64_t index )
+{
+    bool atFront = index == 0 && vector->length;
+    if ( atFront ? vector->first == 0 : vector->first + vector->length == vector->capacity )
+    {
+        int64_t capacity = rt::grown( vector->length, vector->length + 4 );
+        int64_t first = atFront ? capacity - vector->length : 0;
+        RT_OBJ *block = rt::allocate<RT_OBJ>( capacity );
+        rt::copyItems( block + first, vector->begin(), vector->length );
+        std::free( vector->block );
+        vector->block = block;
+        vector->capacity = capacity;
+        vector->first = first;
+    }
+    ++vector->length;
+    if ( atFront )
+        --vector->first;
+    else
+        std::move_backward( vector->begin() + index, vector->end() - 1, vector->end() );
+    return vector->begin() + index;
+}
+
+int64_t rtVectorLength( RT_VECTOR vector )
+{
+    RT_ASSERT( vector );
+    return vector->length;
+}
+
+RT_OBJ rtVectorObjAt( RT_VECTOR vector, int64_t index )
+{
+    RT_ASSERT( vector );
+    RT_ASSERT( index >= 0 && index < vector->length );
+    return rt::share( vector->begin()[index] ).take();
+}
+
+RT_BOOL rtVectorContainsOnly( RT_VECTOR vector, RT_SORT sort )
+{
+    RT_ASSERT( vector );
+    return std::all_of( vector->begin(), vector->end(), [sort]( RT_OBJ obj ) { return obj->sort == sort; } );
+}
+
+static void insert( RT_VECTOR *vector, int64_t index, RT_OBJ obj )
+{
+    RT_ASSERT( obj );
+    RT_ASSERT( index >= 0 && index <= rtVectorLength( *vector ) );
+    rt::retain( obj );
+    *openGap( own( vector ), index ) = obj;
+}
+
+void rtVectorAppend( RT_VECTOR *vector, RT_OBJ obj )
+{
+    RT_ASSERT( vector );
+    insert( vector, rtVectorLength( *vector ), obj );
+}
+
+void rtVectorAppendString( RT_VECTOR *vector, RT_STRING string )
+{
+    rtVectorAppend( vector, rtStringObj( string ) );
+}
+
+void rtVectorPrependString( RT_VECTOR *vector, RT_STRING string )
+{
+    rtVectorInsertString( vector, 0, string );
+}
+
+void rtVectorInsertString( RT_VECTOR *vector, int64_t index, RT_STRING string )
+{
+    RT_ASSERT( vector );
+    insert( vector, index, rtStringObj( string ) );
+}
+
+void rtVectorSetStringAt( RT_VECTOR *vector, int64_t index, RT_STRING string )
+{
+    RT_ASSERT( vector );
+    RT_ASSERT( string );
+    RT_ASSERT( index >= 0 && index < rtVectorLength( *vector ) );
+    RT_OBJ &item = own( vector )->begin()[index];
+    auto old = rt::adopt( std::exchange( item, rtStringObj( rt::share( string ).take() ) ) );
+}
+
+void rtVectorDelAt( RT_VECTOR *handle, int64_t index )
+{
+    RT_ASSERT( handle );
+    RT_ASSERT( index >= 0 && index < rtVectorLength( *handle ) );
+    if ( index == 0 )
+    {
+        rtVectorDelLeading( handle, 1 );
+        return;
+    }
+    RT_VECTOR vector = own( handle );
+    auto old = rt::adopt( vector->begin()[index] );
+    std::move( vector->begin() + index + 1, vector->end(), vector->begin() + index );
+    --vector->length;
+}
+
+void rtVectorDelLeading( RT_VECTOR *handle, int64_t count )
+{
+    RT_ASSERT( handle );
+    RT_ASSERT( count >= 0 && count <= rtVectorLength( *handle ) );
+    RT_VECTOR vector = own( handle );
+    std::for_each( vector->begin(), vector->begin() + count, rt::release );
+    vector->first += count;
+    vector->length -= count;
+}
+
+void rtVectorClear( RT_VECTOR *vector )
+{
+    RT_ASSERT( vector );
+    RT_ASSERT( *vector );
+    auto old = rt::adopt( std::exchange( *vector, rtVectorCreate() ) );
+}

@@ -1,0 +1,99 @@
+// Host (RFC 3261, 25.1; RFC 3986, 3.2.2; RFC 5891).
+#include "telsx/telsx_host.h"
+
+#include "net/net.h"
+#include "rsc/rsc.h"
+#include "telsx/telsx_char.hpp"
+#include "telsx/telsx_port.h"
+#include "telsx/telsx_skip.h"
+#include "telsx/telsx_text.hpp"
+
+using namespace telsx;
+
+int64_t telsx___SkipDomainLabel( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    int64_t at = 0, end = 0;
+    while ( at < length )
+    {
+        if ( isIn( chs[at], classAlphanum ) )
+            end = ++at;
+        else if ( chs[at] == '-' && at > 0 )
+            ++at;
+        else if ( isEscape( { chs + at, length - at } ) )
+            end = at += 3;
+        else
+            break;
+    }
+    return end;
+}
+
+int64_t telsx___SkipHostname( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    while ( rest.take( telsx___SkipDomainLabel ) && rest && rest.chs[0] == '.' )
+        rest.take( 1 );
+    return length - rest.length;
+}
+
+int64_t telsx___SkipIpV4Address( const RT_CHAR *chs, int64_t length )
+{
+    return rsc___SkipIpV4Address( chs, length );
+}
+
+int64_t telsx___SkipIpV6Address( const RT_CHAR *chs, int64_t length )
+{
+    return rsc___SkipIpV6Address( chs, length );
+}
+
+int64_t telsx___SkipIpV6Reference( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    if ( !rest.take( telsx___SkipChar( chs, length, '[' ) ) || !rest.take( telsx___SkipIpV6Address ) )
+        return 0;
+    return rest.take( telsx___SkipChar( rest.chs, rest.length, ']' ) ) ? length - rest.length : 0;
+}
+
+int64_t telsx___SkipHost( const RT_CHAR *chs, int64_t length )
+{
+    int64_t name = telsx___SkipHostname( chs, length ), address = telsx___SkipIpV4Address( chs, length );
+    return rtIntMax( rtIntMax( name, address ), telsx___SkipIpV6Reference( chs, length ) );
+}
+
+int64_t telsx___SkipHostPort( const RT_CHAR *chs, int64_t length )
+{
+    int64_t host = telsx___SkipHost( chs, length );
+    if ( !host || host == length || chs[host] != ':' )
+        return host;
+    int64_t port = telsx___SkipPort( chs + host + 1, length - host - 1 );
+    return port ? host + 1 + port : host;
+}
+
+RT_BOOL telsxHostOk( RT_STRING host )
+{
+    TELSX_ASSERT( host );
+    if ( covers( telsx___SkipHost, host ) )
+        return 1;
+    return netDnsIdnaDomainNameOk( host )
+           && covers( telsx___SkipHost, adopt( netDnsIdnaDomainNameToAscii( host ) ).get() );
+}
+
+RT_STRING telsx___HostEncode( RT_STRING host )
+{
+    TELSX_ASSERT( host );
+    if ( covers( telsx___SkipHost, host ) )
+        return share( host ).take();
+    RT_STRING result = netDnsIdnaDomainNameToAscii( host );
+    int64_t length = rtStringLength( result );
+    TELSX_ASSERT( length && length == telsx___SkipHost( rtStringBacking( result ), length ) );
+    return result;
+}
+
+RT_STRING telsx___HostTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    if ( telsx___SkipHost( chs, length ) != length )
+        return nullptr;
+    Ref<RT_STRING> copy = Text{ chs, length }.copy();
+    return netDnsIdnaDomainNameOk( copy.get() ) ? netDnsIdnaDomainNameToUnicode( copy.get() ) : nullptr;
+}

@@ -1,0 +1,272 @@
+// Message fragment: start line, headers and body as a caller sets and reads them.
+#include "telsx/telsx_message_fragment.h"
+
+#include "telsx/telsx_iri.h"
+#include "telsx/telsx_message_fragment.hpp"
+#include "telsx/telsx_method.h"
+#include "telsx/telsx_reason_phrase.h"
+#include "telsx/telsx_text.hpp"
+
+using namespace telsx;
+
+TELSX_DEFINE_OBJECT( MessageFragment, MESSAGE_FRAGMENT, telsx___MessageFragmentFreeFunc, nullptr, nullptr )
+TELSX_DEFINE_FREE_FUNC( MessageFragment, frag )
+
+TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void )
+{
+    TELSX_MESSAGE_FRAGMENT frag = rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() );
+    frag->headers = adopt( rtDictCreate() );
+    return frag;
+}
+
+// Start lines
+
+void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version, RT_STRING method,
+                                     RT_STRING iri )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( version );
+    TELSX_ASSERT( telsxMethodOk( method ) );
+    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    own->version = share( version );
+    own->requestMethod = share( method );
+    own->requestIri = share( iri );
+    own->responseStatusCode = TELSX_STATUS_CODE_INVALID;
+    own->responseReasonPhrase = {};
+}
+
+void telsxMessageFragmentSetResponseWithReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,
+                                                      int64_t sc, RT_STRING reasonPhrase )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( version );
+    TELSX_ASSERT( telsxStatusCodeOk( sc ) );
+    TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
+    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    own->version = share( version );
+    own->requestMethod = {};
+    own->requestIri = {};
+    own->responseStatusCode = sc;
+    own->responseReasonPhrase = share( reasonPhrase );
+}
+
+void telsxMessageFragmentSetResponse( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version, int64_t sc )
+{
+    telsxMessageFragmentSetResponseWithReasonPhrase( frag, version, sc,
+                                                     adopt( telsxStatusCodeReasonPhrase( sc ) ).get() );
+}
+
+void telsxMessageFragmentSetNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT *frag )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    own->version = {};
+    own->requestMethod = {};
+    own->requestIri = {};
+    own->responseStatusCode = TELSX_STATUS_CODE_INVALID;
+    own->responseReasonPhrase = {};
+}
+
+// A new fragment with the start line that the setter gives it.
+template <class... ARG>
+static TELSX_MESSAGE_FRAGMENT createWith( void ( *set )( TELSX_MESSAGE_FRAGMENT *frag, ARG... ), ARG... args )
+{
+    Ref<TELSX_MESSAGE_FRAGMENT> frag = adopt( telsxMessageFragmentCreate() );
+    set( frag.address(), args... );
+    return frag.take();
+}
+
+TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequest( TELSX_VERSION version, RT_STRING method,
+                                                          RT_STRING iri )
+{
+    return createWith( telsxMessageFragmentSetRequest, version, method, iri );
+}
+
+TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponse( TELSX_VERSION version, int64_t sc )
+{
+    return createWith( telsxMessageFragmentSetResponse, version, sc );
+}
+
+TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhrase( TELSX_VERSION version, int64_t sc,
+                                                                           RT_STRING reasonPhrase )
+{
+    return createWith( telsxMessageFragmentSetResponseWithReasonPhrase, version, sc, reasonPhrase );
+}
+
+RT_BOOL telsxMessageFragmentIsRequest( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return frag->requestMethod && frag->requestIri && frag->version;
+}
+
+RT_BOOL telsxMessageFragmentIsResponse( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return frag->responseStatusCode != TELSX_STATUS_CODE_INVALID && frag->responseReasonPhrase;
+}
+
+RT_BOOL telsxMessageFragmentIsNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return !frag->version;
+}
+
+// Fields of the start line: a setter asks first that the kind has the field.
+
+TELSX_DEFINE_GETTER( MessageFragment, frag, Version, version )
+TELSX_DEFINE_GETTER( MessageFragment, frag, RequestMethod, requestMethod )
+TELSX_DEFINE_GETTER( MessageFragment, frag, RequestIri, requestIri )
+TELSX_DEFINE_GETTER( MessageFragment, frag, ResponseStatusCode, responseStatusCode )
+TELSX_DEFINE_GETTER( MessageFragment, frag, ResponseReasonPhrase, responseReasonPhrase )
+
+RT_BOOL telsxMessageFragmentHasVersion( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return rt::present( frag->version );
+}
+
+void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( ( *frag )->version );
+    TELSX_ASSERT( version );
+    rt::put( TELSX_OWN( frag )->version, version );
+}
+
+void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING method )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( ( *frag )->requestMethod );
+    TELSX_ASSERT( telsxMethodOk( method ) );
+    rt::put( TELSX_OWN( frag )->requestMethod, method );
+}
+
+void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING iri )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( ( *frag )->requestMethod );
+    TELSX_ASSERT( telsxIriOk( iri ) );
+    rt::put( TELSX_OWN( frag )->requestIri, iri );
+}
+
+void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, int64_t sc,
+                                                RT_BOOL updateReasonPhrase )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( ( *frag )->responseStatusCode != TELSX_STATUS_CODE_INVALID );
+    TELSX_ASSERT( telsxStatusCodeOk( sc ) );
+    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    own->responseStatusCode = sc;
+    if ( updateReasonPhrase )
+        own->responseReasonPhrase = adopt( telsxStatusCodeReasonPhrase( sc ) );
+}
+
+void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING reasonPhrase )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( ( *frag )->responseReasonPhrase );
+    TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
+    rt::put( TELSX_OWN( frag )->responseReasonPhrase, reasonPhrase );
+}
+
+// Headers
+
+RT_VECTOR telsxMessageFragmentHeadersVector( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return rtDictValuesVector( frag->headers.get() );
+}
+
+TELSX_MESSAGE_HEADER telsxMessageFragmentHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name )
+{
+    TELSX_ASSERT( frag );
+    Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
+    return telsxMessageHeaderFrom( rtDictStringKey( frag->headers.get(), normal.get() ) );
+}
+
+RT_BOOL telsxMessageFragmentHasHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name )
+{
+    TELSX_ASSERT( frag );
+    Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
+    return rtDictHasStringKey( frag->headers.get(), normal.get() );
+}
+
+void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( header );
+    Ref<RT_STRING> name = adopt( telsxMessageHeaderName( header ) );
+    rtDictSetStringKey( TELSX_OWN( frag )->headers.address(), name.get(), telsxMessageHeaderObj( header ) );
+}
+
+void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name )
+{
+    TELSX_ASSERT_HANDLE( frag );
+    Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
+    rtDictDelStringKey( TELSX_OWN( frag )->headers.address(), normal.get() );
+}
+
+// Body
+
+TELSX_DEFINE_FIELD( MessageFragment, frag, Body, body, body )
+TELSX_DEFINE_OPTION( MessageFragment, frag, Body, body )
+
+// What takes a text, with the text as 8-bit and as wide characters
+
+#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
+    TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequest##SUFFIX(                                        \
+        TELSX_VERSION version, const CHAR *method, int64_t length, RT_STRING iri )                           \
+    {                                                                                                        \
+        return telsxMessageFragmentCreateRequest( version, text( method, length ).get(), iri );              \
+    }                                                                                                        \
+    void telsxMessageFragmentSetRequest##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,        \
+                                                 const CHAR *method, int64_t length, RT_STRING iri )         \
+    {                                                                                                        \
+        telsxMessageFragmentSetRequest( frag, version, text( method, length ).get(), iri );                  \
+    }                                                                                                        \
+    TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhrase##SUFFIX(                       \
+        TELSX_VERSION version, int64_t sc, const CHAR *reasonPhrase, int64_t length )                        \
+    {                                                                                                        \
+        return telsxMessageFragmentCreateResponseWithReasonPhrase( version, sc,                              \
+                                                                   text( reasonPhrase, length ).get() );     \
+    }                                                                                                        \
+    void telsxMessageFragmentSetResponseWithReasonPhrase##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag,              \
+                                                                  TELSX_VERSION version, int64_t sc,         \
+                                                                  const CHAR *reasonPhrase, int64_t length ) \
+    {                                                                                                        \
+        telsxMessageFragmentSetResponseWithReasonPhrase( frag, version, sc,                                  \
+                                                         text( reasonPhrase, length ).get() );               \
+    }                                                                                                        \
+    void telsxMessageFragmentSetRequestMethod##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, const CHAR *method,     \
+                                                       int64_t length )                                      \
+    {                                                                                                        \
+        telsxMessageFragmentSetRequestMethod( frag, text( method, length ).get() );                          \
+    }                                                                                                        \
+    void telsxMessageFragmentSetRequestIri##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, const CHAR *iri,           \
+                                                    int64_t length )                                         \
+    {                                                                                                        \
+        telsxMessageFragmentSetRequestIri( frag, text( iri, length ).get() );                                \
+    }                                                                                                        \
+    void telsxMessageFragmentSetResponseReasonPhrase##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag,                  \
+                                                              const CHAR *reasonPhrase, int64_t length )     \
+    {                                                                                                        \
+        telsxMessageFragmentSetResponseReasonPhrase( frag, text( reasonPhrase, length ).get() );             \
+    }                                                                                                        \
+    TELSX_MESSAGE_HEADER telsxMessageFragmentHeader##SUFFIX( TELSX_MESSAGE_FRAGMENT frag, const CHAR *name,  \
+                                                             int64_t length )                                \
+    {                                                                                                        \
+        return telsxMessageFragmentHeader( frag, text( name, length ).get() );                               \
+    }                                                                                                        \
+    RT_BOOL telsxMessageFragmentHasHeader##SUFFIX( TELSX_MESSAGE_FRAGMENT frag, const CHAR *name,            \
+                                                   int64_t length )                                          \
+    {                                                                                                        \
+        return telsxMessageFragmentHasHeader( frag, text( name, length ).get() );                            \
+    }                                                                                                        \
+    void telsxMessageFragmentDelHeader##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, const CHAR *name,              \
+                                                int64_t length )                                             \
+    {                                                                                                        \
+        telsxMessageFragmentDelHeader( frag, text( name, length ).get() );                                   \
+    }
+TEXT_VARIANTS( Cstr, char )
+TEXT_VARIANTS( Wcstr, wchar_t )

@@ -1,0 +1,147 @@
+/* Message fragment: what a SIP message can hold, without the demand that it be whole: a start line or none,
+ * any set of headers, a body or none (RFC 3261, 7; RFC 3420).
+ *
+ * A fragment is a request (method, IRI and version), a response (status code, reason phrase and version) or
+ * neither (no version). Headers are raw and stand under their canonical names, in the order in which the
+ * names came; the body is bytes. A Content-Length header among them is not kept in step with the body:
+ * decoding reads it, encoding writes its own. */
+#ifndef TELSX_TELSX_MESSAGE_FRAGMENT_H
+#define TELSX_TELSX_MESSAGE_FRAGMENT_H
+
+#include "telsx/telsx_message_header.h"
+#include "telsx/telsx_status_code.h"
+#include "telsx/telsx_version.h"
+
+RT_BEGIN
+
+TELSX_OBJECT( MessageFragment, MESSAGE_FRAGMENT )
+
+/* An empty fragment, neither request nor response. */
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void );
+
+/* Requests. Set replaces whatever start line there is; headers and body stay. They abort for a null version
+ * and unless telsxMethodOk and telsxIriOk. */
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequest( TELSX_VERSION version, RT_STRING method,
+                                                                 RT_STRING iri );
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequestCstr( TELSX_VERSION version,
+                                                                     const char *method, int64_t length,
+                                                                     RT_STRING iri );
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequestWcstr( TELSX_VERSION version,
+                                                                      const wchar_t *method, int64_t length,
+                                                                      RT_STRING iri );
+RT_API void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,
+                                            RT_STRING method, RT_STRING iri );
+RT_API void telsxMessageFragmentSetRequestCstr( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,
+                                                const char *method, int64_t length, RT_STRING iri );
+RT_API void telsxMessageFragmentSetRequestWcstr( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,
+                                                 const wchar_t *method, int64_t length, RT_STRING iri );
+
+/* Responses, with the usual phrase of the code or with one of the caller's. They abort for a null version and
+ * unless telsxStatusCodeOk and telsxReasonPhraseOk. */
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponse( TELSX_VERSION version, int64_t sc );
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhrase( TELSX_VERSION version,
+                                                                                  int64_t sc,
+                                                                                  RT_STRING reasonPhrase );
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhraseCstr(
+    TELSX_VERSION version, int64_t sc, const char *reasonPhrase, int64_t length );
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhraseWcstr(
+    TELSX_VERSION version, int64_t sc, const wchar_t *reasonPhrase, int64_t length );
+RT_API void telsxMessageFragmentSetResponse( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,
+                                             int64_t sc );
+RT_API void telsxMessageFragmentSetResponseWithReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag,
+                                                             TELSX_VERSION version, int64_t sc,
+                                                             RT_STRING reasonPhrase );
+RT_API void telsxMessageFragmentSetResponseWithReasonPhraseCstr( TELSX_MESSAGE_FRAGMENT *frag,
+                                                                 TELSX_VERSION version, int64_t sc,
+                                                                 const char *reasonPhrase, int64_t length );
+RT_API void telsxMessageFragmentSetResponseWithReasonPhraseWcstr( TELSX_MESSAGE_FRAGMENT *frag,
+                                                                  TELSX_VERSION version, int64_t sc,
+                                                                  const wchar_t *reasonPhrase,
+                                                                  int64_t length );
+
+/* Takes the start line away; headers and body stay. */
+RT_API void telsxMessageFragmentSetNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT *frag );
+
+/* Exactly one of the three holds. */
+RT_API RT_BOOL telsxMessageFragmentIsRequest( TELSX_MESSAGE_FRAGMENT frag );
+RT_API RT_BOOL telsxMessageFragmentIsResponse( TELSX_MESSAGE_FRAGMENT frag );
+RT_API RT_BOOL telsxMessageFragmentIsNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT frag );
+
+/* Single fields of the start line. A getter gives null, or TELSX_STATUS_CODE_INVALID, where the kind has no
+ * such field; a setter aborts there, since it can't turn one kind into another, and for a value that is not
+ * Ok. SetResponseStatusCode also puts in the usual phrase of the code unless updateReasonPhrase is 0. */
+RT_API TELSX_VERSION telsxMessageFragmentVersion( TELSX_MESSAGE_FRAGMENT frag );
+RT_API RT_BOOL telsxMessageFragmentHasVersion( TELSX_MESSAGE_FRAGMENT frag );
+RT_API void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version );
+RT_API RT_STRING telsxMessageFragmentRequestMethod( TELSX_MESSAGE_FRAGMENT frag );
+RT_API void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING method );
+RT_API void telsxMessageFragmentSetRequestMethodCstr( TELSX_MESSAGE_FRAGMENT *frag, const char *method,
+                                                      int64_t length );
+RT_API void telsxMessageFragmentSetRequestMethodWcstr( TELSX_MESSAGE_FRAGMENT *frag, const wchar_t *method,
+                                                       int64_t length );
+RT_API RT_STRING telsxMessageFragmentRequestIri( TELSX_MESSAGE_FRAGMENT frag );
+RT_API void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING iri );
+RT_API void telsxMessageFragmentSetRequestIriCstr( TELSX_MESSAGE_FRAGMENT *frag, const char *iri,
+                                                   int64_t length );
+RT_API void telsxMessageFragmentSetRequestIriWcstr( TELSX_MESSAGE_FRAGMENT *frag, const wchar_t *iri,
+                                                    int64_t length );
+RT_API int64_t telsxMessageFragmentResponseStatusCode( TELSX_MESSAGE_FRAGMENT frag );
+RT_API void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, int64_t sc,
+                                                       RT_BOOL updateReasonPhrase );
+RT_API RT_STRING telsxMessageFragmentResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT frag );
+RT_API void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag,
+                                                         RT_STRING reasonPhrase );
+RT_API void telsxMessageFragmentSetResponseReasonPhraseCstr( TELSX_MESSAGE_FRAGMENT *frag,
+                                                             const char *reasonPhrase, int64_t length );
+RT_API void telsxMessageFragmentSetResponseReasonPhraseWcstr( TELSX_MESSAGE_FRAGMENT *frag,
+                                                              const wchar_t *reasonPhrase, int64_t length );
+
+/* All headers as a new vector. */
+RT_API RT_VECTOR telsxMessageFragmentHeadersVector( TELSX_MESSAGE_FRAGMENT frag );
+
+/* The header of a name in any spelling, a new reference, or null; changes of it come into the fragment by
+ * SetHeader only, which puts a header in the place of all lines of its name. Deleting an absent name changes
+ * nothing. A name that fails telsxMessageHeaderNameOk aborts. */
+RT_API TELSX_MESSAGE_HEADER telsxMessageFragmentHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name );
+RT_API TELSX_MESSAGE_HEADER telsxMessageFragmentHeaderCstr( TELSX_MESSAGE_FRAGMENT frag, const char *name,
+                                                            int64_t length );
+RT_API TELSX_MESSAGE_HEADER telsxMessageFragmentHeaderWcstr( TELSX_MESSAGE_FRAGMENT frag, const wchar_t *name,
+                                                             int64_t length );
+RT_API RT_BOOL telsxMessageFragmentHasHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name );
+RT_API RT_BOOL telsxMessageFragmentHasHeaderCstr( TELSX_MESSAGE_FRAGMENT frag, const char *name,
+                                                  int64_t length );
+RT_API RT_BOOL telsxMessageFragmentHasHeaderWcstr( TELSX_MESSAGE_FRAGMENT frag, const wchar_t *name,
+                                                   int64_t length );
+RT_API void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_HEADER header );
+RT_API void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name );
+RT_API void telsxMessageFragmentDelHeaderCstr( TELSX_MESSAGE_FRAGMENT *frag, const char *name,
+                                               int64_t length );
+RT_API void telsxMessageFragmentDelHeaderWcstr( TELSX_MESSAGE_FRAGMENT *frag, const wchar_t *name,
+                                                int64_t length );
+
+/* The body, a new reference, or null; an empty buffer is a body. Set keeps the buffer itself; null aborts. */
+RT_API RT_BUFFER telsxMessageFragmentBody( TELSX_MESSAGE_FRAGMENT frag );
+RT_API RT_BOOL telsxMessageFragmentHasBody( TELSX_MESSAGE_FRAGMENT frag );
+RT_API void telsxMessageFragmentSetBody( TELSX_MESSAGE_FRAGMENT *frag, RT_BUFFER body );
+RT_API void telsxMessageFragmentDelBody( TELSX_MESSAGE_FRAGMENT *frag );
+
+/* The fragment that the bytes are, as of one datagram; a new reference, or null for bad ones. Lines end in CR
+ * LF, a blank line ends the head. A Content-Length must be a number and no larger than what follows the head,
+ * of which the rest is dropped; without one all bytes behind the head are the body, and an empty body is
+ * none. Null aborts. */
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecode( RT_BUFFER buf );
+
+/* The same for a head alone, without its blank line. contentLength receives the value of Content-Length, or
+ * -1 if there is none and when the result is null; if it is null itself, Content-Length is not looked at and
+ * can't fail the call. */
+RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecodeHeaders( RT_BUFFER buf, int64_t *contentLength );
+
+/* The bytes of the fragment, a new reference: one line for each line of each header, and always one
+ * Content-Length with the true length, in the place of whatever the fragment says. */
+RT_API RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag );
+
+TELSX_FREE_FUNC( MessageFragment )
+
+RT_END
+
+#endif

@@ -1,0 +1,14 @@
+// The inside of a raw header, for the units that carry it between bytes and objects.
+#pragma once
+
+#include "telsx/telsx_frame.hpp"
+#include "telsx/telsx_message_header.h"
+
+struct TELSX_MESSAGE_HEADER_
+{
+    RT_OBJECT object;
+    rt::Ref<RT_STRING> name;  // canonical, never null
+    rt::Ref<RT_VECTOR> lines; // of strings, never null
+
+    static auto fields( auto &self ) { return std::tie( self.name, self.lines ); }
+};

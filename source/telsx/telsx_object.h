@@ -1,0 +1,31 @@
+/* What every public header needs: the declarations that all object types share. */
+#ifndef TELSX_TELSX_OBJECT_H
+#define TELSX_TELSX_OBJECT_H
+
+#include "rt/rt.h"
+
+/* The handle of an object type and the functions that every type has: those of RT_OBJECT_TYPE
+ * (rt/rt_object.h) and CreateFrom, a new object with the same fields, which shares what they refer to; null
+ * aborts.
+ *
+ * The shapes of all other functions, where a type's header says nothing else:
+ *
+ *   Create     a new object, which the caller releases
+ *   getters    a field: objects as a new reference, null if absent; numbers by value, -1 if absent
+ *   Has        whether the field is present
+ *   Set, Del   change the object behind the handle, or put a changed copy there if others hold the object
+ * too; Set retains its argument, which stays the caller's. A null handle aborts, and so does a null address
+ *   Cstr, Wcstr  take a text as 8-bit characters (each is one code point) or as wide characters with a
+ * length, of which -1 means up to the zero
+ *
+ * A value that fails the element's Ok function aborts: who has text from outside asks first. */
+#define TELSX_OBJECT( NAME, SORT )                      \
+    RT_OBJECT_TYPE( RT_API, telsx##NAME, TELSX_##SORT ) \
+    RT_API TELSX_##SORT telsx##NAME##CreateFrom( TELSX_##SORT source );
+
+/* The functions behind the slots of the sort record, which only the runtime calls. */
+#define TELSX_FREE_FUNC( NAME ) RT_API void telsx___##NAME##FreeFunc( RT_OBJ obj );
+#define TELSX_COMPARE_FUNC( NAME ) RT_API int64_t telsx___##NAME##CompareFunc( RT_OBJ objA, RT_OBJ objB );
+#define TELSX_TO_STRING_FUNC( NAME ) RT_API RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj );
+
+#endif

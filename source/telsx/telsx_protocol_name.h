@@ -1,0 +1,24 @@
+/* Protocol name: the first part of a version.
+ *
+ *     protocol-name = "SIP" / token
+ *
+ * (RFC 3261, 25.1) */
+#ifndef TELSX_TELSX_PROTOCOL_NAME_H
+#define TELSX_TELSX_PROTOCOL_NAME_H
+
+#include "rt/rt.h"
+
+RT_BEGIN
+
+/* Whether the text is a protocol name; the empty text is none. Null aborts. */
+RT_API RT_BOOL telsxProtocolNameOk( RT_STRING protocolName );
+
+/* The protocol name in upper case, a new reference. Aborts unless telsxProtocolNameOk. */
+RT_API RT_STRING telsxProtocolNameNormalize( RT_STRING protocolName );
+
+/* How many code points at the start of the text are a protocol name (see telsx_skip.h). */
+RT_API int64_t telsx___SkipProtocolName( const RT_CHAR *chs, int64_t length );
+
+RT_END
+
+#endif

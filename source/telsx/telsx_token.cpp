@@ -1,0 +1,21 @@
+// Token (RFC 3261, 25.1).
+#include "telsx/telsx_token.h"
+
+#include "telsx/telsx_char.hpp"
+#include "telsx/telsx_text.hpp"
+
+using namespace telsx;
+
+RT_BOOL telsxTokenOk( RT_STRING token ) { return covers( telsx___SkipToken, token ); }
+
+RT_STRING telsxTokenNormalize( RT_STRING token )
+{
+    TELSX_ASSERT( telsxTokenOk( token ) );
+    return lowerCase( token );
+}
+
+int64_t telsx___SkipToken( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf( { chs, length }, classToken );
+}

@@ -1,0 +1,63 @@
+// What the tests of all layers share: text to strings and back, aborts with their text, leaks.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "rt/rt.h"
+#include "rt/rt_frame.hpp"
+#include "rt/rt_text.hpp"
+
+namespace support
+{
+
+using rt::adopt;
+using rt::Ref;
+using rt::share;
+using rt::Text;
+
+// A string of UTF-8 text.
+inline Ref<RT_STRING> str( std::string_view utf8 )
+{
+    return adopt( rtStringTryCreateFromUtf8( utf8.data(), static_cast<int64_t>( utf8.size() ) ) );
+}
+
+inline Ref<RT_BUFFER> buffer( std::string_view bytes )
+{
+    return adopt( rtBufferCreateFromBytesCopy( bytes.data(), static_cast<int64_t>( bytes.size() ) ) );
+}
+
+inline std::string bytes( const Ref<RT_BUFFER> &from )
+{
+    if ( !from )
+        return "(null)";
+    return { static_cast<const char *>( rtBufferBacking( from.get() ) ),
+             static_cast<std::size_t>( rtBufferLength( from.get() ) ) };
+}
+
+// The text as UTF-8; "(null)" for no string. The second form takes over the reference.
+inline std::string utf8( const Ref<RT_STRING> &string )
+{
+    if ( !string )
+        return "(null)";
+    return bytes( adopt( rtCharsetStringToBuffer( RT_CHARSET_UTF8, string.get() ) ) );
+}
+inline std::string utf8( RT_STRING string ) { return utf8( adopt( string ) ); }
+
+// Every test must leave as many objects behind as it found.
+class LeakCheck : public testing::EmptyTestEventListener
+{
+    void OnTestStart( const testing::TestInfo & ) override { before = rtObjsAlive(); }
+    void OnTestEnd( const testing::TestInfo & ) override { EXPECT_EQ( before, rtObjsAlive() ) << "objects leaked"; }
+
+    int64_t before = 0;
+};
+
+} // namespace support
+
+// The statement must abort with exactly this condition.
+#define EXPECT_ABORT( STATEMENT, EXPRESSION )                                                                 \
+    EXPECT_DEATH( STATEMENT, testing::HasSubstr( std::string( ": " ) + EXPRESSION + "\n" ) )
