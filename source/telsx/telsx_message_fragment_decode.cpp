@@ -7,6 +7,7 @@
 #include "telsx/telsx_message_fragment.hpp"
 #include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_method.h"
+#include "telsx/telsx_number.hpp"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"
 
@@ -36,14 +37,6 @@ static Bytes trimmed( Bytes bytes )
     while ( !bytes.empty() && isWhite( bytes.back() ) )
         bytes.remove_suffix( 1 );
     return bytes;
-}
-
-// The whole text as a number of 0 or more, else -1.
-static int64_t tryDecodeNumber( Text text )
-{
-    int64_t value = -1, consumed = 0;
-    bool decoded = rtFormatTryDecodeIntChars( text.chs, text.length, 10, &value, &consumed );
-    return decoded && consumed == text.length ? value : -1;
 }
 
 enum class StartLine

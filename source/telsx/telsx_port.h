@@ -1,4 +1,4 @@
-/* Port.
+/* Port. It has no upper limit here, as the grammar has none.
  *
  *     port = 1*DIGIT
  *
@@ -10,7 +10,16 @@
 
 RT_BEGIN
 
-/* How many code points at the start of the text are a port (see telsx_skip.h). */
+/* Whether the number is 0 or more. */
+RT_API RT_BOOL telsxPortOk( int64_t port );
+
+/* For the library's own units. Encode gives the decimal digits, a new reference, and aborts unless
+ * telsxPortOk. TryDecode takes digits and nothing else and gives their value, -1 for bad text and for a
+ * number that is not Ok. */
+RT_API RT_STRING telsx___PortEncode( int64_t port );
+RT_API int64_t telsx___PortTryDecode( const RT_CHAR *chs, int64_t length );
+
+/* How many code points at the start of the text are digits (see telsx_skip.h). */
 RT_API int64_t telsx___SkipPort( const RT_CHAR *chs, int64_t length );
 
 RT_END

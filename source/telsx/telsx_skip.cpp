@@ -2,9 +2,24 @@
 #include "telsx/telsx_skip.h"
 
 #include <algorithm>
+#include <span>
+#include <string_view>
 
 #include "telsx/telsx_char.hpp"
+#include "telsx/telsx_content_coding.h"
+#include "telsx/telsx_host.h"
+#include "telsx/telsx_iri.h"
+#include "telsx/telsx_media_subtype.h"
+#include "telsx/telsx_media_type.h"
+#include "telsx/telsx_port.h"
+#include "telsx/telsx_protocol_name.h"
+#include "telsx/telsx_protocol_version.h"
+#include "telsx/telsx_reason_protocol.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_token.h"
+#include "telsx/telsx_transport.h"
+#include "telsx/telsx_warn_agent.h"
+#include "telsx/telsx_warn_code.h"
 
 using namespace telsx;
 
@@ -216,4 +231,232 @@ int64_t telsx___SkipComment( const RT_CHAR *chs, int64_t length )
         at += count;
     }
     return depth ? 0 : at;
+}
+
+// Composites. A sequence takes all its parts or gives 0.
+
+template <class... SKIPPER> static int64_t skipAll( Text text, SKIPPER... parts )
+{
+    Text rest = text;
+    return ( rest.take( parts ) && ... ) ? text.length - rest.length : 0;
+}
+
+// The first that finds anything.
+template <class... SKIPPER> static int64_t skipAny( Text text, SKIPPER... alternatives )
+{
+    int64_t found = 0;
+    (void)( ( found = alternatives( text.chs, text.length ) ) || ... );
+    return found;
+}
+
+// Elements behind semicolons, up to a semicolon that none follows.
+static int64_t skipParams( Text text, Skipper skipParam )
+{
+    Text rest = text;
+    while ( int64_t param = skipAll( rest, telsx___SkipSemi, skipParam ) )
+        rest.take( param );
+    return text.length - rest.length;
+}
+
+// A front that must be there and the generic parameters behind it.
+static int64_t skipWithParams( Text text, int64_t front )
+{
+    return front ? front + skipParams( text.behind( front ), telsx___SkipGenericParam ) : 0;
+}
+
+int64_t telsx___SkipDisplayName( const RT_CHAR *chs, int64_t length )
+{
+    if ( int64_t quoted = telsx___SkipQuotedString( chs, length ) )
+        return quoted;
+    Text rest = { chs, length };
+    while ( rest.take( telsx___SkipToken ) )
+        rest.take( telsx___SkipLws );
+    return length - rest.length;
+}
+
+int64_t telsx___SkipNameAddr( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    Text name = rest.take( telsx___SkipDisplayName );
+    int64_t address = skipAll( rest, telsx___SkipLaquot, telsx___SkipUri, telsx___SkipRaquot );
+    return address ? name.length + address : 0;
+}
+
+int64_t telsx___SkipGenericParam( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    if ( !rest.take( telsx___SkipToken ) )
+        return 0;
+    if ( !rest.take( telsx___SkipEqual ) )
+        return length - rest.length;
+    int64_t value = skipAny( rest, telsx___SkipToken, telsx___SkipHost, telsx___SkipQuotedString );
+    return value ? length - rest.length + value : 0;
+}
+
+int64_t telsx___SkipGenericParams( const RT_CHAR *chs, int64_t length )
+{
+    return skipParams( { chs, length }, telsx___SkipGenericParam );
+}
+
+int64_t telsx___SkipContact( const RT_CHAR *chs, int64_t length )
+{
+    Text text = { chs, length };
+    return skipWithParams( text, skipAny( text, telsx___SkipNameAddr, telsx___SkipAddrSpec ) );
+}
+
+int64_t telsx___SkipRoute( const RT_CHAR *chs, int64_t length )
+{
+    return skipWithParams( { chs, length }, telsx___SkipNameAddr( chs, length ) );
+}
+
+int64_t telsx___SkipDiversion( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipRoute( chs, length );
+}
+
+int64_t telsx___SkipHistoryInfo( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipRoute( chs, length );
+}
+
+int64_t telsx___SkipIdentityValue( const RT_CHAR *chs, int64_t length )
+{
+    return skipAny( { chs, length }, telsx___SkipNameAddr, telsx___SkipAddrSpec );
+}
+
+int64_t telsx___SkipAlertInfo( const RT_CHAR *chs, int64_t length )
+{
+    Text text = { chs, length };
+    return skipWithParams( text, skipAll( text, telsx___SkipLaquot, telsx___SkipUri, telsx___SkipRaquot ) );
+}
+
+int64_t telsx___SkipCallInfo( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipAlertInfo( chs, length );
+}
+
+int64_t telsx___SkipErrorInfo( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipAlertInfo( chs, length );
+}
+
+int64_t telsx___SkipReason( const RT_CHAR *chs, int64_t length )
+{
+    return skipWithParams( { chs, length }, telsx___SkipReasonProtocol( chs, length ) );
+}
+
+int64_t telsx___SkipAcceptEncoding( const RT_CHAR *chs, int64_t length )
+{
+    return skipWithParams( { chs, length }, telsx___SkipContentCoding( chs, length ) );
+}
+
+// The wildcard: a star that is no part of a longer token.
+static int64_t skipStar( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipToken( chs, length ) == 1 && chs[0] == '*';
+}
+
+int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length )
+{
+    Text text = { chs, length };
+    int64_t range = skipAll( text, telsx___SkipMediaType, telsx___SkipSlash, telsx___SkipMediaSubtype );
+    if ( !range )
+        range = skipAll( text, telsx___SkipMediaType, telsx___SkipSlash, skipStar );
+    if ( !range )
+        range = skipAll( text, skipStar, telsx___SkipSlash, skipStar );
+    return skipWithParams( text, range );
+}
+
+int64_t telsx___SkipVersion( const RT_CHAR *chs, int64_t length )
+{
+    return skipAll( { chs, length }, telsx___SkipProtocolName, telsx___SkipSlash,
+                    telsx___SkipProtocolVersion );
+}
+
+int64_t telsx___SkipVia( const RT_CHAR *chs, int64_t length )
+{
+    Text text = { chs, length }, rest = text;
+    if ( !rest.take( skipAll( text, telsx___SkipVersion, telsx___SkipSlash, telsx___SkipTransport,
+                              telsx___SkipLws, telsx___SkipHost ) ) )
+        return 0;
+    if ( rest.take( telsx___SkipColon ) && !rest.take( telsx___SkipPort ) )
+        return 0;
+    return length - rest.length + skipParams( rest, telsx___SkipViaParams );
+}
+
+int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length )
+{
+    return skipAny( { chs, length }, telsx___SkipViaReceived, telsx___SkipGenericParam );
+}
+
+int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    if ( !rest.take( skipWordInAnyCase( rest, literal<"received">() ) ) || !rest.take( telsx___SkipEqual ) )
+        return 0;
+    int64_t address = skipAny( rest, telsx___SkipIpV6Address, telsx___SkipIpV4Address );
+    return address ? length - rest.length + address : 0;
+}
+
+int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length )
+{
+    return skipAll( { chs, length }, telsx___SkipWarnCode, telsx___SkipLws, telsx___SkipWarnAgent,
+                    telsx___SkipLws, telsx___SkipQuotedString );
+}
+
+int64_t telsx___SkipServerVal( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    if ( !rest.take( telsx___SkipToken ) )
+        return telsx___SkipComment( chs, length );
+    if ( rest.take( telsx___SkipSlash ) && !rest.take( telsx___SkipToken ) )
+        return 0;
+    return length - rest.length;
+}
+
+int64_t telsx___SkipServer( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    do
+    {
+        if ( !rest.take( telsx___SkipServerVal ) )
+            return 0;
+    } while ( rest.take( telsx___SkipLws ) );
+    return length - rest.length;
+}
+
+int64_t telsx___SkipUserAgent( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipServer( chs, length );
+}
+
+// The names in order; the number of the one that the text begins with goes to index.
+static int64_t skipName( Text text, std::span<const std::string_view> names, int64_t firstIndex,
+                         int64_t *index )
+{
+    TELSX_ASSERT_CHARS( text.chs, text.length );
+    for ( std::string_view name : names )
+    {
+        if ( text.length >= 3 && std::equal( name.begin(), name.end(), text.chs ) )
+        {
+            if ( index )
+                *index = firstIndex;
+            return 3;
+        }
+        ++firstIndex;
+    }
+    return 0;
+}
+
+int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month )
+{
+    static constexpr std::string_view months[] = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
+    return skipName( { chs, length }, months, 1, month );
+}
+
+int64_t telsx___SkipWkday( const RT_CHAR *chs, int64_t length, int64_t *weekday )
+{
+    static constexpr std::string_view weekdays[] = { "Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun" };
+    return skipName( { chs, length }, weekdays, 0, weekday );
 }

@@ -63,6 +63,78 @@ RT_API int64_t telsx___SkipQuotedString( const RT_CHAR *chs, int64_t length );
 /* A text in parentheses, which nest without limit, with white space around it (RFC 3261, 25.1, comment). */
 RT_API int64_t telsx___SkipComment( const RT_CHAR *chs, int64_t length );
 
+/* What values consist of. In the grammars LAQUOT, RAQUOT, SEMI, SLASH, COLON, EQUAL and LWS are the skippers
+ * above; LWS must find at least one white space.
+ *
+ *     display-name = quoted-string / *( token [ LWS ] )
+ *     name-addr = [ display-name ] LAQUOT URI RAQUOT
+ *     generic-param = token [ EQUAL ( token / host / quoted-string ) ]
+ *     generic-params = *( SEMI generic-param )
+ *
+ * (RFC 3261, 25.1.) The white space behind a token of a display name counts, that behind a quoted one does
+ * not. */
+RT_API int64_t telsx___SkipDisplayName( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipNameAddr( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipGenericParam( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipGenericParams( const RT_CHAR *chs, int64_t length );
+
+/* Values that are an address.
+ *
+ *     contact = ( name-addr / addr-spec ) generic-params           RFC 3261, 20.10
+ *     route, diversion, history-info = name-addr generic-params    RFC 3261, 20.34; RFC 5806; RFC 7044
+ *     identity-value = name-addr / addr-spec                       RFC 3325, 9.1
+ *     alert-info, call-info, error-info = LAQUOT URI RAQUOT generic-params    RFC 3261, 20.4, 20.9, 20.18 */
+RT_API int64_t telsx___SkipContact( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipRoute( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipDiversion( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipHistoryInfo( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipIdentityValue( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipAlertInfo( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipCallInfo( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipErrorInfo( const RT_CHAR *chs, int64_t length );
+
+/* Values that begin with a token.
+ *
+ *     reason = reason-protocol generic-params               RFC 3326, 2
+ *     accept-encoding = content-coding generic-params       RFC 3261, 20.2; the star is a token
+ *     accept = ( media-type SLASH media-subtype / media-type SLASH "*" / "*" SLASH "*" ) generic-params RFC
+ * 3261, 20.1 */
+RT_API int64_t telsx___SkipReason( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipAcceptEncoding( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length );
+
+/* Via values (RFC 3261, 20.42). A colon that no port follows makes the whole 0. An address without brackets
+ * may stand as the value of received, where a generic parameter has no place for it.
+ *
+ *     version = protocol-name SLASH protocol-version
+ *     via = version SLASH transport LWS host [ COLON port ] *( SEMI via-params )
+ *     via-params = via-received / generic-param
+ *     via-received = "received" EQUAL ( IPv6address / IPv4address ) */
+RT_API int64_t telsx___SkipVersion( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipVia( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length );
+
+/* Warning values (RFC 3261, 20.43).
+ *
+ *     warning-value = warn-code LWS warn-agent LWS quoted-string */
+RT_API int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length );
+
+/* Server and User-Agent texts (RFC 3261, 20.35 and 20.41). White space must be followed by a value, so that
+ * at the end it makes the whole 0; a comment takes the white space behind it along and ends the text.
+ *
+ *     server-val = token [ SLASH token ] / comment
+ *     server, user-agent = server-val *( LWS server-val ) */
+RT_API int64_t telsx___SkipServerVal( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipServer( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipUserAgent( const RT_CHAR *chs, int64_t length );
+
+/* The names of dates (RFC 3261, 20.17), in exactly this case: "Jan" to "Dec" give 3 and 1 to 12 in month,
+ * "Mon" to "Sun" give 3 and 0 to 6 in weekday. The second argument may be null, and stays as it is without a
+ * match. */
+RT_API int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month );
+RT_API int64_t telsx___SkipWkday( const RT_CHAR *chs, int64_t length, int64_t *weekday );
+
 RT_END
 
 #endif

@@ -4,6 +4,7 @@
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx_frame.hpp"
+#include "telsx/telsx_skip.h"
 
 namespace telsx
 {
@@ -36,6 +37,13 @@ inline RT_STRING upperCase( RT_STRING string )
     Ref<RT_STRING> upper = share( string );
     rtStringToUpper( upper.address() );
     return upper.take();
+}
+
+// The length of the word if the text begins with it, its letters in any case, else 0.
+inline int64_t skipWordInAnyCase( Text text, RT_STRING word )
+{
+    return telsx___SkipCharsAsciiCaseFold( text.chs, text.length, rtStringBacking( word ),
+                                           rtStringLength( word ) );
 }
 
 // Elements with single dots between them; a dot that no element follows is left alone.

@@ -1,0 +1,27 @@
+/* Delta seconds: a time span.
+ *
+ *     delta-seconds = 1*DIGIT
+ *
+ * (RFC 3261, 25.1) */
+#ifndef TELSX_TELSX_DELTA_SECONDS_H
+#define TELSX_TELSX_DELTA_SECONDS_H
+
+#include "rt/rt.h"
+
+RT_BEGIN
+
+/* Whether the number is 0 or more. */
+RT_API RT_BOOL telsxDeltaSecondsOk( int64_t deltaSeconds );
+
+/* For the library's own units. Encode gives the decimal digits, a new reference, and aborts unless
+ * telsxDeltaSecondsOk. TryDecode takes digits and nothing else and gives their value, -1 for bad text and for
+ * a number that is not Ok. */
+RT_API RT_STRING telsx___DeltaSecondsEncode( int64_t deltaSeconds );
+RT_API int64_t telsx___DeltaSecondsTryDecode( const RT_CHAR *chs, int64_t length );
+
+/* How many code points at the start of the text are digits (see telsx_skip.h). */
+RT_API int64_t telsx___SkipDeltaSeconds( const RT_CHAR *chs, int64_t length );
+
+RT_END
+
+#endif

@@ -1,0 +1,20 @@
+// Privacy value (RFC 3323, 4.2).
+#include "telsx/telsx_priv_value.h"
+
+#include "telsx/telsx_text.hpp"
+#include "telsx/telsx_token.h"
+
+using namespace telsx;
+
+RT_BOOL telsxPrivValueOk( RT_STRING privValue ) { return covers( telsx___SkipPrivValue, privValue ); }
+
+RT_STRING telsxPrivValueNormalize( RT_STRING privValue )
+{
+    TELSX_ASSERT( telsxPrivValueOk( privValue ) );
+    return lowerCase( privValue );
+}
+
+int64_t telsx___SkipPrivValue( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipToken( chs, length );
+}

@@ -1,0 +1,21 @@
+/* Message id of a Referred-By token, without its quotes.
+ *
+ *     sip-clean-msg-id = dot-atom "@" ( dot-atom / host )
+ *
+ * (RFC 3892, 5) */
+#ifndef TELSX_TELSX_SIP_CLEAN_MSG_ID_H
+#define TELSX_TELSX_SIP_CLEAN_MSG_ID_H
+
+#include "rt/rt.h"
+
+RT_BEGIN
+
+/* Whether the text is a message id; the empty text is none. Null aborts. */
+RT_API RT_BOOL telsxSipCleanMsgIdOk( RT_STRING sipCleanMsgId );
+
+/* How many code points at the start of the text are the element (see telsx_skip.h). */
+RT_API int64_t telsx___SkipSipCleanMsgId( const RT_CHAR *chs, int64_t length );
+
+RT_END
+
+#endif

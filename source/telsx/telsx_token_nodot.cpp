@@ -1,0 +1,21 @@
+// Token without dot (RFC 6665, 8.4).
+#include "telsx/telsx_token_nodot.h"
+
+#include "telsx/telsx_char.hpp"
+#include "telsx/telsx_text.hpp"
+
+using namespace telsx;
+
+RT_BOOL telsxTokenNodotOk( RT_STRING tokenNodot ) { return covers( telsx___SkipTokenNodot, tokenNodot ); }
+
+RT_STRING telsxTokenNodotNormalize( RT_STRING tokenNodot )
+{
+    TELSX_ASSERT( telsxTokenNodotOk( tokenNodot ) );
+    return lowerCase( tokenNodot );
+}
+
+int64_t telsx___SkipTokenNodot( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf( { chs, length }, classTokenNodot );
+}

@@ -1,0 +1,20 @@
+// Transport (RFC 3261, 25.1).
+#include "telsx/telsx_transport.h"
+
+#include "telsx/telsx_text.hpp"
+#include "telsx/telsx_token.h"
+
+using namespace telsx;
+
+RT_BOOL telsxTransportOk( RT_STRING transport ) { return covers( telsx___SkipTransport, transport ); }
+
+RT_STRING telsxTransportNormalize( RT_STRING transport )
+{
+    TELSX_ASSERT( telsxTransportOk( transport ) );
+    return lowerCase( transport );
+}
+
+int64_t telsx___SkipTransport( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipToken( chs, length );
+}

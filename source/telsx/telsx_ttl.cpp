@@ -1,0 +1,22 @@
+// Time to live of a multicast packet (RFC 3261, 25.1).
+#include "telsx/telsx_ttl.h"
+
+#include "telsx/telsx_number.hpp"
+#include "telsx/telsx_skip.h"
+
+using namespace telsx;
+
+RT_BOOL telsxTtlOk( int64_t ttl ) { return ttl >= 0 && ttl <= 255; }
+
+RT_STRING telsx___TtlEncode( int64_t ttl )
+{
+    TELSX_ASSERT( telsxTtlOk( ttl ) );
+    return encodeNumber( ttl );
+}
+
+int64_t telsx___TtlTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    return tryDecodeNumber( { chs, length }, telsxTtlOk );
+}
+
+int64_t telsx___SkipTtl( const RT_CHAR *chs, int64_t length ) { return telsx___SkipDigits( chs, length ); }
