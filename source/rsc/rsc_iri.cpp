@@ -97,7 +97,8 @@ static int64_t skipScheme( Text text )
     return length;
 }
 
-static Found find( Text text )
+// The IRI, of which the character is no part.
+static Found find( Text text, RT_CHAR end = UINT32_MAX )
 {
     Found found;
     Text rest = text;
@@ -114,7 +115,7 @@ static Found find( Text text )
             rest.take( 2 );
             continue;
         }
-        if ( !place.takes( ch ) )
+        if ( ch == end || !place.takes( ch ) )
             break;
         found.unicode |= ch >= 0x80;
         found.convertible |= ch == '-' && rest.length > 1 && rest.chs[1] == '-';
@@ -170,7 +171,11 @@ static void appendEncoded( Ref<RT_STRING> *uri, Text text )
         if ( bytes[i] < 0x80 )
             rtStringAppendChar( uri->address(), bytes[i] );
         else
-            rtStringAppendFormatCstr( uri->address(), "%%%^02!16i", -1, int64_t( bytes[i] ) );
+        {
+            const char *digits = "0123456789ABCDEF";
+            const char escape[] = { '%', digits[bytes[i] >> 4], digits[bytes[i] & 0xF] };
+            rtStringAppendCstr( uri->address(), escape, sizeof escape );
+        }
 }
 
 // Takes one character, and with it the escapes that it is written in, if an IRI takes it there.
@@ -268,6 +273,13 @@ int64_t rsc___SkipIri( const RT_CHAR *chs, int64_t length )
     RT_ASSERT( length >= 0 );
     RT_ASSERT( chs || length == 0 );
     return find( { chs, length } ).length;
+}
+
+int64_t rsc___SkipIriUntil( const RT_CHAR *chs, int64_t length, RT_CHAR end )
+{
+    RT_ASSERT( length >= 0 );
+    RT_ASSERT( chs || length == 0 );
+    return find( { chs, length }, end ).length;
 }
 
 int64_t rsc___SkipIpV4Address( const RT_CHAR *chs, int64_t length )

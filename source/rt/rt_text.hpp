@@ -23,6 +23,13 @@ struct Text
     Text first( int64_t count ) const { return { chs, count }; }
     Text behind( int64_t count ) const { return { chs + count, length - count }; }
 
+    // What a decoder makes of the text.
+    template <class RESULT>
+    RESULT as( RESULT ( *decode )( const RT_CHAR *chs, int64_t length ) ) const
+    {
+        return decode( chs, length );
+    }
+
     // Takes that many code points, or the element at the start, away and returns it; empty if there is none.
     Text take( int64_t count )
     {

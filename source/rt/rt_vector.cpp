@@ -111,11 +111,16 @@ int64_t rtVectorLength( RT_VECTOR vector )
     return vector->length;
 }
 
-RT_OBJ rtVectorObjAt( RT_VECTOR vector, int64_t index )
+RT_OBJ rt___VectorObjBorrowed( RT_VECTOR vector, int64_t index )
 {
     RT_ASSERT( vector );
     RT_ASSERT( index >= 0 && index < vector->length );
-    return rt::share( vector->begin()[index] ).take();
+    return vector->begin()[index];
+}
+
+RT_OBJ rtVectorObjAt( RT_VECTOR vector, int64_t index )
+{
+    return rt::share( rt___VectorObjBorrowed( vector, index ) ).take();
 }
 
 RT_BOOL rtVectorContainsOnly( RT_VECTOR vector, RT_SORT sort )

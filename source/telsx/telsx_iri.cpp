@@ -1,8 +1,6 @@
 // IRI (RFC 3987) and the URIs of the grammar (RFC 3261, 25.1).
 #include "telsx/telsx_iri.h"
 
-#include <algorithm>
-
 #include "rsc/rsc.h"
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_text.hpp"
@@ -17,12 +15,9 @@ RT_BOOL telsxIriOk( RT_STRING iri )
 
 int64_t telsx___SkipUri( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIri( chs, length ); }
 
-// The URI ends before the first character that none may hold, so the semicolon is looked for inside the URI:
-// nothing behind is walked.
 int64_t telsx___SkipAddrSpec( const RT_CHAR *chs, int64_t length )
 {
-    int64_t uri = telsx___SkipUri( chs, length );
-    return std::find( chs, chs + uri, RT_CHAR( ';' ) ) - chs;
+    return rsc___SkipIriUntil( chs, length, ';' );
 }
 
 int64_t telsx___SkipUric( const RT_CHAR *chs, int64_t length )

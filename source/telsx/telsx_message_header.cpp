@@ -215,8 +215,7 @@ RT_STORE telsxMessageHeaderStoreLines( TELSX_MESSAGE_HEADER header )
     return store.take();
 }
 
-// Whether each text of the store is a line.
-static bool holdsLines( RT_STORE store )
+bool telsx::holdsLines( RT_STORE store )
 {
     for ( int64_t i = 0; i < rtStoreLength( store ); ++i )
         if ( auto line = adopt( rtStoreValueAt( store, i ) );

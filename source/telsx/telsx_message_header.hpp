@@ -12,3 +12,11 @@ struct TELSX_MESSAGE_HEADER_
 
     static auto fields( auto &self ) { return std::tie( self.name, self.lines ); }
 };
+
+namespace telsx
+{
+
+// Whether each text of the store is a line.
+bool holdsLines( RT_STORE store );
+
+} // namespace telsx

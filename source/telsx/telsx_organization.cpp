@@ -21,5 +21,6 @@ RT_STRING telsxOrganizationNormalize( RT_STRING organization )
 
 int64_t telsx___SkipOrganization( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipWords( { chs, length } );
 }

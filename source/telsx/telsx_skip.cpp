@@ -434,7 +434,6 @@ int64_t telsx___SkipUserAgent( const RT_CHAR *chs, int64_t length )
 static int64_t skipName( Text text, std::span<const std::string_view> names, int64_t firstIndex,
                          int64_t *index )
 {
-    TELSX_ASSERT_CHARS( text.chs, text.length );
     for ( std::string_view name : names )
     {
         if ( text.length >= 3 && std::equal( name.begin(), name.end(), text.chs ) )
@@ -450,6 +449,7 @@ static int64_t skipName( Text text, std::span<const std::string_view> names, int
 
 int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     static constexpr std::string_view months[] = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                    "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
     return skipName( { chs, length }, months, 1, month );
@@ -457,6 +457,7 @@ int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month )
 
 int64_t telsx___SkipWkday( const RT_CHAR *chs, int64_t length, int64_t *weekday )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     static constexpr std::string_view weekdays[] = { "Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun" };
     return skipName( { chs, length }, weekdays, 0, weekday );
 }

@@ -97,8 +97,8 @@ RT_API int64_t telsx___SkipErrorInfo( const RT_CHAR *chs, int64_t length );
  *
  *     reason = reason-protocol generic-params               RFC 3326, 2
  *     accept-encoding = content-coding generic-params       RFC 3261, 20.2; the star is a token
- *     accept = ( media-type SLASH media-subtype / media-type SLASH "*" / "*" SLASH "*" ) generic-params RFC
- * 3261, 20.1 */
+ *     accept = ( media-type SLASH media-subtype / media-type SLASH "*" / "*" SLASH "*" ) generic-params
+ *                                                           RFC 3261, 20.1 */
 RT_API int64_t telsx___SkipReason( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipAcceptEncoding( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length );

@@ -18,4 +18,8 @@ RT_STRING telsxSubjectNormalize( RT_STRING subject )
     return normalizeWords( subject );
 }
 
-int64_t telsx___SkipSubject( const RT_CHAR *chs, int64_t length ) { return skipWords( { chs, length } ); }
+int64_t telsx___SkipSubject( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipWords( { chs, length } );
+}

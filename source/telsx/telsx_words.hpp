@@ -18,7 +18,6 @@ inline int64_t skipWord( const RT_CHAR *chs, int64_t length )
 // Words up to the end of the last; white space behind it isn't counted.
 inline int64_t skipWords( Text text )
 {
-    TELSX_ASSERT_CHARS( text.chs, text.length );
     Text rest = text;
     int64_t end = 0;
     while ( rest.take( skipWord ) )

@@ -1,0 +1,46 @@
+// What From and To share.
+#include "telsx/telsx_from_to.hpp"
+
+#include "telsx/telsx_epid.h"
+#include "telsx/telsx_tag.h"
+
+namespace telsx
+{
+
+Ref<RT_STRING> encodeFromTo( const FromTo &hdr )
+{
+    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    appendAddress( text, hdr.iri, hdr.displayName );
+    if ( hdr.tag )
+        rtStringAppendFormatCstr( text.address(), ";tag=%s", -1, hdr.tag.get() );
+    if ( hdr.epid )
+        rtStringAppendFormatCstr( text.address(), ";epid=%s", -1, hdr.epid.get() );
+    appendGenericParams(
+        text, hdr.genericParams.get(),
+        { { literal<"tag">(), rt::present( hdr.tag ) }, { literal<"epid">(), rt::present( hdr.epid ) } } );
+    return text;
+}
+
+bool decodeFromTo( FromTo &hdr, Text line )
+{
+    Text rest = line;
+    Address address;
+    if ( !takeAddress( rest, address ) )
+        return false;
+    hdr.iri = std::move( address.iri );
+    hdr.displayName = std::move( address.displayName );
+    hdr.genericParams = adopt( telsxGenericParamsCreate() );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"tag">( telsx___SkipTag ) )
+            param.store( hdr.tag, param.value.copy() );
+        if ( param.is<"epid">( telsx___SkipEpid ) )
+            param.store( hdr.epid, param.value.copy() );
+        param.storeGeneric( hdr.genericParams );
+    }
+    return !param.failed();
+}
+
+} // namespace telsx

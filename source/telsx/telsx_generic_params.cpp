@@ -1,0 +1,208 @@
+// Generic parameters (RFC 3261, 25.1).
+#include "telsx/telsx_generic_params.h"
+
+#include <algorithm>
+
+#include "telsx/telsx_generic_param.hpp"
+#include "telsx/telsx_generic_param_name.h"
+#include "telsx/telsx_generic_params.hpp"
+#include "telsx/telsx_text.hpp"
+
+using namespace telsx;
+
+TELSX_DEFINE_OBJECT( GenericParams, GENERIC_PARAMS, telsx___GenericParamsFreeFunc,
+                     telsx___GenericParamsCompareFunc, telsx___GenericParamsToStringFunc )
+TELSX_DEFINE_FREE_FUNC( GenericParams, params )
+TELSX_DEFINE_COMPARE_FUNC( GenericParams, params )
+TELSX_DEFINE_TO_STRING_FUNC( GenericParams, params )
+
+TELSX_GENERIC_PARAMS telsxGenericParamsCreate( void )
+{
+    TELSX_GENERIC_PARAMS params = rt::create<TELSX_GENERIC_PARAMS_>( telsxGenericParamsSort() );
+    params->params = adopt( rtDictCreate() );
+    return params;
+}
+
+// All parameters
+
+int64_t telsxGenericParamsLength( TELSX_GENERIC_PARAMS params )
+{
+    TELSX_ASSERT( params );
+    return rtDictLength( params->params.get() );
+}
+
+RT_VECTOR telsxGenericParamsParamsVector( TELSX_GENERIC_PARAMS params )
+{
+    TELSX_ASSERT( params );
+    return rtDictValuesVector( params->params.get() );
+}
+
+void telsxGenericParamsSetParamsVector( TELSX_GENERIC_PARAMS *params, RT_VECTOR vector )
+{
+    TELSX_ASSERT_HANDLE( params );
+    TELSX_ASSERT( vector );
+    TELSX_ASSERT( rtVectorContainsOnly( vector, telsxGenericParamSort() ) );
+    rtDictClear( TELSX_OWN( params )->params.address() );
+    for ( int64_t i = 0; i < rtVectorLength( vector ); ++i )
+        telsxGenericParamsSetParam( params,
+                                    telsxGenericParamFrom( adopt( rtVectorObjAt( vector, i ) ).get() ) );
+}
+
+TELSX_GENERIC_PARAM telsxGenericParamsParamAt( TELSX_GENERIC_PARAMS params, int64_t index )
+{
+    TELSX_ASSERT( params );
+    return telsxGenericParamFrom( rtDictValueAt( params->params.get(), index ) );
+}
+
+int64_t telsxGenericParamsParamValueTypeAt( TELSX_GENERIC_PARAMS params, int64_t index )
+{
+    return telsxGenericParamValueType( adopt( telsxGenericParamsParamAt( params, index ) ).get() );
+}
+
+RT_STRING telsxGenericParamsParamValueNormalizedAt( TELSX_GENERIC_PARAMS params, int64_t index )
+{
+    return telsxGenericParamValueNormalized( adopt( telsxGenericParamsParamAt( params, index ) ).get() );
+}
+
+RT_STRING telsxGenericParamsParamValueNonNormalizedAt( TELSX_GENERIC_PARAMS params, int64_t index )
+{
+    return telsxGenericParamValueNonNormalized( adopt( telsxGenericParamsParamAt( params, index ) ).get() );
+}
+
+// Parameters by name
+
+TELSX_GENERIC_PARAM telsxGenericParamsParam( TELSX_GENERIC_PARAMS params, RT_STRING name )
+{
+    TELSX_ASSERT( params );
+    Ref<RT_STRING> normal = adopt( telsxGenericParamNameNormalize( name ) );
+    return telsxGenericParamFrom( rtDictStringKey( params->params.get(), normal.get() ) );
+}
+
+RT_BOOL telsxGenericParamsHasParam( TELSX_GENERIC_PARAMS params, RT_STRING name )
+{
+    return bool( adopt( telsxGenericParamsParam( params, name ) ) );
+}
+
+void telsxGenericParamsSetParam( TELSX_GENERIC_PARAMS *params, TELSX_GENERIC_PARAM param )
+{
+    TELSX_ASSERT_HANDLE( params );
+    TELSX_ASSERT( param );
+    rtDictSetStringKey( TELSX_OWN( params )->params.address(), param->name.get(),
+                        telsxGenericParamObj( param ) );
+}
+
+void telsxGenericParamsDelParam( TELSX_GENERIC_PARAMS *params, RT_STRING name )
+{
+    TELSX_ASSERT_HANDLE( params );
+    Ref<RT_STRING> normal = adopt( telsxGenericParamNameNormalize( name ) );
+    rtDictDelStringKey( TELSX_OWN( params )->params.address(), normal.get() );
+}
+
+int64_t telsxGenericParamsParamValueType( TELSX_GENERIC_PARAMS params, RT_STRING name )
+{
+    Ref<TELSX_GENERIC_PARAM> param = adopt( telsxGenericParamsParam( params, name ) );
+    return param ? telsxGenericParamValueType( param.get() ) : -1;
+}
+
+RT_STRING telsxGenericParamsParamValueNormalized( TELSX_GENERIC_PARAMS params, RT_STRING name )
+{
+    Ref<TELSX_GENERIC_PARAM> param = adopt( telsxGenericParamsParam( params, name ) );
+    return param ? telsxGenericParamValueNormalized( param.get() ) : nullptr;
+}
+
+RT_STRING telsxGenericParamsParamValueNonNormalized( TELSX_GENERIC_PARAMS params, RT_STRING name )
+{
+    Ref<TELSX_GENERIC_PARAM> param = adopt( telsxGenericParamsParam( params, name ) );
+    return param ? telsxGenericParamValueNonNormalized( param.get() ) : nullptr;
+}
+
+void telsxGenericParamsSetParamValue( TELSX_GENERIC_PARAMS *params, RT_STRING name, int64_t type,
+                                      RT_STRING value )
+{
+    telsxGenericParamsSetParam( params,
+                                adopt( telsxGenericParamCreateWithValue( name, type, value ) ).get() );
+}
+
+// The text
+
+RT_STRING telsx___GenericParamsEncode( TELSX_GENERIC_PARAMS params )
+{
+    TELSX_ASSERT( params );
+    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    appendGenericParams( text, params );
+    return text.take();
+}
+
+TELSX_GENERIC_PARAMS telsx___GenericParamsTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    Ref<TELSX_GENERIC_PARAMS> params = adopt( telsxGenericParamsCreate() );
+    for ( Text rest = { chs, length }; rest; )
+    {
+        if ( !rest.take( telsx___SkipSemi ) )
+            return nullptr;
+        if ( !rest )
+            break;
+        auto param = adopt( rest.take( telsx___SkipGenericParam ).as( telsx___GenericParamTryDecode ) );
+        if ( !param )
+            return nullptr;
+        telsxGenericParamsSetParam( params.address(), param.get() );
+    }
+    return params.take();
+}
+
+void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS params,
+                                 std::initializer_list<FieldParam> fields )
+{
+    for ( int64_t i = 0; i < rtDictLength( params->params.get() ); ++i )
+    {
+        auto param = adopt( telsxGenericParamsParamAt( params, i ) );
+        bool standsInField =
+            std::any_of( fields.begin(), fields.end(),
+                         [&]( const FieldParam &field )
+                         { return field.isPresent && rtStringEquals( field.name, param->name.get() ); } );
+        if ( !standsInField )
+            rtStringAppendFormatCstr( text.address(), ";%~s", -1, telsx___GenericParamEncode( param.get() ) );
+    }
+}
+
+// What takes a name, with the name as 8-bit and as wide characters
+
+#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
+    TELSX_GENERIC_PARAM telsxGenericParamsParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,      \
+                                                         int64_t length )                                    \
+    {                                                                                                        \
+        return telsxGenericParamsParam( params, text( name, length ).get() );                                \
+    }                                                                                                        \
+    RT_BOOL telsxGenericParamsHasParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,               \
+                                                int64_t length )                                             \
+    {                                                                                                        \
+        return telsxGenericParamsHasParam( params, text( name, length ).get() );                             \
+    }                                                                                                        \
+    void telsxGenericParamsDelParam##SUFFIX( TELSX_GENERIC_PARAMS *params, const CHAR *name,                 \
+                                             int64_t length )                                                \
+    {                                                                                                        \
+        telsxGenericParamsDelParam( params, text( name, length ).get() );                                    \
+    }                                                                                                        \
+    int64_t telsxGenericParamsParamValueType##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,         \
+                                                      int64_t length )                                       \
+    {                                                                                                        \
+        return telsxGenericParamsParamValueType( params, text( name, length ).get() );                       \
+    }                                                                                                        \
+    RT_STRING telsxGenericParamsParamValueNormalized##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name, \
+                                                              int64_t length )                               \
+    {                                                                                                        \
+        return telsxGenericParamsParamValueNormalized( params, text( name, length ).get() );                 \
+    }                                                                                                        \
+    RT_STRING telsxGenericParamsParamValueNonNormalized##SUFFIX( TELSX_GENERIC_PARAMS params,                \
+                                                                 const CHAR *name, int64_t length )          \
+    {                                                                                                        \
+        return telsxGenericParamsParamValueNonNormalized( params, text( name, length ).get() );              \
+    }                                                                                                        \
+    void telsxGenericParamsSetParamValue##SUFFIX( TELSX_GENERIC_PARAMS *params, const CHAR *name,            \
+                                                  int64_t length, int64_t type, RT_STRING value )            \
+    {                                                                                                        \
+        telsxGenericParamsSetParamValue( params, text( name, length ).get(), type, value );                  \
+    }
+TEXT_VARIANTS( Cstr, char )
+TEXT_VARIANTS( Wcstr, wchar_t )

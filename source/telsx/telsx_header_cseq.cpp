@@ -1,0 +1,62 @@
+// Cseq header (RFC 3261, 20.16).
+#include "telsx/telsx_header_cseq.h"
+
+#include "telsx/telsx_cseq.h"
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_method.h"
+#include "telsx/telsx_number.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_CSEQ_
+{
+    RT_OBJECT object;
+    int64_t cseq;
+    Ref<RT_STRING> method; // never null
+
+    static auto fields( auto &self ) { return std::tie( self.cseq, self.method ); }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderCseq, HEADER_CSEQ, cs, "Cseq" )
+TELSX_DEFINE_FIELD( HeaderCseq, cs, Cseq, cseq, telsxCseqOk( cseq ) )
+TELSX_DEFINE_FIELD( HeaderCseq, cs, Method, method, telsxMethodOk( method ) )
+
+TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
+{
+    TELSX_ASSERT( telsxCseqOk( cseq ) );
+    TELSX_ASSERT( telsxMethodOk( method ) );
+    TELSX_HEADER_CSEQ hdr = rt::create<TELSX_HEADER_CSEQ_>( telsxHeaderCseqSort() );
+    hdr->cseq = cseq;
+    hdr->method = share( method );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderCseqEncode( TELSX_HEADER_CSEQ hdr )
+{
+    TELSX_ASSERT( hdr );
+    return createHeader( literal<"Cseq">(),
+                         adopt( rtStringCreateFromFormatCstr( "%i %s", -1, hdr->cseq, hdr->method.get() ) ) );
+}
+
+TELSX_HEADER_CSEQ telsxHeaderCseqTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Cseq" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Text rest = textOf( line );
+    int64_t cseq = tryDecodeNumber( rest.take( telsx___SkipDigits ), telsxCseqOk );
+    if ( cseq == -1 || !rest.take( telsx___SkipLws ) || !covers( telsx___SkipMethod, rest ) )
+        return nullptr;
+    return telsxHeaderCseqCreate( cseq, rest.copy().get() );
+}
+
+void telsxHeaderCseqSetMethodCstr( TELSX_HEADER_CSEQ *hdr, const char *chars, int64_t length )
+{
+    telsxHeaderCseqSetMethod( hdr, text( chars, length ).get() );
+}
+
+void telsxHeaderCseqSetMethodWcstr( TELSX_HEADER_CSEQ *hdr, const wchar_t *chars, int64_t length )
+{
+    telsxHeaderCseqSetMethod( hdr, text( chars, length ).get() );
+}

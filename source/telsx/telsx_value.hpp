@@ -1,0 +1,102 @@
+// What structured values share: an address in front, parameters behind it, on the way in and on the way out.
+#pragma once
+
+#include "telsx/telsx_generic_params.hpp"
+#include "telsx/telsx_text.hpp"
+
+namespace telsx
+{
+
+// Reads the parameters behind the front of a value, one a turn. Each if is a try; the first that stores
+// something has the parameter, and the others find nothing for the rest of the turn. Of parameters of one
+// name the last one stays. A parameter that no try takes, or text behind a value that is no semicolon, ends
+// the loop as failed.
+//
+//     ParamReader param( rest );
+//     while ( param.next() )
+//     {
+//         if ( param.is<"cause">( telsx___SkipReasonCause ) )
+//             param.store( reason->cause, param.value.copy() );
+//         param.storeGeneric( reason->genericParams );
+//     }
+class ParamReader
+{
+public:
+    explicit ParamReader( Text behindFront ) : rest( behindFront ) {}
+
+    // Whether there is another parameter. False at the end, and at bad text, which failed tells apart.
+    bool next();
+    bool failed() const { return bad; }
+
+    // Whether text is left that no semicolon opens; some headers stop there instead of failing.
+    bool stopped() const { return bad && !open && !behindSemi; }
+
+    // Whether the parameter has this name, in any case, and a value that begins as the skipper wants. The
+    // value, as far as the skipper goes, is then in value.
+    template <rt::Ascii NAME> bool is( Skipper skipValue )
+    {
+        return open && isNamed( { NAME.chs, std::size( NAME.chs ) - 1 }, skipValue );
+    }
+    Text value;
+
+    // Whether the parameter begins with this name, in any case, and no equal sign follows.
+    template <rt::Ascii NAME> bool isBare()
+    {
+        return open && isBareNamed( { NAME.chs, std::size( NAME.chs ) - 1 } );
+    }
+
+    // Stores what the value decoded to, unless that is null or -1; whether it did.
+    template <class HANDLE> bool store( Ref<HANDLE> &field, Ref<HANDLE> decoded )
+    {
+        return decoded && ( field = std::move( decoded ), take() );
+    }
+    template <class HANDLE> bool store( Ref<HANDLE> &field, HANDLE decoded )
+    {
+        return store( field, adopt( decoded ) );
+    }
+    bool store( int64_t &field, int64_t decoded ) { return decoded != -1 && ( field = decoded, take() ); }
+    bool storeFlag( RT_BOOL &field ) { return field = 1, take(); }
+
+    void storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params );
+
+private:
+    bool isNamed( Text name, Skipper skipValue );
+    bool isBareNamed( Text name );
+    bool take();
+
+    Text rest;               // from the parameter's name on
+    bool open = false;       // the parameter waits for somebody to take it
+    bool bad = false;        // the loop has failed
+    bool behindSemi = false; // the last semicolon was there
+};
+
+// The element in double quotes, without white space; and the element of such a value.
+template <Skipper SKIP> int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    bool found = rest.take( telsx___SkipChar( chs, length, '"' ) ) && rest.take( SKIP )
+                 && rest.take( telsx___SkipChar( rest.chs, rest.length, '"' ) );
+    return found ? length - rest.length : 0;
+}
+inline Ref<RT_STRING> copyInQuotes( Text quoted )
+{
+    return quoted.first( quoted.length - 1 ).behind( 1 ).copy();
+}
+
+// The front of a value or header that is an address (RFC 3261, 25.1): name-addr, or addr-spec, whose
+// semicolons belong to the value and not to the address.
+struct Address
+{
+    Ref<RT_STRING> iri;
+    Ref<RT_STRING> displayName = {}; // null if there is none
+    bool inBrackets = false;
+};
+
+// Takes the address at the start; false for bad text. The bare form is what skipBare measures.
+bool takeAddress( Text &rest, Address &address, Skipper skipBare );
+bool takeAddress( Text &rest, Address &address );
+
+// Appends the display name if there is one, and the address in angle brackets.
+void appendAddress( Ref<RT_STRING> &text, const Ref<RT_STRING> &iri, const Ref<RT_STRING> &displayName = {} );
+
+} // namespace telsx

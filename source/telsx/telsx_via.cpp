@@ -1,0 +1,204 @@
+// Via value (RFC 3261, 20.42; RFC 3581).
+#include "telsx/telsx_via.h"
+
+#include "telsx/telsx_branch.h"
+#include "telsx/telsx_host.h"
+#include "telsx/telsx_port.h"
+#include "telsx/telsx_transport.h"
+#include "telsx/telsx_ttl.h"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_VIA_
+{
+    RT_OBJECT object;
+    Ref<TELSX_VERSION> version; // never null
+    Ref<RT_STRING> transport;   // lower case, never null
+    Ref<RT_STRING> host;        // never null
+    int64_t port;
+    int64_t ttl;
+    Ref<RT_STRING> maddr;
+    Ref<NET_ADDRESS> received;
+    RT_BOOL rportEmpty;   // rport without a value
+    int64_t rportNumeric; // rport with one; never both
+    Ref<RT_STRING> branch;
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self )
+    {
+        return std::tie( self.version, self.transport, self.host, self.port, self.ttl, self.maddr,
+                         self.received, self.rportEmpty, self.rportNumeric, self.branch, self.genericParams );
+    }
+    static auto order( auto &self )
+    {
+        return std::tie( self.version, self.transport, self.host, self.port, self.ttl, self.maddr,
+                         self.received, self.branch, self.genericParams );
+    }
+};
+
+TELSX_DEFINE_OBJECT( Via, VIA, telsx___ViaFreeFunc, telsx___ViaCompareFunc, telsx___ViaToStringFunc )
+TELSX_DEFINE_FREE_FUNC( Via, via )
+TELSX_DEFINE_COMPARE_FUNC( Via, via )
+TELSX_DEFINE_TO_STRING_FUNC( Via, via )
+TELSX_DEFINE_FIELD( Via, via, Version, version, version )
+TELSX_DEFINE_NORMAL_FIELD( Via, via, Transport, transport, telsxTransportOk( transport ),
+                           telsxTransportNormalize )
+TELSX_DEFINE_FIELD( Via, via, Host, host, telsxHostOk( host ) )
+TELSX_DEFINE_FIELD( Via, via, Port, port, telsxPortOk( port ) )
+TELSX_DEFINE_OPTION( Via, via, Port, port )
+TELSX_DEFINE_FIELD( Via, via, Ttl, ttl, telsxTtlOk( ttl ) )
+TELSX_DEFINE_OPTION( Via, via, Ttl, ttl )
+TELSX_DEFINE_FIELD( Via, via, Maddr, maddr, telsxHostOk( maddr ) )
+TELSX_DEFINE_OPTION( Via, via, Maddr, maddr )
+TELSX_DEFINE_FIELD( Via, via, Received, received, received )
+TELSX_DEFINE_OPTION( Via, via, Received, received )
+TELSX_DEFINE_FIELD( Via, via, Branch, branch, telsxBranchOk( branch ) )
+TELSX_DEFINE_OPTION( Via, via, Branch, branch )
+TELSX_DEFINE_FIELD( Via, via, GenericParams, genericParams, genericParams )
+
+TELSX_VIA telsxViaCreate( TELSX_VERSION version, RT_STRING transport, RT_STRING host )
+{
+    TELSX_ASSERT( version );
+    TELSX_ASSERT( telsxTransportOk( transport ) );
+    TELSX_ASSERT( telsxHostOk( host ) );
+    TELSX_VIA via = rt::create<TELSX_VIA_>( telsxViaSort() );
+    via->version = share( version );
+    via->transport = adopt( telsxTransportNormalize( transport ) );
+    via->host = share( host );
+    via->genericParams = adopt( telsxGenericParamsCreate() );
+    return via;
+}
+
+TELSX_VIA telsxViaCreateWithPort( TELSX_VERSION version, RT_STRING transport, RT_STRING host, int64_t port )
+{
+    TELSX_ASSERT( telsxPortOk( port ) );
+    TELSX_VIA via = telsxViaCreate( version, transport, host );
+    via->port = port;
+    return via;
+}
+
+TELSX_VIA telsxViaCreateDummy( TELSX_VERSION version )
+{
+    return telsxViaCreate( version, literal<"udp">(), literal<"localhost">() );
+}
+
+// rport: with a value, without one, or absent.
+
+TELSX_DEFINE_GETTER( Via, via, RportNumeric, rportNumeric )
+
+RT_BOOL telsxViaHasRport( TELSX_VIA via )
+{
+    return telsxViaHasRportNumeric( via ) || telsxViaHasRportEmpty( via );
+}
+
+RT_BOOL telsxViaHasRportNumeric( TELSX_VIA via ) { return telsxViaRportNumeric( via ) != -1; }
+
+RT_BOOL telsxViaHasRportEmpty( TELSX_VIA via )
+{
+    TELSX_ASSERT( via );
+    return via->rportEmpty;
+}
+
+static void setRport( TELSX_VIA via, RT_BOOL rportEmpty, int64_t rportNumeric )
+{
+    via->rportEmpty = rportEmpty;
+    via->rportNumeric = rportNumeric;
+}
+
+void telsxViaSetRportNumeric( TELSX_VIA *via, int64_t rport )
+{
+    TELSX_ASSERT_HANDLE( via );
+    TELSX_ASSERT( telsxPortOk( rport ) );
+    setRport( TELSX_OWN( via ), 0, rport );
+}
+
+void telsxViaSetRportEmpty( TELSX_VIA *via )
+{
+    TELSX_ASSERT_HANDLE( via );
+    setRport( TELSX_OWN( via ), 1, -1 );
+}
+
+void telsxViaDelRport( TELSX_VIA *via )
+{
+    TELSX_ASSERT_HANDLE( via );
+    setRport( TELSX_OWN( via ), 0, -1 );
+}
+
+RT_STRING telsx___ViaEncode( TELSX_VIA via )
+{
+    TELSX_ASSERT( via );
+    Ref<RT_STRING> text = adopt( rtStringCreateFromFormatCstr(
+        "%~s/%~s %~s", -1, telsx___VersionEncode( via->version.get() ), upperCase( via->transport.get() ),
+        telsx___HostEncode( via->host.get() ) ) );
+    if ( rt::present( via->port ) )
+        rtStringAppendFormatCstr( text.address(), ":%~s", -1, telsx___PortEncode( via->port ) );
+    if ( rt::present( via->ttl ) )
+        rtStringAppendFormatCstr( text.address(), ";ttl=%~s", -1, telsx___TtlEncode( via->ttl ) );
+    if ( via->maddr )
+        rtStringAppendFormatCstr( text.address(), ";maddr=%~s", -1, telsx___HostEncode( via->maddr.get() ) );
+    if ( via->received )
+        rtStringAppendFormatCstr( text.address(), ";received=%~s", -1,
+                                  netAddressToStringShrink( via->received.get() ) );
+    if ( via->rportEmpty )
+        rtStringAppendCstr( text.address(), ";rport", -1 );
+    else if ( rt::present( via->rportNumeric ) )
+        rtStringAppendFormatCstr( text.address(), ";rport=%~s", -1, telsx___PortEncode( via->rportNumeric ) );
+    if ( via->branch )
+        rtStringAppendFormatCstr( text.address(), ";branch=%s", -1, via->branch.get() );
+    appendGenericParams( text, via->genericParams.get(),
+                         { { literal<"ttl">(), rt::present( via->ttl ) },
+                           { literal<"maddr">(), rt::present( via->maddr ) },
+                           { literal<"received">(), rt::present( via->received ) },
+                           { literal<"rport">(), bool( telsxViaHasRport( via ) ) },
+                           { literal<"branch">(), rt::present( via->branch ) } } );
+    return text.take();
+}
+
+static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
+{
+    int64_t v6 = telsx___SkipIpV6Address( chs, length );
+    return v6 ? v6 : telsx___SkipIpV4Address( chs, length );
+}
+
+TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    Text rest = { chs, length };
+    auto version = adopt( rest.take( telsx___SkipVersion ).as( telsx___VersionTryDecode ) );
+    if ( !version || !rest.take( telsx___SkipSlash ) )
+        return nullptr;
+    Text transport = rest.take( telsx___SkipTransport );
+    if ( !transport || !rest.take( telsx___SkipLws ) )
+        return nullptr;
+    auto host = adopt( rest.take( telsx___SkipHost ).as( telsx___HostTryDecode ) );
+    if ( !host )
+        return nullptr;
+    auto via = adopt( telsxViaCreate( version.get(), transport.copy().get(), host.get() ) );
+    if ( rest.take( telsx___SkipColon ) )
+    {
+        via->port = rest.take( telsx___SkipPort ).as( telsx___PortTryDecode );
+        if ( !rt::present( via->port ) )
+            return nullptr;
+    }
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"ttl">( telsx___SkipTtl ) )
+            param.store( via->ttl, param.value.as( telsx___TtlTryDecode ) );
+        if ( param.is<"maddr">( telsx___SkipHost ) )
+            param.store( via->maddr, param.value.as( telsx___HostTryDecode ) );
+        if ( param.is<"received">( skipAddress ) )
+            param.store( via->received, param.value.as( netAddressTryCreateFromChars ) );
+        if ( param.isBare<"rport">() && param.storeFlag( via->rportEmpty ) )
+            via->rportNumeric = -1;
+        if ( param.is<"rport">( telsx___SkipPort )
+             && param.store( via->rportNumeric, param.value.as( telsx___PortTryDecode ) ) )
+            via->rportEmpty = 0;
+        if ( param.is<"branch">( telsx___SkipBranch ) )
+            param.store( via->branch, param.value.copy() );
+        param.storeGeneric( via->genericParams );
+    }
+    return param.failed() ? nullptr : via.take();
+}
