@@ -22,9 +22,9 @@ RT_API RT_BUFFER rtCharsetStringToBuffer( int64_t charset, RT_STRING string );
 RT_API RT_STRING rtStringTryCreateFromUtf8( const char *bytes, int64_t length );
 RT_API void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string );
 
-/* For the libraries above, of plain bytes: whether they are strictly UTF-8; how many code points they have if they
- * are, and never fewer than a decoder finds if they aren't; the code points themselves. Decode returns their number,
- * or -1 if the bytes are not strictly UTF-8, after it has written what came before. */
+/* For the libraries above, of plain bytes: whether they are strictly UTF-8; how many code points they have if
+ * they are, and never fewer than a decoder finds if they aren't; the code points themselves. Decode returns
+ * their number, or -1 if the bytes are not strictly UTF-8, after it has written what came before. */
 RT_API RT_BOOL rt___Utf8Ok( const unsigned char *bytes, int64_t length );
 RT_API int64_t rt___Utf8Length( const unsigned char *bytes, int64_t length );
 RT_API int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_CHAR *into );

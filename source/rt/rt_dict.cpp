@@ -143,11 +143,12 @@ static Entry *find( RT_DICT dict, RT_STRING key )
     return dict->length ? find( dict, hashOf( text ), text ) : nullptr;
 }
 
+// Takes a slot that is free, or that leads to a deleted entry.
 static void enterInTable( RT_DICT dict, int64_t number )
 {
     uint64_t mask = static_cast<uint64_t>( dict->tableSize ) - 1;
     uint64_t slot = dict->entries[number].hash & mask;
-    while ( dict->table[slot] )
+    while ( dict->table[slot] && dict->entries[dict->table[slot] - 1].key )
         slot = ( slot + 1 ) & mask;
     dict->table[slot] = static_cast<uint32_t>( number + 1 );
 }
@@ -311,10 +312,10 @@ void rtDictSetStringKey( RT_DICT *handle, RT_STRING key, RT_OBJ value )
 {
     RT_ASSERT( key );
     RT_ASSERT( value );
+    rt::retain( value );
     RT_DICT dict = own( handle );
     Text text = rt::textOf( key );
     uint64_t hash = hashOf( text );
-    rt::retain( value );
     if ( Entry *entry = find( dict, hash, text ) )
     {
         auto old = rt::adopt( std::exchange( entry->value, value ) );
@@ -341,7 +342,8 @@ void rtDictDelStringKey( RT_DICT *handle, RT_STRING key )
     auto oldKey = rt::adopt( std::exchange( entry->key, nullptr ) );
     auto oldValue = rt::adopt( std::exchange( entry->value, nullptr ) );
     --dict->length;
-    std::atomic_ref( dict->cursor ).store( 0, std::memory_order_relaxed );
+    if ( static_cast<uint64_t>( entry - dict->entries ) < ( dict->cursor & UINT32_MAX ) )
+        dict->cursor -= uint64_t{ 1 } << 32;
 }
 
 void rtDictClear( RT_DICT *dict )

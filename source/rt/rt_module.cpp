@@ -31,16 +31,16 @@ RT_BOOL rtModuleStart( RT_OBJ module )
 {
     RT_ASSERT( module );
     std::lock_guard lock( mutex );
-    Started **link = find( module );
-    if ( *link )
+    if ( Started *started = *find( module ) )
     {
-        ++( *link )->starts;
+        ++started->starts;
         return 1;
     }
     if ( !asModule( module )->startup() )
         return 0;
-    *link = rt::allocate<Started>( 1 );
-    **link = { module, 1, nullptr };
+    auto *started = rt::allocate<Started>( 1 );
+    *started = { module, 1, first };
+    first = started;
     return 1;
 }
 

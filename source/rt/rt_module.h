@@ -36,7 +36,8 @@ typedef struct RT_MODULE_
 
 /* Starts a module, which is what its ...Module() function returns: before anything else of it is called.
  * Returns the module's own answer, true for started. May be called again, from any thread: only the first
- * call starts the module, and as many stops are needed. Null aborts. */
+ * call starts the module, and as many stops are needed. Start and stop functions of modules do not start or
+ * stop modules. Null aborts. */
 RT_API RT_BOOL rtModuleStart( RT_OBJ module );
 
 /* The counterpart: the last one stops the module. A module that is not started aborts, and so does null. */

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <string_view>
 
 #include "rt/rt_format.h"
 #include "rt/rt_memory.hpp"
@@ -39,7 +40,8 @@ constexpr RT_SORT_ rt___sort_RT_STRING = { RT_STATIC_OBJECT, nullptr,      "RT_S
 RT_DEFINE_OPERATIONS( rt, String, RT_STRING )
 
 // The length of a text argument, whose -1 means up to the zero.
-template <class CHAR> static int64_t lengthOf( const CHAR *chars, int64_t length )
+template <class CHAR>
+static int64_t lengthOf( const CHAR *chars, int64_t length )
 {
     RT_ASSERT( length >= -1 );
     RT_ASSERT( chars || length == 0 );
@@ -49,12 +51,14 @@ template <class CHAR> static int64_t lengthOf( const CHAR *chars, int64_t length
     return length;
 }
 
-template <class CHAR> static RT_CHAR widened( CHAR ch )
+template <class CHAR>
+static RT_CHAR widened( CHAR ch )
 {
     return static_cast<std::make_unsigned_t<CHAR>>( ch );
 }
 
-template <class CHAR> static RT_STRING createFrom( const CHAR *chars, int64_t length )
+template <class CHAR>
+static RT_STRING createFrom( const CHAR *chars, int64_t length )
 {
     length = lengthOf( chars, length );
     if ( length == 0 )
@@ -208,16 +212,19 @@ void rtStringAppend( RT_STRING *string, RT_STRING other )
         auto old = rt::adopt( std::exchange( *string, rt::share( other ).take() ) );
         return;
     }
-    // A reference of its own, since the two may be one string.
-    Ref<RT_STRING> source = rt::share( other );
-    rtStringAppendChars( string, source->chs, source->length );
+    rtStringAppendChars( string, other->chs, other->length );
 }
 
 void rtStringAppendChar( RT_STRING *string, RT_CHAR ch ) { *extend( string, 1 ) = ch; }
 
 void rtStringAppendChars( RT_STRING *string, const RT_CHAR *chs, int64_t length )
 {
+    RT_ASSERT( string );
+    RT_ASSERT( *string );
     length = lengthOf( chs, length );
+    // A part of the string itself must outlive the string's move.
+    bool isOwnPart = chs >= ( *string )->chs && chs < ( *string )->chs + ( *string )->length;
+    Ref<RT_STRING> source = isOwnPart ? rt::share( *string ) : Ref<RT_STRING>();
     rt::copyItems( extend( string, length ), chs, length );
 }
 
@@ -311,21 +318,38 @@ RT_VECTOR rtStringSplitChars( RT_STRING string, const RT_CHAR *chs, int64_t leng
     return parts.take();
 }
 
-// Formats. The argument list goes by reference from directive to directive.
+// Formats
+
 namespace
 {
 
+// The argument list, which goes by reference from directive to directive.
 struct ArgList
 {
     va_list args;
 };
 
-// What stands between a percent sign and the letter of a directive.
-struct Directive
+// A format, or what is left of it.
+template <class CHAR>
+struct Format
 {
-    int64_t width = 1;
-    int radix = 10;
-    bool capitals = false, takesOver = false, widthFromLargest = false;
+    const CHAR *at, *end;
+
+    bool takes( std::string_view word )
+    {
+        bool found =
+            end - at >= static_cast<int64_t>( word.size() )
+            && std::equal( word.begin(), word.end(), at, []( char a, CHAR b ) { return CHAR( a ) == b; } );
+        at += found ? word.size() : 0;
+        return found;
+    }
+    int64_t takeNumber()
+    {
+        int64_t number = 0;
+        for ( ; at != end && *at >= CHAR( '0' ) && *at <= CHAR( '9' ); ++at )
+            number = number * 10 + static_cast<int64_t>( *at - CHAR( '0' ) );
+        return number;
+    }
 };
 
 } // namespace
@@ -338,86 +362,67 @@ static int64_t decimalWidth( int64_t value )
     return width;
 }
 
-static void appendInt( RT_STRING *string, int64_t value, const Directive &directive )
+static void appendInt( RT_STRING *string, int64_t value, int64_t width, int radix = 10,
+                       bool capitals = false )
 {
     char digits[72];
     uint64_t magnitude = value < 0 ? -static_cast<uint64_t>( value ) : static_cast<uint64_t>( value );
-    char *end = std::to_chars( digits, std::end( digits ), magnitude, directive.radix ).ptr;
-    if ( directive.capitals )
+    char *end = std::to_chars( digits, std::end( digits ), magnitude, radix ).ptr;
+    if ( capitals )
         std::transform( digits, end, digits,
                         []( char ch ) { return ch >= 'a' ? static_cast<char>( ch - 0x20 ) : ch; } );
     if ( value < 0 )
         rtStringAppendChar( string, '-' );
-    for ( int64_t zeros = directive.width - ( end - digits ); zeros > 0; --zeros )
+    for ( int64_t zeros = width - ( end - digits ); zeros > 0; --zeros )
         rtStringAppendChar( string, '0' );
     rtStringAppendCstr( string, digits, end - digits );
 }
 
-template <class CHAR> static int64_t takeNumber( const CHAR *&at, const CHAR *end )
-{
-    int64_t number = 0;
-    for ( ; at != end && *at >= '0' && *at <= '9'; ++at )
-        number = number * 10 + ( *at - '0' );
-    return number;
-}
-
+// What stands behind a percent sign.
 template <class CHAR>
-static void appendFormat( RT_STRING *string, const CHAR *format, int64_t length, ArgList &list )
+static void appendDirective( RT_STRING *string, Format<CHAR> &format, ArgList &list )
 {
-    length = lengthOf( format, length );
-    const CHAR *end = format + length;
-    auto takes = [&]( char ch )
-    { return format != end && widened( *format ) == widened( ch ) && ( ++format, true ); };
-    while ( format != end )
+    if ( format.takes( "%" ) )
+        rtStringAppendChar( string, '%' );
+    else if ( format.takes( "s" ) )
+        rtStringAppend( string, va_arg( list.args, RT_STRING ) );
+    else if ( format.takes( "~s" ) )
+        rtStringAppend( string, rt::adopt( va_arg( list.args, RT_STRING ) ).get() );
+    else if ( format.takes( ".*A" ) )
     {
-        const CHAR *percent = std::find( format, end, CHAR( '%' ) );
-        std::transform( format, percent, extend( string, percent - format ), widened<CHAR> );
-        if ( ( format = percent ) == end )
-            return;
-        ++format;
-        if ( takes( '%' ) )
-        {
-            rtStringAppendChar( string, '%' );
-            continue;
-        }
-        Directive directive;
-        directive.takesOver = takes( '~' );
-        directive.capitals = takes( '^' );
-        if ( takes( '0' ) )
-            directive.width = takeNumber( format, end );
-        if ( takes( '!' ) )
-            directive.radix = static_cast<int>( takeNumber( format, end ) );
-        if ( takes( '.' ) )
-            directive.widthFromLargest = takes( '*' );
-        RT_ASSERT( directive.radix >= 2 && directive.radix <= 36 );
-        if ( takes( 'i' ) )
-            appendInt( string, va_arg( list.args, int64_t ), directive );
-        else if ( directive.widthFromLargest && takes( 'A' ) )
-        {
-            directive.width = decimalWidth( va_arg( list.args, int64_t ) );
-            appendInt( string, va_arg( list.args, int64_t ), directive );
-        }
-        else if ( takes( 's' ) )
-        {
-            RT_STRING text = va_arg( list.args, RT_STRING );
-            Ref<RT_STRING> taken = directive.takesOver ? rt::adopt( text ) : Ref<RT_STRING>();
-            rtStringAppend( string, text );
-        }
-        else
-            RT_CHECK( false, "no such format directive", "format" );
+        int64_t width = decimalWidth( va_arg( list.args, int64_t ) );
+        appendInt( string, va_arg( list.args, int64_t ), width );
+    }
+    else
+    {
+        bool capitals = format.takes( "^" );
+        int64_t width = format.takes( "0" ) ? format.takeNumber() : 1;
+        int64_t radix = format.takes( "!" ) ? format.takeNumber() : 10;
+        bool isInt = format.takes( "i" ) && radix >= 2 && radix <= 36;
+        RT_CHECK( isInt, "no such format directive", "format" );
+        appendInt( string, va_arg( list.args, int64_t ), width, static_cast<int>( radix ), capitals );
     }
 }
 
 template <class CHAR>
-static void appendFormat( RT_STRING *string, const CHAR *format, int64_t length, va_list args )
+static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, va_list args )
 {
+    Format<CHAR> format = { chars, chars + lengthOf( chars, length ) };
     ArgList list;
     va_copy( list.args, args );
-    appendFormat( string, format, length, list );
+    while ( format.at != format.end )
+    {
+        const CHAR *percent = std::find( format.at, format.end, CHAR( '%' ) );
+        std::transform( format.at, percent, extend( string, percent - format.at ), widened<CHAR> );
+        format.at = percent;
+        if ( format.takes( "%" ) )
+            appendDirective( string, format, list );
+    }
     va_end( list.args );
 }
 
-template <class CHAR> static RT_STRING createFromFormat( const CHAR *format, int64_t length, va_list args )
+template <class CHAR>
+static RT_STRING createFromFormat( const CHAR *format, int64_t length, va_list args )
 {
     RT_STRING string = rtStringCreate();
     appendFormat( &string, format, length, args );

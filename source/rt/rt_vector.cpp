@@ -81,15 +81,15 @@ static RT_VECTOR own( RT_VECTOR *handle )
     return *handle;
 }
 
-// Opens a gap for one element, whose place it returns. What is nearer moves; a full array grows, with room at
-// the front only if that is where it is needed.
+// Opens a gap for one element, whose place it returns. An array that is full at the end where it grows is
+// replaced by a larger one, with room at both ends if it has ever grown or shrunk at its front.
 static RT_OBJ *openGap( RT_VECTOR vector, int64_t index )
 {
     bool atFront = index == 0 && vector->length;
     if ( atFront ? vector->first == 0 : vector->first + vector->length == vector->capacity )
     {
         int64_t capacity = rt::grown( vector->length, vector->length + 4 );
-        int64_t first = atFront ? capacity - vector->length : 0;
+        int64_t first = atFront || vector->first ? ( capacity - vector->length + 1 ) / 2 : 0;
         RT_OBJ *block = rt::allocate<RT_OBJ>( capacity );
         rt::copyItems( block + first, vector->begin(), vector->length );
         std::free( vector->block );

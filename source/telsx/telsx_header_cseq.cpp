@@ -18,8 +18,22 @@ struct TELSX_HEADER_CSEQ_
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderCseq, HEADER_CSEQ, cs, "Cseq" )
-TELSX_DEFINE_FIELD( HeaderCseq, cs, Cseq, cseq, telsxCseqOk( cseq ) )
-TELSX_DEFINE_FIELD( HeaderCseq, cs, Method, method, telsxMethodOk( method ) )
+TELSX_DEFINE_GETTER( HeaderCseq, hdr, Cseq, cseq )
+TELSX_DEFINE_GETTER( HeaderCseq, hdr, Method, method )
+
+void telsxHeaderCseqSetCseq( TELSX_HEADER_CSEQ *cs, int64_t cseq )
+{
+    TELSX_ASSERT_HANDLE( cs );
+    TELSX_ASSERT( telsxCseqOk( cseq ) );
+    TELSX_OWN( cs )->cseq = cseq;
+}
+
+void telsxHeaderCseqSetMethod( TELSX_HEADER_CSEQ *cs, RT_STRING method )
+{
+    TELSX_ASSERT_HANDLE( cs );
+    TELSX_ASSERT( telsxMethodOk( method ) );
+    rt::put( TELSX_OWN( cs )->method, method );
+}
 
 TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
 {

@@ -83,7 +83,8 @@ RT_STRING telsx___HostEncode( RT_STRING host )
     TELSX_ASSERT( host );
     if ( covers( telsx___SkipHost, host ) )
         return share( host ).take();
-    RT_STRING result = netDnsIdnaDomainNameToAscii( host );
+    RT_STRING result =
+        netDnsIdnaDomainNameOk( host ) ? netDnsIdnaDomainNameToAscii( host ) : rtStringCreate();
     int64_t length = rtStringLength( result );
     TELSX_ASSERT( length && length == telsx___SkipHost( rtStringBacking( result ), length ) );
     return result;

@@ -114,6 +114,8 @@ RT_BOOL telsxMessageFragmentIsNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT 
 
 // Fields of the start line: a setter asks first that the kind has the field.
 
+#define ASSERT_HAS( ... ) TELSX_CHECK( ( *frag )->__VA_ARGS__, nullptr, "(*frag)->" #__VA_ARGS__ )
+
 TELSX_DEFINE_GETTER( MessageFragment, frag, Version, version )
 TELSX_DEFINE_GETTER( MessageFragment, frag, RequestMethod, requestMethod )
 TELSX_DEFINE_GETTER( MessageFragment, frag, RequestIri, requestIri )
@@ -129,7 +131,7 @@ RT_BOOL telsxMessageFragmentHasVersion( TELSX_MESSAGE_FRAGMENT frag )
 void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_ASSERT( ( *frag )->version );
+    ASSERT_HAS( version );
     TELSX_ASSERT( version );
     rt::put( TELSX_OWN( frag )->version, version );
 }
@@ -137,7 +139,7 @@ void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION
 void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING method )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_ASSERT( ( *frag )->requestMethod );
+    ASSERT_HAS( requestMethod );
     TELSX_ASSERT( telsxMethodOk( method ) );
     rt::put( TELSX_OWN( frag )->requestMethod, method );
 }
@@ -145,7 +147,7 @@ void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRI
 void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING iri )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_ASSERT( ( *frag )->requestMethod );
+    ASSERT_HAS( requestMethod );
     TELSX_ASSERT( telsxIriOk( iri ) );
     rt::put( TELSX_OWN( frag )->requestIri, iri );
 }
@@ -154,7 +156,7 @@ void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, in
                                                 RT_BOOL updateReasonPhrase )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_ASSERT( ( *frag )->responseStatusCode != TELSX_STATUS_CODE_INVALID );
+    ASSERT_HAS( responseStatusCode != TELSX_STATUS_CODE_INVALID );
     TELSX_ASSERT( telsxStatusCodeOk( sc ) );
     TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
     own->responseStatusCode = sc;
@@ -165,7 +167,7 @@ void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, in
 void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING reasonPhrase )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_ASSERT( ( *frag )->responseReasonPhrase );
+    ASSERT_HAS( responseReasonPhrase );
     TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
     rt::put( TELSX_OWN( frag )->responseReasonPhrase, reasonPhrase );
 }

@@ -54,6 +54,11 @@ public:
     {
         return store( field, adopt( decoded ) );
     }
+    bool storeNormal( Ref<RT_STRING> &field, RT_STRING decoded, RT_STRING ( *normalize )( RT_STRING ) )
+    {
+        Ref<RT_STRING> taken = adopt( decoded );
+        return taken && store( field, normalize( taken.get() ) );
+    }
     bool store( int64_t &field, int64_t decoded ) { return decoded != -1 && ( field = decoded, take() ); }
     bool storeFlag( RT_BOOL &field ) { return field = 1, take(); }
 

@@ -1,0 +1,52 @@
+/* Accept value: a kind of body, or a range of them, that a party understands.
+ *
+ *     accept-range = media-range *( SEMI accept-param )
+ *     media-range = ( "*" SLASH "*" ) / ( m-type SLASH "*" ) / ( m-type SLASH m-subtype )
+ *     accept-param = ( "q" EQUAL qvalue ) / generic-param
+ *
+ * (RFC 3261, 25.1) An absent type or subtype is the star. Values sort by the fields in the order below. */
+#ifndef TELSX_TELSX_ACCEPT_H
+#define TELSX_TELSX_ACCEPT_H
+
+#include "telsx/telsx_generic_params.h"
+
+RT_BEGIN
+
+TELSX_OBJECT( Accept, ACCEPT )
+
+/* A value that takes every body: star, slash, star. */
+RT_API TELSX_ACCEPT telsxAcceptCreate( void );
+
+/* The two halves, in lower case, or null for the star. A subtype without a type is not written. Set aborts
+ * unless telsxMediaTypeOk, telsxMediaSubtypeOk. */
+RT_API RT_STRING telsxAcceptMediaType( TELSX_ACCEPT accept );
+RT_API RT_BOOL telsxAcceptHasMediaType( TELSX_ACCEPT accept );
+RT_API void telsxAcceptSetMediaType( TELSX_ACCEPT *accept, RT_STRING mediaType );
+RT_API void telsxAcceptDelMediaType( TELSX_ACCEPT *accept );
+RT_API RT_STRING telsxAcceptMediaSubtype( TELSX_ACCEPT accept );
+RT_API RT_BOOL telsxAcceptHasMediaSubtype( TELSX_ACCEPT accept );
+RT_API void telsxAcceptSetMediaSubtype( TELSX_ACCEPT *accept, RT_STRING mediaSubtype );
+RT_API void telsxAcceptDelMediaSubtype( TELSX_ACCEPT *accept );
+
+/* The weight in thousandths, 0 to 1000, -1 if there is none. Set aborts unless telsxQvalueOk. */
+RT_API int64_t telsxAcceptQvalue( TELSX_ACCEPT accept );
+RT_API RT_BOOL telsxAcceptHasQvalue( TELSX_ACCEPT accept );
+RT_API void telsxAcceptSetQvalue( TELSX_ACCEPT *accept, int64_t qvalue );
+RT_API void telsxAcceptDelQvalue( TELSX_ACCEPT *accept );
+
+/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+ * Set aborts for null. */
+RT_API TELSX_GENERIC_PARAMS telsxAcceptGenericParams( TELSX_ACCEPT accept );
+RT_API void telsxAcceptSetGenericParams( TELSX_ACCEPT *accept, TELSX_GENERIC_PARAMS genericParams );
+
+/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
+ * gives a new reference, or null for bad text. The skipper, telsx___SkipAccept, is in telsx_skip.h. */
+RT_API RT_STRING telsx___AcceptEncode( TELSX_ACCEPT accept );
+RT_API TELSX_ACCEPT telsx___AcceptTryDecode( const RT_CHAR *chs, int64_t length );
+TELSX_FREE_FUNC( Accept )
+TELSX_COMPARE_FUNC( Accept )
+TELSX_TO_STRING_FUNC( Accept )
+
+RT_END
+
+#endif

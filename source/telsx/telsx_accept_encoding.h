@@ -1,0 +1,52 @@
+/* Accept-Encoding value: a content coding that a party understands.
+ *
+ *     encoding = codings *( SEMI accept-param )
+ *     codings = content-coding / "*"
+ *     accept-param = ( "q" EQUAL qvalue ) / generic-param
+ *
+ * (RFC 3261, 25.1) An absent coding is the star; a star that was read is a coding of that name, since it
+ * is a token. Values sort by the fields in the order below. */
+#ifndef TELSX_TELSX_ACCEPT_ENCODING_H
+#define TELSX_TELSX_ACCEPT_ENCODING_H
+
+#include "telsx/telsx_generic_params.h"
+
+RT_BEGIN
+
+TELSX_OBJECT( AcceptEncoding, ACCEPT_ENCODING )
+
+/* The value *, and one with this coding. The latter aborts unless telsxContentCodingOk. */
+RT_API TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreate( void );
+RT_API TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreateWithContentCoding( RT_STRING contentCoding );
+
+/* The coding, in lower case, or null for the star. Set aborts unless telsxContentCodingOk. */
+RT_API RT_STRING telsxAcceptEncodingContentCoding( TELSX_ACCEPT_ENCODING acceptEncoding );
+RT_API RT_BOOL telsxAcceptEncodingHasContentCoding( TELSX_ACCEPT_ENCODING acceptEncoding );
+RT_API void telsxAcceptEncodingSetContentCoding( TELSX_ACCEPT_ENCODING *acceptEncoding,
+                                                 RT_STRING contentCoding );
+RT_API void telsxAcceptEncodingDelContentCoding( TELSX_ACCEPT_ENCODING *acceptEncoding );
+
+/* The weight in thousandths, 0 to 1000, -1 if there is none. Set aborts unless telsxQvalueOk. */
+RT_API int64_t telsxAcceptEncodingQvalue( TELSX_ACCEPT_ENCODING acceptEncoding );
+RT_API RT_BOOL telsxAcceptEncodingHasQvalue( TELSX_ACCEPT_ENCODING acceptEncoding );
+RT_API void telsxAcceptEncodingSetQvalue( TELSX_ACCEPT_ENCODING *acceptEncoding, int64_t qvalue );
+RT_API void telsxAcceptEncodingDelQvalue( TELSX_ACCEPT_ENCODING *acceptEncoding );
+
+/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+ * Set aborts for null. */
+RT_API TELSX_GENERIC_PARAMS telsxAcceptEncodingGenericParams( TELSX_ACCEPT_ENCODING acceptEncoding );
+RT_API void telsxAcceptEncodingSetGenericParams( TELSX_ACCEPT_ENCODING *acceptEncoding,
+                                                 TELSX_GENERIC_PARAMS genericParams );
+
+/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
+ * gives a new reference, or null for bad text. The skipper, telsx___SkipAcceptEncoding, is in
+ * telsx_skip.h. */
+RT_API RT_STRING telsx___AcceptEncodingEncode( TELSX_ACCEPT_ENCODING acceptEncoding );
+RT_API TELSX_ACCEPT_ENCODING telsx___AcceptEncodingTryDecode( const RT_CHAR *chs, int64_t length );
+TELSX_FREE_FUNC( AcceptEncoding )
+TELSX_COMPARE_FUNC( AcceptEncoding )
+TELSX_TO_STRING_FUNC( AcceptEncoding )
+
+RT_END
+
+#endif

@@ -1,0 +1,74 @@
+// Call-Info value (RFC 3261, 20.9).
+#include "telsx/telsx_call_info.h"
+
+#include "telsx/telsx_info.hpp"
+#include "telsx/telsx_iri.h"
+#include "telsx/telsx_purpose.h"
+
+using namespace telsx;
+
+struct TELSX_CALL_INFO_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> iri;                      // never null
+    Ref<RT_STRING> purpose;                  // lower case
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self ) { return std::tie( self.iri, self.purpose, self.genericParams ); }
+};
+
+TELSX_DEFINE_OBJECT( CallInfo, CALL_INFO, telsx___CallInfoFreeFunc, telsx___CallInfoCompareFunc,
+                     telsx___CallInfoToStringFunc )
+TELSX_DEFINE_FREE_FUNC( CallInfo, callInfo )
+TELSX_DEFINE_COMPARE_FUNC( CallInfo, callInfo )
+TELSX_DEFINE_TO_STRING_FUNC( CallInfo, callInfo )
+TELSX_DEFINE_FIELD( CallInfo, callInfo, Iri, iri, telsxIriOk( iri ) )
+TELSX_DEFINE_NORMAL_FIELD( CallInfo, callInfo, Purpose, purpose, telsxPurposeOk( purpose ),
+                           telsxPurposeNormalize )
+TELSX_DEFINE_OPTION( CallInfo, callInfo, Purpose, purpose )
+TELSX_DEFINE_FIELD( CallInfo, callInfo, GenericParams, genericParams, genericParams )
+
+static Ref<TELSX_CALL_INFO> create( Ref<RT_STRING> iri )
+{
+    auto callInfo = adopt( rt::create<TELSX_CALL_INFO_>( telsxCallInfoSort() ) );
+    callInfo->iri = std::move( iri );
+    callInfo->genericParams = adopt( telsxGenericParamsCreate() );
+    return callInfo;
+}
+
+TELSX_CALL_INFO telsxCallInfoCreate( RT_STRING iri )
+{
+    TELSX_ASSERT( telsxIriOk( iri ) );
+    return create( share( iri ) ).take();
+}
+
+RT_STRING telsx___CallInfoEncode( TELSX_CALL_INFO callInfo )
+{
+    TELSX_ASSERT( callInfo );
+    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    appendAddress( text, callInfo->iri );
+    if ( callInfo->purpose )
+        rtStringAppendFormatCstr( text.address(), ";purpose=%s", -1, callInfo->purpose.get() );
+    appendGenericParams( text, callInfo->genericParams.get(),
+                         { { literal<"purpose">(), rt::present( callInfo->purpose ) } } );
+    return text.take();
+}
+
+TELSX_CALL_INFO telsx___CallInfoTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    Text rest = { chs, length };
+    Ref<RT_STRING> iri;
+    if ( !takeInfoAddress( rest, iri ) )
+        return nullptr;
+    Ref<TELSX_CALL_INFO> callInfo = create( std::move( iri ) );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"purpose">( telsx___SkipPurpose ) )
+            param.storeNormal( callInfo->purpose, param.value.copy().take(), telsxPurposeNormalize );
+        param.storeGeneric( callInfo->genericParams );
+    }
+    return param.failed() ? nullptr : callInfo.take();
+}

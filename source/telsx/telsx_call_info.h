@@ -1,0 +1,44 @@
+/* Call-Info value: something about a party, and what it is for.
+ *
+ *     info = LAQUOT absoluteURI RAQUOT *( SEMI info-param )
+ *     info-param = ( "purpose" EQUAL ( "icon" / "info" / "card" / token ) ) / generic-param
+ *
+ * (RFC 3261, 25.1) Values sort by the fields in the order below. */
+#ifndef TELSX_TELSX_CALL_INFO_H
+#define TELSX_TELSX_CALL_INFO_H
+
+#include "telsx/telsx_generic_params.h"
+
+RT_BEGIN
+
+TELSX_OBJECT( CallInfo, CALL_INFO )
+
+/* A value with this address and nothing else. Aborts unless telsxIriOk. */
+RT_API TELSX_CALL_INFO telsxCallInfoCreate( RT_STRING iri );
+
+/* The address as an IRI, never null. Set aborts unless telsxIriOk. */
+RT_API RT_STRING telsxCallInfoIri( TELSX_CALL_INFO callInfo );
+RT_API void telsxCallInfoSetIri( TELSX_CALL_INFO *callInfo, RT_STRING iri );
+
+/* What it is for, in lower case, or null. Set aborts unless telsxPurposeOk. */
+RT_API RT_STRING telsxCallInfoPurpose( TELSX_CALL_INFO callInfo );
+RT_API RT_BOOL telsxCallInfoHasPurpose( TELSX_CALL_INFO callInfo );
+RT_API void telsxCallInfoSetPurpose( TELSX_CALL_INFO *callInfo, RT_STRING purpose );
+RT_API void telsxCallInfoDelPurpose( TELSX_CALL_INFO *callInfo );
+
+/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+ * Set aborts for null. */
+RT_API TELSX_GENERIC_PARAMS telsxCallInfoGenericParams( TELSX_CALL_INFO callInfo );
+RT_API void telsxCallInfoSetGenericParams( TELSX_CALL_INFO *callInfo, TELSX_GENERIC_PARAMS genericParams );
+
+/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
+ * gives a new reference, or null for bad text. The skipper, telsx___SkipCallInfo, is in telsx_skip.h. */
+RT_API RT_STRING telsx___CallInfoEncode( TELSX_CALL_INFO callInfo );
+RT_API TELSX_CALL_INFO telsx___CallInfoTryDecode( const RT_CHAR *chs, int64_t length );
+TELSX_FREE_FUNC( CallInfo )
+TELSX_COMPARE_FUNC( CallInfo )
+TELSX_TO_STRING_FUNC( CallInfo )
+
+RT_END
+
+#endif

@@ -1,0 +1,75 @@
+/* Diversion value: who diverted a call, and why.
+ *
+ *     diversion-params = name-addr *( SEMI ( diversion-reason / diversion-counter / diversion-limit /
+ *         diversion-privacy / diversion-screen / diversion-extension ) )
+ *
+ * (RFC 5806, 4) The texts of reason, privacy and screen are plain and in lower case; any word is one.
+ * Values have no order: each is equal only to itself. */
+#ifndef TELSX_TELSX_DIVERSION_H
+#define TELSX_TELSX_DIVERSION_H
+
+#include "telsx/telsx_generic_params.h"
+
+RT_BEGIN
+
+TELSX_OBJECT( Diversion, DIVERSION )
+
+/* A diversion by this address, with this display name or without one. They abort unless telsxIriOk and
+ * telsxDisplayNameOk. */
+RT_API TELSX_DIVERSION telsxDiversionCreate( RT_STRING iri );
+RT_API TELSX_DIVERSION telsxDiversionCreateWithDisplayName( RT_STRING iri, RT_STRING displayName );
+
+/* The address as an IRI, never null. Set aborts unless telsxIriOk. */
+RT_API RT_STRING telsxDiversionIri( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetIri( TELSX_DIVERSION *diversion, RT_STRING iri );
+
+/* The display name, plain, possibly empty, or null. Set aborts unless telsxDisplayNameOk. */
+RT_API RT_STRING telsxDiversionDisplayName( TELSX_DIVERSION diversion );
+RT_API RT_BOOL telsxDiversionHasDisplayName( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetDisplayName( TELSX_DIVERSION *diversion, RT_STRING displayName );
+RT_API void telsxDiversionDelDisplayName( TELSX_DIVERSION *diversion );
+
+/* Why the call was diverted, or null. Set takes any text and keeps it in lower case; null aborts, and a
+ * text with CR or LF can't be written. */
+RT_API RT_STRING telsxDiversionReason( TELSX_DIVERSION diversion );
+RT_API RT_BOOL telsxDiversionHasReason( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetReason( TELSX_DIVERSION *diversion, RT_STRING reason );
+RT_API void telsxDiversionDelReason( TELSX_DIVERSION *diversion );
+
+/* How often the call was diverted, 0 to 99, -1 if that is not told. Set aborts unless
+ * telsxDiversionCounterOk. */
+RT_API int64_t telsxDiversionCounter( TELSX_DIVERSION diversion );
+RT_API RT_BOOL telsxDiversionHasCounter( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetCounter( TELSX_DIVERSION *diversion, int64_t counter );
+RT_API void telsxDiversionDelCounter( TELSX_DIVERSION *diversion );
+
+/* How often it may be, 0 to 99, -1 if that is not told. Set aborts unless telsxDiversionLimitOk. */
+RT_API int64_t telsxDiversionLimit( TELSX_DIVERSION diversion );
+RT_API RT_BOOL telsxDiversionHasLimit( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetLimit( TELSX_DIVERSION *diversion, int64_t limit );
+RT_API void telsxDiversionDelLimit( TELSX_DIVERSION *diversion );
+
+/* How the diverting party wants to be shown, and whether it was verified, as the reason. */
+RT_API RT_STRING telsxDiversionPrivacy( TELSX_DIVERSION diversion );
+RT_API RT_BOOL telsxDiversionHasPrivacy( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetPrivacy( TELSX_DIVERSION *diversion, RT_STRING privacy );
+RT_API void telsxDiversionDelPrivacy( TELSX_DIVERSION *diversion );
+RT_API RT_STRING telsxDiversionScreen( TELSX_DIVERSION diversion );
+RT_API RT_BOOL telsxDiversionHasScreen( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetScreen( TELSX_DIVERSION *diversion, RT_STRING screen );
+RT_API void telsxDiversionDelScreen( TELSX_DIVERSION *diversion );
+
+/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+ * Set aborts for null. */
+RT_API TELSX_GENERIC_PARAMS telsxDiversionGenericParams( TELSX_DIVERSION diversion );
+RT_API void telsxDiversionSetGenericParams( TELSX_DIVERSION *diversion, TELSX_GENERIC_PARAMS genericParams );
+
+/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
+ * gives a new reference, or null for bad text. The skipper, telsx___SkipDiversion, is in telsx_skip.h. */
+RT_API RT_STRING telsx___DiversionEncode( TELSX_DIVERSION diversion );
+RT_API TELSX_DIVERSION telsx___DiversionTryDecode( const RT_CHAR *chs, int64_t length );
+TELSX_FREE_FUNC( Diversion )
+
+RT_END
+
+#endif

@@ -1,0 +1,73 @@
+// Content-Disposition header (RFC 3261, 20.11).
+#include "telsx/telsx_header_content_disposition.h"
+
+#include "telsx/telsx_disposition_type.h"
+#include "telsx/telsx_handling.h"
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_CONTENT_DISPOSITION_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> dispositionType;          // lower case, never null
+    Ref<RT_STRING> handling;                 // lower case
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self )
+    {
+        return std::tie( self.dispositionType, self.handling, self.genericParams );
+    }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderContentDisposition, HEADER_CONTENT_DISPOSITION, hdr, "Content-Disposition" )
+TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, DispositionType, dispositionType,
+                           telsxDispositionTypeOk( dispositionType ), telsxDispositionTypeNormalize )
+TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, Handling, handling, telsxHandlingOk( handling ),
+                           telsxHandlingNormalize )
+TELSX_DEFINE_OPTION( HeaderContentDisposition, hdr, Handling, handling )
+TELSX_DEFINE_FIELD( HeaderContentDisposition, hdr, GenericParams, genericParams, genericParams )
+
+TELSX_HEADER_CONTENT_DISPOSITION telsxHeaderContentDispositionCreate( RT_STRING dispositionType )
+{
+    TELSX_ASSERT( telsxDispositionTypeOk( dispositionType ) );
+    TELSX_HEADER_CONTENT_DISPOSITION hdr =
+        rt::create<TELSX_HEADER_CONTENT_DISPOSITION_>( telsxHeaderContentDispositionSort() );
+    hdr->dispositionType = adopt( telsxDispositionTypeNormalize( dispositionType ) );
+    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderContentDispositionEncode( TELSX_HEADER_CONTENT_DISPOSITION hdr )
+{
+    TELSX_ASSERT( hdr );
+    Ref<RT_STRING> line = hdr->dispositionType;
+    if ( hdr->handling )
+        rtStringAppendFormatCstr( line.address(), ";handling=%s", -1, hdr->handling.get() );
+    appendGenericParams( line, hdr->genericParams.get(),
+                         { { literal<"handling">(), rt::present( hdr->handling ) } } );
+    return createHeader( literal<"Content-Disposition">(), line );
+}
+
+TELSX_HEADER_CONTENT_DISPOSITION telsxHeaderContentDispositionTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Content-Disposition" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Text rest = textOf( line );
+    Text dispositionType = rest.take( telsx___SkipDispositionType );
+    if ( !dispositionType )
+        return nullptr;
+    auto hdr = adopt( telsxHeaderContentDispositionCreate( dispositionType.copy().get() ) );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"handling">( telsx___SkipHandling ) )
+            param.storeNormal( hdr->handling, param.value.copy().take(), telsxHandlingNormalize );
+        param.storeGeneric( hdr->genericParams );
+    }
+    return param.failed() ? nullptr : hdr.take();
+}

@@ -1,0 +1,86 @@
+// Event header (RFC 6665, 8.2.1).
+#include "telsx/telsx_header_event.h"
+
+#include "telsx/telsx_event_type.h"
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_token.h"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_EVENT_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> eventType; // never null
+    Ref<RT_STRING> id;
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self ) { return std::tie( self.eventType, self.id, self.genericParams ); }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderEvent, HEADER_EVENT, hdr, "Event" )
+TELSX_DEFINE_FIELD( HeaderEvent, hdr, EventType, eventType, telsxEventTypeOk( eventType ) )
+TELSX_DEFINE_FIELD( HeaderEvent, hdr, GenericParams, genericParams, genericParams )
+
+TELSX_DEFINE_GETTER( HeaderEvent, hdr, Id, id )
+TELSX_DEFINE_OPTION( HeaderEvent, hdr, Id, id )
+
+void telsxHeaderEventSetId( TELSX_HEADER_EVENT *hdr, RT_STRING token )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( telsxTokenOk( token ) );
+    rt::put( TELSX_OWN( hdr )->id, token );
+}
+
+TELSX_HEADER_EVENT telsxHeaderEventCreate( RT_STRING eventType )
+{
+    TELSX_ASSERT( telsxEventTypeOk( eventType ) );
+    TELSX_HEADER_EVENT hdr = rt::create<TELSX_HEADER_EVENT_>( telsxHeaderEventSort() );
+    hdr->eventType = share( eventType );
+    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderEventEncode( TELSX_HEADER_EVENT hdr )
+{
+    TELSX_ASSERT( hdr );
+    Ref<RT_STRING> line = hdr->eventType;
+    if ( hdr->id )
+        rtStringAppendFormatCstr( line.address(), ";id=%s", -1, hdr->id.get() );
+    appendGenericParams( line, hdr->genericParams.get(), { { literal<"id">(), rt::present( hdr->id ) } } );
+    return createHeader( literal<"Event">(), line );
+}
+
+TELSX_HEADER_EVENT telsxHeaderEventTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Event" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Text rest = textOf( line );
+    Text eventType = rest.take( telsx___SkipEventType );
+    if ( !eventType )
+        return nullptr;
+    auto hdr = adopt( telsxHeaderEventCreate( eventType.copy().get() ) );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"id">( telsx___SkipToken ) )
+            param.store( hdr->id, param.value.copy() );
+        param.storeGeneric( hdr->genericParams );
+    }
+    return param.failed() ? nullptr : hdr.take();
+}
+
+#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                       \
+    TELSX_HEADER_EVENT telsxHeaderEventCreate##SUFFIX( const CHAR *chars, int64_t length )                  \
+    {                                                                                                       \
+        return telsxHeaderEventCreate( text( chars, length ).get() );                                       \
+    }                                                                                                       \
+    void telsxHeaderEventSetEventType##SUFFIX( TELSX_HEADER_EVENT *hdr, const CHAR *chars, int64_t length ) \
+    {                                                                                                       \
+        telsxHeaderEventSetEventType( hdr, text( chars, length ).get() );                                   \
+    }
+TEXT_VARIANTS( Cstr, char )
+TEXT_VARIANTS( Wcstr, wchar_t )

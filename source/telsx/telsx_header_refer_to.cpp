@@ -1,0 +1,60 @@
+// Refer-To header (RFC 3515, 2.1).
+#include "telsx/telsx_header_refer_to.h"
+
+#include "telsx/telsx_display_name.h"
+#include "telsx/telsx_iri.h"
+#include "telsx/telsx_party.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_REFER_TO_ : Party
+{
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderReferTo, HEADER_REFER_TO, hdr, "Refer-To" )
+TELSX_DEFINE_FIELD( HeaderReferTo, hdr, Iri, iri, telsxIriOk( iri ) )
+TELSX_DEFINE_FIELD( HeaderReferTo, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTION( HeaderReferTo, hdr, DisplayName, displayName )
+TELSX_DEFINE_FIELD( HeaderReferTo, hdr, GenericParams, genericParams, genericParams )
+
+static TELSX_HEADER_REFER_TO create()
+{
+    return rt::create<TELSX_HEADER_REFER_TO_>( telsxHeaderReferToSort() );
+}
+
+TELSX_HEADER_REFER_TO telsxHeaderReferToCreate( RT_STRING iri )
+{
+    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_HEADER_REFER_TO hdr = create();
+    hdr->iri = share( iri );
+    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderReferToEncode( TELSX_HEADER_REFER_TO hdr )
+{
+    TELSX_ASSERT( hdr );
+    return createHeader( literal<"Refer-To">(), encodeParty( *hdr ) );
+}
+
+TELSX_HEADER_REFER_TO telsxHeaderReferToTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Refer-To" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Ref<TELSX_HEADER_REFER_TO> hdr = adopt( create() );
+    Text rest = textOf( line );
+    Address address;
+    if ( !takeAddress( rest, address ) )
+        return nullptr;
+
+    // A bare address with more behind it than a list of parameters is read again, semicolons and all.
+    if ( !address.inBrackets && telsx___SkipGenericParams( rest.chs, rest.length ) != rest.length )
+    {
+        rest = textOf( line );
+        if ( !takeAddress( rest, address, telsx___SkipUri ) )
+            return nullptr;
+    }
+    return decodeParty( *hdr.get(), std::move( address ), rest ) ? hdr.take() : nullptr;
+}

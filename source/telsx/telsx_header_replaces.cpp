@@ -1,0 +1,106 @@
+// Replaces header (RFC 3891, 6.1).
+#include "telsx/telsx_header_replaces.h"
+
+#include "telsx/telsx_call_id.h"
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_tag.h"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_REPLACES_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> callId; // never null
+    Ref<RT_STRING> fromTag;
+    Ref<RT_STRING> toTag;
+    RT_BOOL earlyOnly;
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self )
+    {
+        return std::tie( self.callId, self.fromTag, self.toTag, self.earlyOnly, self.genericParams );
+    }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderReplaces, HEADER_REPLACES, hdr, "Replaces" )
+TELSX_DEFINE_FIELD( HeaderReplaces, hdr, CallId, callId, telsxCallIdOk( callId ) )
+TELSX_DEFINE_FIELD( HeaderReplaces, hdr, GenericParams, genericParams, genericParams )
+
+TELSX_DEFINE_GETTER( HeaderReplaces, hdr, FromTag, fromTag )
+TELSX_DEFINE_OPTION( HeaderReplaces, hdr, FromTag, fromTag )
+TELSX_DEFINE_GETTER( HeaderReplaces, hdr, ToTag, toTag )
+TELSX_DEFINE_OPTION( HeaderReplaces, hdr, ToTag, toTag )
+TELSX_DEFINE_GETTER( HeaderReplaces, hdr, EarlyOnly, earlyOnly )
+
+void telsxHeaderReplacesSetFromTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( telsxTagOk( tag ) );
+    rt::put( TELSX_OWN( hdr )->fromTag, tag );
+}
+
+void telsxHeaderReplacesSetToTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( telsxTagOk( tag ) );
+    rt::put( TELSX_OWN( hdr )->toTag, tag );
+}
+
+void telsxHeaderReplacesSetEarlyOnly( TELSX_HEADER_REPLACES *hdr, RT_BOOL earlyOnly )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_OWN( hdr )->earlyOnly = earlyOnly != 0;
+}
+
+TELSX_HEADER_REPLACES telsxHeaderReplacesCreate( RT_STRING callId )
+{
+    TELSX_ASSERT( telsxCallIdOk( callId ) );
+    TELSX_HEADER_REPLACES hdr = rt::create<TELSX_HEADER_REPLACES_>( telsxHeaderReplacesSort() );
+    hdr->callId = share( callId );
+    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderReplacesEncode( TELSX_HEADER_REPLACES hdr )
+{
+    TELSX_ASSERT( hdr );
+    Ref<RT_STRING> line = hdr->callId;
+    if ( hdr->fromTag )
+        rtStringAppendFormatCstr( line.address(), ";from-tag=%s", -1, hdr->fromTag.get() );
+    if ( hdr->toTag )
+        rtStringAppendFormatCstr( line.address(), ";to-tag=%s", -1, hdr->toTag.get() );
+    if ( hdr->earlyOnly )
+        rtStringAppendCstr( line.address(), ";early-only", -1 );
+    appendGenericParams( line, hdr->genericParams.get(),
+                         { { literal<"from-tag">(), rt::present( hdr->fromTag ) },
+                           { literal<"to-tag">(), rt::present( hdr->toTag ) },
+                           { literal<"early-only">(), hdr->earlyOnly != 0 } } );
+    return createHeader( literal<"Replaces">(), line );
+}
+
+TELSX_HEADER_REPLACES telsxHeaderReplacesTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Replaces" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Text rest = textOf( line );
+    Text callId = rest.take( telsx___SkipCallId );
+    if ( !callId )
+        return nullptr;
+    auto hdr = adopt( telsxHeaderReplacesCreate( callId.copy().get() ) );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"from-tag">( telsx___SkipTag ) )
+            param.store( hdr->fromTag, param.value.copy() );
+        if ( param.is<"to-tag">( telsx___SkipTag ) )
+            param.store( hdr->toTag, param.value.copy() );
+        if ( param.isBare<"early-only">() )
+            param.storeFlag( hdr->earlyOnly );
+        param.storeGeneric( hdr->genericParams );
+    }
+    return param.failed() ? nullptr : hdr.take();
+}

@@ -1,0 +1,79 @@
+// Retry-After header (RFC 3261, 20.33).
+#include "telsx/telsx_header_retry_after.h"
+
+#include "telsx/telsx_delta_seconds.h"
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_RETRY_AFTER_
+{
+    RT_OBJECT object;
+    int64_t deltaSeconds;
+    int64_t duration;
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self )
+    {
+        return std::tie( self.deltaSeconds, self.duration, self.genericParams );
+    }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderRetryAfter, HEADER_RETRY_AFTER, hdr, "Retry-After" )
+TELSX_DEFINE_FIELD( HeaderRetryAfter, hdr, DeltaSeconds, deltaSeconds, telsxDeltaSecondsOk( deltaSeconds ) )
+TELSX_DEFINE_FIELD( HeaderRetryAfter, hdr, Duration, duration, telsxDeltaSecondsOk( duration ) )
+TELSX_DEFINE_OPTION( HeaderRetryAfter, hdr, Duration, duration )
+
+TELSX_DEFINE_GETTER( HeaderRetryAfter, hdr, GenericParams, genericParams )
+
+void telsxHeaderRetryAfterSetGenericParams( TELSX_HEADER_RETRY_AFTER *hdr, TELSX_GENERIC_PARAMS params )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( params );
+    rt::put( TELSX_OWN( hdr )->genericParams, params );
+}
+
+TELSX_HEADER_RETRY_AFTER telsxHeaderRetryAfterCreate( int64_t deltaSeconds )
+{
+    TELSX_ASSERT( telsxDeltaSecondsOk( deltaSeconds ) );
+    TELSX_HEADER_RETRY_AFTER hdr = rt::create<TELSX_HEADER_RETRY_AFTER_>( telsxHeaderRetryAfterSort() );
+    hdr->deltaSeconds = deltaSeconds;
+    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderRetryAfterEncode( TELSX_HEADER_RETRY_AFTER hdr )
+{
+    TELSX_ASSERT( hdr );
+    Ref<RT_STRING> line = adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) );
+    if ( rt::present( hdr->duration ) )
+        rtStringAppendFormatCstr( line.address(), ";duration=%i", -1, hdr->duration );
+    appendGenericParams( line, hdr->genericParams.get(),
+                         { { literal<"duration">(), rt::present( hdr->duration ) } } );
+    return createHeader( literal<"Retry-After">(), line );
+}
+
+TELSX_HEADER_RETRY_AFTER telsxHeaderRetryAfterTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Retry-After" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Text rest = textOf( line );
+    int64_t deltaSeconds = rest.take( telsx___SkipDeltaSeconds ).as( telsx___DeltaSecondsTryDecode );
+    if ( deltaSeconds == -1 )
+        return nullptr;
+    auto hdr = adopt( telsxHeaderRetryAfterCreate( deltaSeconds ) );
+    rest.take( telsx___SkipLws );
+    rest.take( telsx___SkipComment );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"duration">( telsx___SkipDeltaSeconds ) )
+            param.store( hdr->duration, param.value.as( telsx___DeltaSecondsTryDecode ) );
+        param.storeGeneric( hdr->genericParams );
+    }
+    return param.failed() && !param.stopped() ? nullptr : hdr.take();
+}

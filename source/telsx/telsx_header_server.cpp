@@ -1,0 +1,39 @@
+// Server header (RFC 3261, 20.35).
+#include "telsx/telsx_header_server.h"
+
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_server.h"
+
+using namespace telsx;
+
+struct TELSX_HEADER_SERVER_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> server; // never null
+
+    static auto fields( auto &self ) { return std::tie( self.server ); }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderServer, HEADER_SERVER, hdr, "Server" )
+TELSX_DEFINE_FIELD( HeaderServer, hdr, Server, server, telsxServerOk( server ) )
+
+TELSX_HEADER_SERVER telsxHeaderServerCreate( RT_STRING server )
+{
+    TELSX_ASSERT( telsxServerOk( server ) );
+    TELSX_HEADER_SERVER hdr = rt::create<TELSX_HEADER_SERVER_>( telsxHeaderServerSort() );
+    hdr->server = share( server );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderServerEncode( TELSX_HEADER_SERVER hdr )
+{
+    TELSX_ASSERT( hdr );
+    return createHeader( literal<"Server">(), hdr->server );
+}
+
+TELSX_HEADER_SERVER telsxHeaderServerTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Server" );
+    RT_STRING line = lastLineOf( header );
+    return line && telsxServerOk( line ) ? telsxHeaderServerCreate( line ) : nullptr;
+}

@@ -1,0 +1,107 @@
+// Subscription-State header (RFC 6665, 8.2.3).
+#include "telsx/telsx_header_subscription_state.h"
+
+#include "telsx/telsx_delta_seconds.h"
+#include "telsx/telsx_event_reason_value.h"
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_substate_value.h"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_SUBSCRIPTION_STATE_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> substateValue; // lower case, never null
+    Ref<RT_STRING> reason;        // lower case
+    int64_t expires;
+    int64_t retryAfter;
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self )
+    {
+        return std::tie( self.substateValue, self.reason, self.expires, self.retryAfter, self.genericParams );
+    }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderSubscriptionState, HEADER_SUBSCRIPTION_STATE, hdr, "Subscription-State" )
+TELSX_DEFINE_NORMAL_FIELD( HeaderSubscriptionState, hdr, SubstateValue, substateValue,
+                           telsxSubstateValueOk( substateValue ), telsxSubstateValueNormalize )
+TELSX_DEFINE_NORMAL_FIELD( HeaderSubscriptionState, hdr, Reason, reason, telsxEventReasonValueOk( reason ),
+                           telsxEventReasonValueNormalize )
+TELSX_DEFINE_OPTION( HeaderSubscriptionState, hdr, Reason, reason )
+TELSX_DEFINE_FIELD( HeaderSubscriptionState, hdr, GenericParams, genericParams, genericParams )
+
+// The numbers' setters call their argument by what it is.
+
+TELSX_DEFINE_GETTER( HeaderSubscriptionState, hdr, Expires, expires )
+TELSX_DEFINE_OPTION( HeaderSubscriptionState, hdr, Expires, expires )
+TELSX_DEFINE_GETTER( HeaderSubscriptionState, hdr, RetryAfter, retryAfter )
+TELSX_DEFINE_OPTION( HeaderSubscriptionState, hdr, RetryAfter, retryAfter )
+
+void telsxHeaderSubscriptionStateSetExpires( TELSX_HEADER_SUBSCRIPTION_STATE *hdr, int64_t deltaSeconds )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( telsxDeltaSecondsOk( deltaSeconds ) );
+    TELSX_OWN( hdr )->expires = deltaSeconds;
+}
+
+void telsxHeaderSubscriptionStateSetRetryAfter( TELSX_HEADER_SUBSCRIPTION_STATE *hdr, int64_t deltaSeconds )
+{
+    TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( telsxDeltaSecondsOk( deltaSeconds ) );
+    TELSX_OWN( hdr )->retryAfter = deltaSeconds;
+}
+
+TELSX_HEADER_SUBSCRIPTION_STATE telsxHeaderSubscriptionStateCreate( RT_STRING substateValue )
+{
+    TELSX_ASSERT( telsxSubstateValueOk( substateValue ) );
+    TELSX_HEADER_SUBSCRIPTION_STATE hdr =
+        rt::create<TELSX_HEADER_SUBSCRIPTION_STATE_>( telsxHeaderSubscriptionStateSort() );
+    hdr->substateValue = adopt( telsxSubstateValueNormalize( substateValue ) );
+    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderSubscriptionStateEncode( TELSX_HEADER_SUBSCRIPTION_STATE hdr )
+{
+    TELSX_ASSERT( hdr );
+    Ref<RT_STRING> line = hdr->substateValue;
+    if ( hdr->reason )
+        rtStringAppendFormatCstr( line.address(), ";reason=%s", -1, hdr->reason.get() );
+    if ( rt::present( hdr->expires ) )
+        rtStringAppendFormatCstr( line.address(), ";expires=%i", -1, hdr->expires );
+    if ( rt::present( hdr->retryAfter ) )
+        rtStringAppendFormatCstr( line.address(), ";retry-after=%i", -1, hdr->retryAfter );
+    appendGenericParams( line, hdr->genericParams.get(),
+                         { { literal<"reason">(), rt::present( hdr->reason ) },
+                           { literal<"expires">(), rt::present( hdr->expires ) },
+                           { literal<"retry-after">(), rt::present( hdr->retryAfter ) } } );
+    return createHeader( literal<"Subscription-State">(), line );
+}
+
+TELSX_HEADER_SUBSCRIPTION_STATE telsxHeaderSubscriptionStateTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Subscription-State" );
+    RT_STRING line = lastLineOf( header );
+    if ( !line )
+        return nullptr;
+    Text rest = textOf( line );
+    Text substateValue = rest.take( telsx___SkipSubstateValue );
+    if ( !substateValue )
+        return nullptr;
+    auto hdr = adopt( telsxHeaderSubscriptionStateCreate( substateValue.copy().get() ) );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"reason">( telsx___SkipEventReasonValue ) )
+            param.storeNormal( hdr->reason, param.value.copy().take(), telsxEventReasonValueNormalize );
+        if ( param.is<"expires">( telsx___SkipDeltaSeconds ) )
+            param.store( hdr->expires, param.value.as( telsx___DeltaSecondsTryDecode ) );
+        if ( param.is<"retry-after">( telsx___SkipDeltaSeconds ) )
+            param.store( hdr->retryAfter, param.value.as( telsx___DeltaSecondsTryDecode ) );
+        param.storeGeneric( hdr->genericParams );
+    }
+    return param.failed() ? nullptr : hdr.take();
+}

@@ -1,0 +1,42 @@
+// Supported header (RFC 3261, 20.37).
+#include "telsx/telsx_header_supported.h"
+
+#include "telsx/telsx_option_tag.h"
+#include "telsx/telsx_token_set.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_SUPPORTED_
+{
+    RT_OBJECT object;
+    Ref<RT_DICT> tokens; // from each token to itself, never null
+
+    static auto fields( auto &self ) { return std::tie( self.tokens ); }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderSupported, HEADER_SUPPORTED, hdr, "Supported" )
+TELSX_DEFINE_TOKEN_SET( HeaderSupported, OptionTag, telsxOptionTagNormalize )
+TELSX_DEFINE_TOKEN_SET_CHARS( HeaderSupported, OptionTag, Cstr, char )
+TELSX_DEFINE_TOKEN_SET_CHARS( HeaderSupported, OptionTag, Wcstr, wchar_t )
+
+TELSX_HEADER_SUPPORTED telsxHeaderSupportedCreate( void )
+{
+    TELSX_HEADER_SUPPORTED hdr = rt::create<TELSX_HEADER_SUPPORTED_>( telsxHeaderSupportedSort() );
+    hdr->tokens = adopt( rtDictCreate() );
+    return hdr;
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderSupportedEncode( TELSX_HEADER_SUPPORTED hdr )
+{
+    TELSX_ASSERT( hdr );
+    return encodeTokens( literal<"Supported">(), hdr->tokens, comma );
+}
+
+TELSX_HEADER_SUPPORTED telsxHeaderSupportedTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Supported" );
+    Ref<TELSX_HEADER_SUPPORTED> hdr = adopt( telsxHeaderSupportedCreate() );
+    return decodeTokens( hdr->tokens, header, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
+               ? hdr.take()
+               : nullptr;
+}

@@ -1,0 +1,35 @@
+// Via header (RFC 3261, 20.42).
+#include "telsx/telsx_header_via.h"
+
+#include "telsx/telsx_value_list.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_VIA_
+{
+    RT_OBJECT object;
+    Ref<RT_VECTOR> values; // texts, never null
+
+    static auto fields( auto &self ) { return std::tie( self.values ); }
+};
+
+TELSX_DEFINE_HEADER_OBJECT( HeaderVia, HEADER_VIA, hdr, "Via" )
+TELSX_DEFINE_VALUE_LIST( HeaderVia, Via, Via, telsx___ViaEncode, ClearVias )
+
+TELSX_HEADER_VIA telsxHeaderViaCreate( void )
+{
+    return createList<TELSX_HEADER_VIA_>( telsxHeaderViaSort() );
+}
+
+TELSX_MESSAGE_HEADER telsxHeaderViaEncode( TELSX_HEADER_VIA hdr )
+{
+    TELSX_ASSERT( hdr );
+    return createHeader( literal<"Via">(), hdr->values );
+}
+
+TELSX_HEADER_VIA telsxHeaderViaTryDecode( TELSX_MESSAGE_HEADER header )
+{
+    TELSX_ASSERT_NAME( "Via" );
+    Ref<TELSX_HEADER_VIA> hdr = adopt( telsxHeaderViaCreate() );
+    return decodeValues( hdr->values, header, telsx___SkipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
+}

@@ -1,0 +1,46 @@
+// The lines of a raw header as one list of items.
+#pragma once
+
+#include "telsx/telsx_header.hpp"
+
+namespace telsx
+{
+
+// Reads the items of all lines in order, on each line any number of them with separators between. An empty
+// line has no item, and is no fault.
+//
+//     ItemReader items( header, telsx___SkipMethod, telsx___SkipComma );
+//     while ( items.next() )
+//         use( items.item() );
+class ItemReader
+{
+public:
+    ItemReader( TELSX_MESSAGE_HEADER listHeader, Skipper itemSkipper, Skipper separatorSkipper )
+        : header( listHeader ), skipItem( itemSkipper ), skipSeparator( separatorSkipper )
+    {
+    }
+
+    // Whether there is another item. False at the end, and at bad text, which failed tells apart.
+    bool next();
+    bool failed() const { return bad; }
+
+    // The item's text; it shares the line's where that saves a copy.
+    Ref<RT_STRING> item() const
+    {
+        return adopt( rtStringCreateFromInner( line, text.chs - rtStringBacking( line ), text.length ) );
+    }
+
+private:
+    TELSX_MESSAGE_HEADER header;
+    Skipper skipItem, skipSeparator;
+    int64_t lineIndex = 0;
+    RT_STRING line = nullptr;
+    Text text; // the item
+    Text rest; // of the line
+    bool bad = false;
+};
+
+// A raw header with the items on one line, the separator between them, and without a line if there are none.
+TELSX_MESSAGE_HEADER createHeaderOfItems( RT_STRING name, const Ref<RT_VECTOR> &items, RT_CHAR separator );
+
+} // namespace telsx

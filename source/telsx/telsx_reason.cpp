@@ -1,0 +1,78 @@
+// Reason value (RFC 3326).
+#include "telsx/telsx_reason.h"
+
+#include "telsx/telsx_quotable_string.h"
+#include "telsx/telsx_reason_cause.h"
+#include "telsx/telsx_reason_protocol.h"
+#include "telsx/telsx_reason_text.h"
+#include "telsx/telsx_value.hpp"
+
+using namespace telsx;
+
+struct TELSX_REASON_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> protocol;                 // never null
+    Ref<RT_STRING> cause;                    // digits
+    Ref<RT_STRING> text;                     // plain
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static auto fields( auto &self )
+    {
+        return std::tie( self.protocol, self.cause, self.text, self.genericParams );
+    }
+};
+
+TELSX_DEFINE_OBJECT( Reason, REASON, telsx___ReasonFreeFunc, nullptr, nullptr )
+TELSX_DEFINE_FREE_FUNC( Reason, reason )
+TELSX_DEFINE_FIELD( Reason, reason, Protocol, protocol, telsxReasonProtocolOk( protocol ) )
+TELSX_DEFINE_FIELD( Reason, reason, Cause, cause, telsxReasonCauseOk( cause ) )
+TELSX_DEFINE_OPTION( Reason, reason, Cause, cause )
+TELSX_DEFINE_FIELD( Reason, reason, Text, text, telsxReasonTextOk( text ) )
+TELSX_DEFINE_OPTION( Reason, reason, Text, text )
+TELSX_DEFINE_FIELD( Reason, reason, GenericParams, genericParams, genericParams )
+
+TELSX_REASON telsxReasonCreate( RT_STRING reasonProtocol )
+{
+    TELSX_ASSERT( telsxReasonProtocolOk( reasonProtocol ) );
+    TELSX_REASON reason = rt::create<TELSX_REASON_>( telsxReasonSort() );
+    reason->protocol = share( reasonProtocol );
+    reason->genericParams = adopt( telsxGenericParamsCreate() );
+    return reason;
+}
+
+RT_STRING telsx___ReasonEncode( TELSX_REASON reason )
+{
+    TELSX_ASSERT( reason );
+    Ref<RT_STRING> text = reason->protocol;
+    if ( reason->cause )
+        rtStringAppendFormatCstr( text.address(), ";cause=%s", -1, reason->cause.get() );
+    if ( reason->text )
+        rtStringAppendFormatCstr( text.address(), ";text=%~s", -1,
+                                  telsx___QuotableStringEncode( reason->text.get() ) );
+    appendGenericParams( text, reason->genericParams.get(),
+                         { { literal<"cause">(), rt::present( reason->cause ) },
+                           { literal<"text">(), rt::present( reason->text ) } } );
+    return text.take();
+}
+
+TELSX_REASON telsx___ReasonTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    Text rest = { chs, length };
+    Text protocol = rest.take( telsx___SkipReasonProtocol );
+    if ( !protocol )
+        return nullptr;
+    Ref<TELSX_REASON> reason = adopt( telsxReasonCreate( protocol.copy().get() ) );
+
+    ParamReader param( rest );
+    while ( param.next() )
+    {
+        if ( param.is<"cause">( telsx___SkipReasonCause ) )
+            param.store( reason->cause, param.value.copy() );
+        if ( param.is<"text">( telsx___SkipReasonText ) )
+            param.store( reason->text, param.value.as( telsx___QuotableStringTryDecode ) );
+        param.storeGeneric( reason->genericParams );
+    }
+    return param.failed() ? nullptr : reason.take();
+}

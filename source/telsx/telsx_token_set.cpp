@@ -1,0 +1,28 @@
+// What the headers that are a set of tokens share.
+#include "telsx/telsx_token_set.hpp"
+
+namespace telsx
+{
+
+void setToken( Ref<RT_DICT> &tokens, const Ref<RT_STRING> &token )
+{
+    rtDictSetStringKey( tokens.address(), token.get(), rtStringObj( token.get() ) );
+}
+
+bool decodeTokens( Ref<RT_DICT> &tokens, TELSX_MESSAGE_HEADER header, Skipper skipToken, Normalizer normalize,
+                   Separator separator )
+{
+    if ( linesOf( header ) == 0 )
+        return false;
+    ItemReader items( header, skipToken, separator.skip );
+    while ( items.next() )
+        setToken( tokens, adopt( normalize( items.item().get() ) ) );
+    return !items.failed();
+}
+
+TELSX_MESSAGE_HEADER encodeTokens( RT_STRING name, const Ref<RT_DICT> &tokens, Separator separator )
+{
+    return createHeaderOfItems( name, adopt( rtDictKeysVector( tokens.get() ) ), separator.ch );
+}
+
+} // namespace telsx

@@ -1,0 +1,103 @@
+// What the headers that are a set of tokens share. The tokens are the keys of a dictionary, in a field called
+// tokens, each with itself as the value. A header is written with all tokens on one line.
+#pragma once
+
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_items.hpp"
+
+namespace telsx
+{
+
+// What stands between two tokens.
+struct Separator
+{
+    Skipper skip;
+    RT_CHAR ch;
+};
+inline constexpr Separator comma = { telsx___SkipComma, ',' };
+inline constexpr Separator semicolon = { telsx___SkipSemi, ';' };
+
+// The normal form of a token: a new reference. Tokens whose case counts are their own.
+using Normalizer = RT_STRING ( * )( RT_STRING token );
+inline RT_STRING asItIs( RT_STRING token ) { return share( token ).take(); }
+
+void setToken( Ref<RT_DICT> &tokens, const Ref<RT_STRING> &token );
+
+// Fills a new set with the tokens of the raw header; false for bad text, and for no lines.
+bool decodeTokens( Ref<RT_DICT> &tokens, TELSX_MESSAGE_HEADER header, Skipper skipToken, Normalizer normalize,
+                   Separator separator );
+
+TELSX_MESSAGE_HEADER encodeTokens( RT_STRING name, const Ref<RT_DICT> &tokens, Separator separator );
+
+// Sets the text of each element of the vector.
+template <class T>
+void setEach( T **hdr, RT_VECTOR vec, void ( *set )( T **hdr, RT_STRING element ) )
+{
+    for ( int64_t i = 0; i < rtVectorLength( vec ); ++i )
+        set( hdr, adopt( rtObjToString( rt___VectorObjBorrowed( vec, i ) ) ).get() );
+}
+
+} // namespace telsx
+
+// The operations of the header NAME on its set of WORDs.
+#define TELSX_DEFINE_TOKEN_SET( NAME, WORD, NORMALIZE )                                             \
+    int64_t telsx##NAME##WORD##sLength( TELSX_HANDLE( NAME ) hdr )                                  \
+    {                                                                                               \
+        TELSX_ASSERT( hdr );                                                                        \
+        return rtDictLength( hdr->tokens.get() );                                                   \
+    }                                                                                               \
+    RT_STRING telsx##NAME##WORD##At( TELSX_HANDLE( NAME ) hdr, int64_t index )                      \
+    {                                                                                               \
+        TELSX_ASSERT( hdr );                                                                        \
+        return rtDictKeyAt( hdr->tokens.get(), index );                                             \
+    }                                                                                               \
+    RT_VECTOR telsx##NAME##WORD##sVector( TELSX_HANDLE( NAME ) hdr )                                \
+    {                                                                                               \
+        TELSX_ASSERT( hdr );                                                                        \
+        return rtDictKeysVector( hdr->tokens.get() );                                               \
+    }                                                                                               \
+    RT_BOOL telsx##NAME##Has##WORD( TELSX_HANDLE( NAME ) hdr, RT_STRING element )                   \
+    {                                                                                               \
+        TELSX_ASSERT( hdr );                                                                        \
+        TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );          \
+        return rtDictHasStringKey( hdr->tokens.get(), telsx::adopt( NORMALIZE( element ) ).get() ); \
+    }                                                                                               \
+    void telsx##NAME##Set##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                    \
+    {                                                                                               \
+        TELSX_ASSERT_HANDLE( hdr );                                                                 \
+        TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );          \
+        telsx::setToken( TELSX_OWN( hdr )->tokens, telsx::adopt( NORMALIZE( element ) ) );          \
+    }                                                                                               \
+    void telsx##NAME##Del##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                    \
+    {                                                                                               \
+        TELSX_ASSERT_HANDLE( hdr );                                                                 \
+        TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );          \
+        auto token = telsx::adopt( NORMALIZE( element ) );                                          \
+        rtDictDelStringKey( TELSX_OWN( hdr )->tokens.address(), token.get() );                      \
+    }                                                                                               \
+    void telsx##NAME##Clear##WORD##s( TELSX_HANDLE( NAME ) * hdr )                                  \
+    {                                                                                               \
+        TELSX_ASSERT_HANDLE( hdr );                                                                 \
+        rtDictClear( TELSX_OWN( hdr )->tokens.address() );                                          \
+    }                                                                                               \
+    void telsx##NAME##Set##WORD##sVector( TELSX_HANDLE( NAME ) * hdr, RT_VECTOR vec )               \
+    {                                                                                               \
+        TELSX_ASSERT( vec );                                                                        \
+        telsx##NAME##Clear##WORD##s( hdr );                                                         \
+        telsx::setEach( hdr, vec, telsx##NAME##Set##WORD );                                         \
+    }
+
+// The same functions for 8-bit and for wide characters.
+#define TELSX_DEFINE_TOKEN_SET_CHARS( NAME, WORD, SUFFIX, CHAR )                                          \
+    RT_BOOL telsx##NAME##Has##WORD##SUFFIX( TELSX_HANDLE( NAME ) hdr, const CHAR *chars, int64_t length ) \
+    {                                                                                                     \
+        return telsx##NAME##Has##WORD( hdr, telsx::text( chars, length ).get() );                         \
+    }                                                                                                     \
+    void telsx##NAME##Set##WORD##SUFFIX( TELSX_HANDLE( NAME ) * hdr, const CHAR *chars, int64_t length )  \
+    {                                                                                                     \
+        telsx##NAME##Set##WORD( hdr, telsx::text( chars, length ).get() );                                \
+    }                                                                                                     \
+    void telsx##NAME##Del##WORD##SUFFIX( TELSX_HANDLE( NAME ) * hdr, const CHAR *chars, int64_t length )  \
+    {                                                                                                     \
+        telsx##NAME##Del##WORD( hdr, telsx::text( chars, length ).get() );                                \
+    }

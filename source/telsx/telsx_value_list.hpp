@@ -1,0 +1,94 @@
+// What the headers that are a list of values share. The values are kept as text, in a field called values,
+// and read one by one when somebody asks. A header is written with one line for each value.
+#pragma once
+
+#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_items.hpp"
+
+namespace telsx
+{
+
+// A new header with an empty list.
+template <class T> T *createList( RT_SORT sort )
+{
+    T *hdr = rt::create<T>( sort );
+    hdr->values = adopt( rtVectorCreate() );
+    return hdr;
+}
+
+// What a raw header without lines is.
+enum class WithoutLines
+{
+    isNull,
+    isEmpty
+};
+
+// Fills a new list with the texts that the skipper cuts out of the raw header; false for bad text.
+bool decodeValues( Ref<RT_VECTOR> &values, TELSX_MESSAGE_HEADER header, Skipper skipValue,
+                   WithoutLines withoutLines );
+
+// The list of a header that is about to get one more value. A header that is a star is none any more.
+template <class T> RT_VECTOR *valuesToAddTo( T *hdr )
+{
+    if constexpr ( requires { hdr->starForm; } )
+        hdr->starForm = 0;
+    return hdr->values.address();
+}
+
+// The value at the index, read by its own decoder.
+template <class VALUE>
+VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
+                        VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
+{
+    return textOf( rtStringFrom( rt___VectorObjBorrowed( values.get(), index ) ) ).as( tryDecode );
+}
+
+} // namespace telsx
+
+// The eight operations of the header NAME on its list of VALUEs, called WORD in the functions' names.
+#define TELSX_DEFINE_VALUE_LIST( NAME, WORD, VALUE, ENCODE, CLEAR )                                          \
+    void telsx##NAME##CLEAR( TELSX_HANDLE( NAME ) * hdr )                                                    \
+    {                                                                                                        \
+        TELSX_ASSERT_HANDLE( hdr );                                                                          \
+        rtVectorClear( telsx::valuesToAddTo( TELSX_OWN( hdr ) ) );                                           \
+    }                                                                                                        \
+    int64_t telsx##NAME##WORD##sLength( TELSX_HANDLE( NAME ) hdr )                                           \
+    {                                                                                                        \
+        TELSX_ASSERT( hdr );                                                                                 \
+        return rtVectorLength( hdr->values.get() );                                                          \
+    }                                                                                                        \
+    TELSX_HANDLE( VALUE ) telsx##NAME##TryDecode##WORD##At( TELSX_HANDLE( NAME ) hdr, int64_t index )        \
+    {                                                                                                        \
+        TELSX_ASSERT( hdr );                                                                                 \
+        return telsx::tryDecodeValueAt( hdr->values, index, telsx___##VALUE##TryDecode );                    \
+    }                                                                                                        \
+    void telsx##NAME##Set##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index,                              \
+                                     TELSX_HANDLE( VALUE ) value )                                           \
+    {                                                                                                        \
+        TELSX_ASSERT_HANDLE( hdr );                                                                          \
+        auto text = telsx::adopt( ENCODE( value ) );                                                         \
+        rtVectorSetStringAt( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), index, text.get() );                  \
+    }                                                                                                        \
+    void telsx##NAME##Del##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index )                             \
+    {                                                                                                        \
+        TELSX_ASSERT_HANDLE( hdr );                                                                          \
+        rtVectorDelAt( TELSX_OWN( hdr )->values.address(), index );                                          \
+    }                                                                                                        \
+    void telsx##NAME##Prepend##WORD( TELSX_HANDLE( NAME ) * hdr, TELSX_HANDLE( VALUE ) value )               \
+    {                                                                                                        \
+        TELSX_ASSERT_HANDLE( hdr );                                                                          \
+        auto text = telsx::adopt( ENCODE( value ) );                                                         \
+        rtVectorPrependString( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), text.get() );                       \
+    }                                                                                                        \
+    void telsx##NAME##Append##WORD( TELSX_HANDLE( NAME ) * hdr, TELSX_HANDLE( VALUE ) value )                \
+    {                                                                                                        \
+        TELSX_ASSERT_HANDLE( hdr );                                                                          \
+        auto text = telsx::adopt( ENCODE( value ) );                                                         \
+        rtVectorAppendString( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), text.get() );                        \
+    }                                                                                                        \
+    void telsx##NAME##Insert##WORD( TELSX_HANDLE( NAME ) * hdr, int64_t index, TELSX_HANDLE( VALUE ) value ) \
+    {                                                                                                        \
+        TELSX_ASSERT_HANDLE( hdr );                                                                          \
+        auto text = telsx::adopt( ENCODE( value ) );                                                         \
+        rtVectorInsertString( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), index, text.get() );                 \
+    }
