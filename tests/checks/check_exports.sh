@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# The libraries export what their public headers declare, no more and no less.
+# usage: check_exports.sh CC SOURCE LIBRARY=FILE...     such as rt=build/debug/lib/libcorvane-rt.so
+set -euo pipefail
+
+# The functions and variables that the headers of a library declare. The compiler takes out comments, macros and
+# attributes; of what is left, declarations end in semicolons, and a name stands in front of the first parenthesis.
+declared()
+{
+    ( cd "$source" && printf '#include "%s"\n' "$1"/*.h ) |
+        "$cc" -std=c11 "-D__attribute__(x)=" "-I$source" -E -P -x c - | tr '\n' ' ' |
+        sed -E ':again; s/\{[^{}]*\}/@/; t again; s/\) *@/);/g' | tr ';' '\n' |
+        grep -vE '\<(typedef|static)\>' |
+        sed -nE 's/^[^(]*\<([A-Za-z_0-9]+) *\(.*/\1/p; t; s/.*\<extern\>.*\<([A-Za-z_0-9]+) *(\[.*)?$/\1/p' |
+        grep -E "^$1[_A-Z]" | sort -u
+}
+
+cc=$1 source=$2 failed=0
+for library in "${@:3}"; do
+    name=${library%%=*}
+    diff -U 0 --label "declared by source/$name/*.h" <( declared "$name" ) \
+        --label "exported by $name" <( nm -D --defined-only "${library#*=}" | awk '{ print $NF }' | sort -u ) || failed=1
+done
+exit $failed

@@ -1,0 +1,196 @@
+// From the bytes of a datagram, or of a head, to a fragment.
+#include "telsx_support.hpp"
+
+using namespace support;
+
+namespace
+{
+
+struct Case
+{
+    std::string wire, expected; // as dump writes it
+};
+
+} // namespace
+
+// Decodes from a block of exactly the size of the text.
+static std::string decoded( const std::string &wire ) { return dump( fragment( wire ).get() ); }
+
+TEST( Decoding, TellsTheStartLine )
+{
+    const Case cases[] = {
+        // None
+        { "", "-" },
+        { "\r\n\r\n", "-" },
+        { "G: 1\r\nH: 2\r\n\r\n", "- | G: <1> | H: <2>" },
+        { "To: a\r\n\r\n", "- | To: <a>" },
+        { "Via: SIP/2.0/UDP x\r\n\r\n", "- | Via: <SIP/2.0/UDP x>" },
+        { "A\tb:c SIP/2.0\r\n\r\n", "(null)" },
+        { "G :b\r\n\r\n", "- | G: <b>" },
+        { "no header\r\n\r\n", "(null)" },
+        // Status lines
+        { "SIP/2.0 200 OK\r\n\r\n", "SIP/2.0 200 <OK>" },
+        { "SIP/2.0 200 OK", "SIP/2.0 200 <OK>" },
+        { "SIP/2.0 200\r\n\r\n", "SIP/2.0 200 <>" },
+        { "SIP/2.0 200 \r\n\r\n", "SIP/2.0 200 <>" },
+        { "SIP/2.0 200 All  is well \r\n\r\n", "SIP/2.0 200 <All  is well >" },
+        { "sip/2.0A 100 a%22%c3%A4%zz%\r\n\r\n", "SIP/2.0a 100 <a\"Ã¤%zz%>" },
+        { "SIP\t/\t2.0 999 \xC3\xA4:\r\n\r\n", "SIP/2.0 999 <ä:>" },
+        { "ABC/1 00200 x\r\n\r\n", "ABC/1 200 <x>" },
+        { "SIP/2.0 99 Odd\r\n\r\n", "(null)" },
+        { "SIP/2.0 1000 Odd\r\n\r\n", "(null)" },
+        { "SIP/2.0 abc\r\n\r\n", "(null)" },
+        { "SIP/2.0 200x OK\r\n\r\n", "(null)" },
+        { "SIP/2.0 +200 OK\r\n\r\n", "(null)" },
+        { "SIP/2.0 18446744073709551816 OK\r\n\r\n", "(null)" },
+        { "SIP/2.0  200 OK\r\n\r\n", "(null)" },
+        { "SIP/2.0 \r\n\r\n", "(null)" },
+        { "SIP/2.0\r\n\r\n", "(null)" },
+        { " SIP/2.0 200 OK\r\n\r\n", "(null)" },
+        // Request lines
+        { "INVITE sip:b SIP/2.0\r\n\r\n", "INVITE sip:b SIP/2.0" },
+        { "invite sip:b abc / 1X\r\n\r\n", "invite sip:b ABC/1x" },
+        { "!%'*+-._`~ tel:+1 SIP/2.0\r\n\r\n", "!%'*+-._`~ tel:+1 SIP/2.0" },
+        { "A sip:%C3%A4@xn--4ca.de;x=[::1]?y=%41 SIP/2.0\r\n\r\n", "A sip:ä@ä.de;x=[::1]?y=%41 SIP/2.0" },
+        { "INVITE sip:b\r\n\r\n", "(null)" },
+        { "INVITE  sip:b SIP/2.0\r\n\r\n", "(null)" },
+        { "INVITE sip:b  SIP/2.0\r\n\r\n", "(null)" },
+        { "INVITE sip:b SIP/2.0 \r\n\r\n", "(null)" },
+        { "INVITE sip:b SIP/2.0 x\r\n\r\n", "(null)" },
+        { "INVITE sip:b SIP\r\n\r\n", "(null)" },
+        { "INVITE <sip:b> SIP/2.0\r\n\r\n", "(null)" },
+        { "INVITE sip:%4 SIP/2.0\r\n\r\n", "(null)" },
+        { "INVITE b SIP/2.0\r\n\r\n", "(null)" },
+        { "INVITE sip:b SIP/2.0\nTo: a\r\n\r\n", "(null)" },
+        { "\r\nINVITE sip:b SIP/2.0\r\n\r\n", "(null)" },
+        // A token and a blank: a request line, and a bad one.
+        { "Subject : good news\r\n\r\n", "(null)" },
+    };
+    for ( auto &[wire, expected] : cases )
+        EXPECT_EQ( expected, decoded( wire ) ) << wire;
+}
+
+TEST( Decoding, FilesHeadersUnderTheirNames )
+{
+    const Case cases[] = {
+        // behind a start line, in front of a blank line
+        { "G:", "G: <>" },
+        { "G: \t ", "G: <>" },
+        { "x-y:a", "X-Y: <a>" },
+        { "G \t:\t a b \t", "G: <a b>" },
+        { "G:a:b: c", "G: <a:b: c>" },
+        { "G: a  b", "G: <a  b>" },
+        { "Via: a\r\nTo: b\r\nv: c, d\r\nVIA:", "Via: <a> <c, d> <> | To: <b>" },
+        { "G: \xC3\xA4\xF0\x9F\x98\x80", "G: <ä😀>" },
+        // Line ends are CR LF, and nothing else.
+        { "G: a\nH: b\r", "G: <a\nH: b\r>" },
+        { "G: a\r\r\nH: \n", "G: <a\r> | H: <\n>" },
+        { std::string( "G: \0", 4 ), std::string( "G: <\0>", 6 ) },
+        // Folds
+        { "Subject: a\r\n b\r\n\tc", "Subject: <a b c>" },
+        { "G: a  \r\n \t  b  \r\nH: c", "G: <a b> | H: <c>" },
+        { "G:\r\n a", "G: <a>" },
+        { "G: a\r\n ", "G: <a>" },
+        { "G: a\r\n \t\r\n b", "G: <a b>" },
+        { "G\r\n : a", "G: <a>" },
+        { "G\r\n H: a", "(null)" },
+        { "G: a\r\n H: b", "G: <a H: b>" },
+        { "G: a\r\n b\r\nH: c\r\n d\r\nG: e", "G: <a b> <e> | H: <c d>" },
+        { " G: a", "G: <a>" },
+        { "  \r\n\tG: a", "G: <a>" },
+        // Bad lines
+        { "G", "(null)" },
+        { ":a", "(null)" },
+        { " : a", "(null)" },
+        { "G: a\r\nbad line\r\nH: b", "(null)" },
+        { "G H: a", "(null)" },
+        { "G/H: a", "(null)" },
+        { "\xC3\xA4: a", "(null)" },
+        { "G: \xC3", "(null)" },
+        { "G: \xFF", "(null)" },
+        { "G: \xED\xA0\x80", "(null)" },
+    };
+    for ( auto &[wire, expected] : cases )
+        EXPECT_EQ( expected == "(null)" ? expected : "SIP/2.0 200 <> | " + expected,
+                   decoded( "SIP/2.0 200\r\n" + wire + "\r\n\r\n" ) )
+            << wire;
+}
+
+TEST( Decoding, CutsTheBody )
+{
+    const Case cases[] = {
+        { "\r\n", "" },
+        { "\r\nabcdefg", " | body <abcdefg>" },
+        { "\r\n\xFF\r\n\r\n", " | body <\xFF\r\n\r\n>" },
+        { "l: 0\r\n\r\n", " | Content-Length: <0>" },
+        { "l: 0\r\n\r\nabcdefg", " | Content-Length: <0>" },
+        { "l: 5\r\n\r\nabcde", " | Content-Length: <5> | body <abcde>" },
+        { "l: 5\r\n\r\nabcdefg", " | Content-Length: <5> | body <abcde>" },
+        { "l: 005\r\n\r\nabcdefg", " | Content-Length: <005> | body <abcde>" },
+        { "l: x\r\nContent-length: 2\r\n\r\nabc", " | Content-Length: <x> <2> | body <ab>" },
+        { "l: 5\r\n\r\nabc", "(null)" },
+        { "l: 5\r\n\r\n", "(null)" },
+        { "l: 5", "(null)" },
+        { "l: 0", " | Content-Length: <0>" },
+        { "l: x\r\n\r\nabc", "(null)" },
+        { "l:\r\n\r\nabc", "(null)" },
+        { "l: -1\r\n\r\nabc", "(null)" },
+        { "l: +1\r\n\r\nabc", "(null)" },
+        { "l: 1 \t\r\n\r\nabc", " | Content-Length: <1> | body <a>" },
+        { "l: 1;x\r\n\r\nabc", "(null)" },
+        { "l: 1, 1\r\n\r\nabc", "(null)" },
+        { "l: 2\r\nl: x\r\n\r\nabc", "(null)" },
+        { "l: 9223372036854775807\r\n\r\nabc", "(null)" },
+        { "l: 9223372036854775808\r\n\r\nabc", "(null)" },
+        { "l: 18446744073709551617\r\n\r\nabc", "(null)" },
+    };
+    for ( auto &[wire, expected] : cases )
+        EXPECT_EQ( expected == "(null)" ? expected : "A b:c D/1" + expected,
+                   decoded( "A b:c D/1\r\n" + wire ) )
+            << wire;
+    // Without a blank line all is head, and must be text.
+    EXPECT_EQ( "(null)", decoded( "A b:c D/1\r\nG: a\r\n\xFF" ) );
+    EXPECT_EQ( "- | body <a>", decoded( "\r\n\r\na" ) );
+}
+
+TEST( Decoding, OfAHeadAloneTellsContentLength )
+{
+    struct
+    {
+        const char *head, *expected;
+        int64_t contentLength;
+        const char *expectedUnasked;
+    } cases[] = {
+        { "A b:c D/1\r\n", "A b:c D/1", -1, "A b:c D/1" },
+        { "l: 7\r\n", "- | Content-Length: <7>", 7, "- | Content-Length: <7>" },
+        { "l: 7", "- | Content-Length: <7>", 7, "- | Content-Length: <7>" },
+        { "l: 7\r\nl: 0\r\n", "- | Content-Length: <7> <0>", 0, "- | Content-Length: <7> <0>" },
+        { "l: x\r\n", "(null)", -1, "- | Content-Length: <x>" },
+        { "l: 7\r\nbad", "(null)", -1, "(null)" },
+        // No blank line ends a head.
+        { "G: a\r\n\r\n\r\nH: b\r\n", "- | G: <a> | H: <b>", -1, "- | G: <a> | H: <b>" },
+        { "G: a\r\n\r\n h: c\r\n", "- | G: <a> | H: <c>", -1, "- | G: <a> | H: <c>" },
+    };
+    for ( auto &[head, expected, contentLength, expectedUnasked] : cases )
+    {
+        int64_t found = 99;
+        Ref<RT_BUFFER> buf = buffer( head );
+        EXPECT_EQ( expected,
+                   dump( adopt( telsxMessageFragmentTryDecodeHeaders( buf.get(), &found ) ).get() ) );
+        EXPECT_EQ( contentLength, found ) << head;
+        EXPECT_EQ( expectedUnasked,
+                   dump( adopt( telsxMessageFragmentTryDecodeHeaders( buf.get(), nullptr ) ).get() ) );
+    }
+    EXPECT_ABORT( telsxMessageFragmentTryDecodeHeaders( nullptr, nullptr ), "buf" );
+    EXPECT_ABORT( telsxMessageTryDecode( nullptr ), "buf" );
+}
+
+// A message cut off at any byte is decoded or refused, and leaves nothing behind.
+TEST( Decoding, TakesEveryFrontOfAMessage )
+{
+    const std::string wire = "INVITE sip:%C3%A4@b SIP/2.0\r\nv: a\r\n b\r\nTo: \xC3\xA4\r\nl: 3\r\n\r\nabc";
+    for ( std::size_t length = 0; length < wire.size(); ++length )
+        message( wire.substr( 0, length ) );
+    EXPECT_EQ( "INVITE sip:ä@b SIP/2.0 | Via: <a b> | To: <ä> | Content-Length: <3> | body <abc>",
+               decoded( wire ) );
+}

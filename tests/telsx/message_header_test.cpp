@@ -1,0 +1,223 @@
+// Raw headers: names in canonical form, lines, stores.
+#include "telsx_support.hpp"
+
+using namespace support;
+
+static std::string canonical( std::string_view name )
+{
+    return utf8( telsxMessageHeaderNameNormalize( str( name ).get() ) );
+}
+
+TEST( MessageHeaderName, HasOneCanonicalForm )
+{
+    std::pair<const char *, const char *> cases[] = {
+        // Capitals stand at the start and behind each hyphen, whatever the RFC writes.
+        { "CSeq", "Cseq" },
+        { "CSEQ", "Cseq" },
+        { "call-ID", "Call-Id" },
+        { "Min-SE", "Min-Se" },
+        { "RAck", "Rack" },
+        { "WWW-Authenticate", "Www-Authenticate" },
+        { "P-Asserted-Identity", "P-Asserted-Identity" },
+        { "x-a_b.c", "X-A_b.c" },
+        { "-abc", "-Abc" },
+        { "a--b", "A--B" },
+        { "a-", "A-" },
+        { "-", "-" },
+        { "1a-2b", "1a-2b" },
+        { "to", "To" },
+        { "ab", "Ab" },
+        // Compact forms
+        { "a", "Accept-Contact" },
+        { "b", "Referred-By" },
+        { "c", "Content-Type" },
+        { "d", "Request-Disposition" },
+        { "e", "Content-Encoding" },
+        { "f", "From" },
+        { "i", "Call-Id" },
+        { "j", "Reject-Contact" },
+        { "k", "Supported" },
+        { "l", "Content-Length" },
+        { "m", "Contact" },
+        { "n", "Identity-Info" },
+        { "o", "Event" },
+        { "r", "Refer-To" },
+        { "s", "Subject" },
+        { "t", "To" },
+        { "u", "Allow-Events" },
+        { "v", "Via" },
+        { "x", "Session-Expires" },
+        { "y", "Identity" },
+        { "I", "Call-Id" },
+        { "g", "G" },
+        { "h", "H" },
+        { "p", "P" },
+        { "q", "Q" },
+        { "w", "W" },
+        { "z", "Z" },
+    };
+    for ( auto &[name, expected] : cases )
+    {
+        EXPECT_EQ( expected, canonical( name ) );
+        EXPECT_EQ( expected, canonical( expected ) );
+        Ref<TELSX_MESSAGE_HEADER> made = header( name, {} );
+        EXPECT_EQ( expected, utf8( telsxMessageHeaderName( made.get() ) ) );
+        EXPECT_TRUE( telsxMessageHeaderNameEquals( made.get(), str( name ).get() ) );
+        EXPECT_FALSE( telsxMessageHeaderNameEqualsCstr( made.get(), "Xy", -1 ) );
+    }
+}
+
+TEST( MessageHeaderName, IsSetInThreeForms )
+{
+    Ref<TELSX_MESSAGE_HEADER> made = adopt( telsxMessageHeaderCreateWcstr( L"call-idx", 7 ) );
+    EXPECT_TRUE( telsxMessageHeaderNameEqualsWcstr( made.get(), L"i", -1 ) );
+    telsxMessageHeaderSetName( made.address(), str( "v" ).get() );
+    EXPECT_EQ( "Via:", dump( made.get() ) );
+    telsxMessageHeaderSetNameCstr( made.address(), "tx", 1 );
+    EXPECT_EQ( "To:", dump( made.get() ) );
+    telsxMessageHeaderSetNameWcstr( made.address(), L"x-y", -1 );
+    EXPECT_EQ( "X-Y:", dump( made.get() ) );
+}
+
+TEST( MessageHeaderLine, HoldsNoLineEnd )
+{
+    for ( const char *line : { "", "a\rb", "a\nb", "\n\r", "\r", "ä, b" } )
+        EXPECT_TRUE( telsxMessageHeaderLineOk( str( line ).get() ) ) << line;
+    for ( const char *line : { "a\r\nb", "\r\n", "a\r\r\n", "\n\r\n" } )
+        EXPECT_FALSE( telsxMessageHeaderLineOk( str( line ).get() ) ) << line;
+}
+
+TEST( MessageHeaderLine, IsAddedReplacedAndTakenOut )
+{
+    Ref<TELSX_MESSAGE_HEADER> made = header( "Via", {} );
+    TELSX_MESSAGE_HEADER *via = made.address();
+    EXPECT_EQ( 0, telsxMessageHeaderLinesLength( *via ) );
+    EXPECT_EQ( nullptr, telsxMessageHeaderLastLine( *via ) );
+
+    telsxMessageHeaderAppendLine( via, str( "a" ).get() );
+    telsxMessageHeaderAppendLineCstr( via, "bc", 1 );
+    telsxMessageHeaderAppendLineWcstr( via, L"c", -1 );
+    telsxMessageHeaderAppendLineFormat( via, str( "d%i" ).get(), int64_t( 1 ) );
+    telsxMessageHeaderAppendLineFormatCstr( via, "e%ix", 3, int64_t( 2 ) );
+    telsxMessageHeaderAppendLineFormatWcstr( via, L"f%s", -1, str( "3" ).get() );
+    EXPECT_EQ( "Via: <a> <b> <c> <d1> <e2> <f3>", dump( *via ) );
+    EXPECT_EQ( "f3", utf8( telsxMessageHeaderLastLine( *via ) ) );
+
+    telsxMessageHeaderSetLineAt( via, 0, str( "" ).get() );
+    telsxMessageHeaderSetLineAtCstr( via, 1, "B", -1 );
+    telsxMessageHeaderSetLineAtWcstr( via, 2, L"Cx", 1 );
+    telsxMessageHeaderSetLineAtFormat( via, 3, str( "%i%%" ).get(), int64_t( -4 ) );
+    telsxMessageHeaderSetLineAtFormatCstr( via, 4, "%03i", -1, int64_t( 5 ) );
+    telsxMessageHeaderSetLineAtFormatWcstr( via, 5, L"%~s", -1, str( "6" ).take() );
+    EXPECT_EQ( "Via: <> <B> <C> <-4%> <005> <6>", dump( *via ) );
+
+    telsxMessageHeaderDelLineAt( via, 5 );
+    telsxMessageHeaderDelLineAt( via, 0 );
+    EXPECT_EQ( "Via: <B> <C> <-4%> <005>", dump( *via ) );
+}
+
+TEST( MessageHeaderLine, VectorIsPrivateToItsHolder )
+{
+    Ref<TELSX_MESSAGE_HEADER> via = header( "Via", { "a", "b" } ), other = header( "To", {} );
+    Ref<RT_VECTOR> lines = adopt( telsxMessageHeaderLinesVector( via.get() ) );
+    telsxMessageHeaderSetLinesVector( other.address(), lines.get() );
+    rtVectorDelAt( lines.address(), 0 );
+    telsxMessageHeaderAppendLineCstr( other.address(), "c", -1 );
+    EXPECT_EQ( "Via: <a> <b>", dump( via.get() ) );
+    EXPECT_EQ( "To: <a> <b> <c>", dump( other.get() ) );
+    EXPECT_EQ( 1, rtVectorLength( lines.get() ) );
+}
+
+TEST( MessageHeader, SortsByNameThenLines )
+{
+    const Ref<TELSX_MESSAGE_HEADER> ascending[] = { header( "To", { "z" } ), header( "v", {} ),
+                                                    header( "Via", { "a" } ), header( "VIA", { "a", "" } ),
+                                                    header( "via", { "b" } ) };
+    for ( std::size_t i = 0; i < std::size( ascending ); ++i )
+        for ( std::size_t j = 0; j < std::size( ascending ); ++j )
+            EXPECT_EQ( i <=> j, ascending[i] <=> ascending[j] );
+}
+
+TEST( MessageHeaderStore, RestoresTheSameHeader )
+{
+    Ref<TELSX_MESSAGE_HEADER> headers[] = { header( "Via", {} ), header( "Via", { "" } ),
+                                            header( "i", { "ä\r" } ), header( "Via", { "a", "b", "a" } ) };
+    for ( int i = 0; i < 12; ++i )
+        telsxMessageHeaderAppendLineFormatCstr( headers[3].address(), "%i", -1, int64_t( i ) );
+    for ( auto &saved : headers )
+    {
+        Ref<RT_STORE> store = adopt( telsxMessageHeaderStore( saved.get() ) ),
+                      lines = adopt( telsxMessageHeaderStoreLines( saved.get() ) );
+        EXPECT_EQ( 2, rtStoreLength( store.get() ) );
+        EXPECT_EQ( lines, adopt( rtStoreStoreCstr( store.get(), "lines", -1 ) ) );
+        EXPECT_EQ( telsxMessageHeaderLinesLength( saved.get() ), rtStoreLength( lines.get() ) );
+        EXPECT_EQ( saved, adopt( telsxMessageHeaderTryRestore( store.get() ) ) );
+        Ref<RT_STRING> name = adopt( telsxMessageHeaderName( saved.get() ) );
+        EXPECT_EQ( saved, adopt( telsxMessageHeaderRestoreLines( name.get(), lines.get() ) ) );
+    }
+    Ref<RT_STORE> lines = adopt( telsxMessageHeaderStoreLines( headers[3].get() ) );
+    EXPECT_EQ( headers[3], adopt( telsxMessageHeaderRestoreLinesCstr( "viax", 3, lines.get() ) ) );
+    EXPECT_EQ( headers[3], adopt( telsxMessageHeaderRestoreLinesWcstr( L"v", -1, lines.get() ) ) );
+}
+
+TEST( MessageHeaderStore, FailsWhereItIsDamaged )
+{
+    auto restored = []( const char *name, const char *line )
+    {
+        Ref<RT_STORE> store = adopt( rtStoreCreate() ), lines = adopt( rtStoreCreate() );
+        // A store among the lines is passed over.
+        rtStoreSetStoreCstr( lines.address(), "0", -1, store.get() );
+        if ( line )
+            rtStoreSetValueCstr( lines.address(), "1", -1, str( line ).get() );
+        if ( name )
+            rtStoreSetValueCstr( store.address(), "name", -1, str( name ).get() );
+        rtStoreSetStoreCstr( store.address(), "lines", -1, lines.get() );
+        Ref<TELSX_MESSAGE_HEADER> header = adopt( telsxMessageHeaderTryRestore( store.get() ) );
+        return header ? dump( header.get() ) : "(null)";
+    };
+    EXPECT_EQ( "Via: <a>", restored( "v", "a" ) );
+    EXPECT_EQ( "Via:", restored( "v", nullptr ) );
+    EXPECT_EQ( "(null)", restored( nullptr, "a" ) );
+    EXPECT_EQ( "(null)", restored( "", "a" ) );
+    EXPECT_EQ( "(null)", restored( "a b", "a" ) );
+    EXPECT_EQ( "(null)", restored( "v", "a\r\nb" ) );
+    Ref<RT_STORE> store = adopt( rtStoreCreate() );
+    rtStoreSetValueCstr( store.address(), "name", -1, str( "v" ).get() );
+    EXPECT_FALSE( adopt( telsxMessageHeaderTryRestore( store.get() ) ) );
+    rtStoreSetValueCstr( store.address(), "lines", -1, str( "a" ).get() );
+    EXPECT_FALSE( adopt( telsxMessageHeaderTryRestore( store.get() ) ) );
+}
+
+TEST( MessageHeader, AbortsForBrokenContracts )
+{
+    Ref<TELSX_MESSAGE_HEADER> via = header( "Via", { "a" } );
+    TELSX_MESSAGE_HEADER none = nullptr;
+    Ref<RT_STRING> good = str( "a" ), bad = str( "a:\r\n" );
+    Ref<RT_STORE> store = adopt( rtStoreCreate() );
+    Ref<RT_VECTOR> numbers = adopt( rtVectorCreate() ), badLines = numbers;
+    rtVectorAppend( numbers.address(), rtStoreObj( store.get() ) );
+    rtVectorAppendString( badLines.address(), bad.get() );
+
+    EXPECT_ABORT( telsxMessageHeaderCreateCstr( "a b", -1 ), "telsxMessageHeaderNameOk( name )" );
+    EXPECT_ABORT( telsxMessageHeaderSetName( via.address(), bad.get() ), "telsxMessageHeaderNameOk( name )" );
+    EXPECT_ABORT( telsxMessageHeaderNameEquals( via.get(), bad.get() ), "telsxMessageHeaderNameOk( name )" );
+    EXPECT_ABORT( telsxMessageHeaderAppendLine( via.address(), bad.get() ),
+                  "telsxMessageHeaderLineOk( value )" );
+    EXPECT_ABORT( telsxMessageHeaderSetLineAtFormatCstr( via.address(), 0, "%s", -1, bad.get() ),
+                  "telsxMessageHeaderLineOk( value )" );
+    EXPECT_ABORT( telsxMessageHeaderSetLinesVector( via.address(), numbers.get() ),
+                  "rtVectorContainsOnly( lines, rtStringSort() )" );
+    EXPECT_DEATH( telsxMessageHeaderSetLinesVector( via.address(), badLines.get() ), "LineOk" );
+    EXPECT_DEATH( telsxMessageHeaderLineAt( via.get(), 1 ), "source/rt/rt_vector" );
+    EXPECT_DEATH( telsxMessageHeaderDelLineAt( via.address(), -1 ), "source/rt/rt_vector" );
+    EXPECT_ABORT( telsxMessageHeaderRestoreLines( bad.get(), store.get() ),
+                  "telsxMessageHeaderNameOk( name )" );
+    EXPECT_ABORT( telsxMessageHeaderRestoreLines( good.get(), nullptr ), "store" );
+    EXPECT_ABORT( telsxMessageHeaderTryRestore( nullptr ), "store" );
+    EXPECT_ABORT( telsxMessageHeaderStore( nullptr ), "header" );
+    EXPECT_ABORT( telsxMessageHeaderLastLine( nullptr ), "header" );
+    EXPECT_ABORT( telsxMessageHeaderAppendLine( nullptr, good.get() ), "header" );
+    EXPECT_ABORT( telsxMessageHeaderDelLineAt( &none, 0 ), "*header" );
+    EXPECT_ABORT( telsx___MessageHeaderCompFunc( nullptr, telsxMessageHeaderObj( via.get() ) ), "thisObj" );
+    EXPECT_ABORT( telsx___MessageHeaderCompFunc( telsxMessageHeaderObj( via.get() ), nullptr ), "thatObj" );
+}

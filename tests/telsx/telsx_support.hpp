@@ -1,0 +1,91 @@
+// What the tests of telsx share: texts for skippers and decoders, fragments and messages as readable text.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "support/support.hpp"
+#include "telsx/telsx.h"
+
+namespace support
+{
+
+// The code points of a UTF-8 text, in a heap block of exactly their number.
+inline std::vector<RT_CHAR> codePoints( std::string_view utf8 )
+{
+    Ref<RT_STRING> string = str( utf8 );
+    const RT_CHAR *chs = rtStringBacking( string.get() );
+    return { chs, chs + rtStringLength( string.get() ) };
+}
+
+// What a skipper or a decoder makes of such a text.
+template <class FUNCTION> auto applied( FUNCTION *function, std::string_view utf8 )
+{
+    std::vector<RT_CHAR> exact = codePoints( utf8 );
+    return function( exact.data(), std::ssize( exact ) );
+}
+
+inline Ref<TELSX_MESSAGE_HEADER> header( const char *name, std::initializer_list<const char *> lines )
+{
+    Ref<TELSX_MESSAGE_HEADER> made = adopt( telsxMessageHeaderCreateCstr( name, -1 ) );
+    for ( const char *line : lines )
+        telsxMessageHeaderAppendLine( made.address(), str( line ).get() );
+    return made;
+}
+
+// "Via: <a> <b>", a pair of brackets for each line.
+inline std::string dump( TELSX_MESSAGE_HEADER header )
+{
+    std::string text = utf8( telsxMessageHeaderName( header ) ) + ":";
+    for ( int64_t i = 0; i < telsxMessageHeaderLinesLength( header ); ++i )
+        text += " <" + utf8( telsxMessageHeaderLineAt( header, i ) ) + ">";
+    return text;
+}
+
+// The start line, "-" for none, then headers and body, each behind a bar.
+inline std::string dump( TELSX_MESSAGE_FRAGMENT frag )
+{
+    if ( !frag )
+        return "(null)";
+    EXPECT_EQ( 1, ( telsxMessageFragmentIsRequest( frag ) ? 1 : 0 )
+                      + ( telsxMessageFragmentIsResponse( frag ) ? 1 : 0 )
+                      + ( telsxMessageFragmentIsNeitherRequestNorResponse( frag ) ? 1 : 0 ) );
+    std::string text = "-";
+    if ( auto version = adopt( telsxMessageFragmentVersion( frag ) ) )
+    {
+        std::string protocol = utf8( telsxVersionToString( version.get() ) );
+        text = telsxMessageFragmentIsRequest( frag )
+                   ? utf8( telsxMessageFragmentRequestMethod( frag ) ) + " "
+                         + utf8( telsxMessageFragmentRequestIri( frag ) ) + " " + protocol
+                   : protocol + " " + std::to_string( telsxMessageFragmentResponseStatusCode( frag ) ) + " <"
+                         + utf8( telsxMessageFragmentResponseReasonPhrase( frag ) ) + ">";
+    }
+    Ref<RT_VECTOR> headers = adopt( telsxMessageFragmentHeadersVector( frag ) );
+    for ( int64_t i = 0; i < rtVectorLength( headers.get() ); ++i )
+        text += " | " + dump( telsxMessageHeaderFrom( adopt( rtVectorObjAt( headers.get(), i ) ).get() ) );
+    if ( telsxMessageFragmentHasBody( frag ) )
+        text += " | body <" + bytes( adopt( telsxMessageFragmentBody( frag ) ) ) + ">";
+    return text;
+}
+
+inline std::string dump( TELSX_MESSAGE msg )
+{
+    return msg ? dump( adopt( telsxMessageFragment( msg ) ).get() ) : "(null)";
+}
+
+// A fragment or a message of wire text.
+inline Ref<TELSX_MESSAGE_FRAGMENT> fragment( std::string_view wire )
+{
+    return adopt( telsxMessageFragmentTryDecode( buffer( wire ).get() ) );
+}
+inline Ref<TELSX_MESSAGE> message( std::string_view wire )
+{
+    return adopt( telsxMessageTryDecode( buffer( wire ).get() ) );
+}
+
+inline std::string encoded( TELSX_MESSAGE_FRAGMENT frag )
+{
+    return bytes( adopt( telsxMessageFragmentEncode( frag ) ) );
+}
+
+} // namespace support
