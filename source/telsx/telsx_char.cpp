@@ -24,6 +24,6 @@ RT_BOOL telsx___CharIsHexdig( RT_CHAR ch, int64_t *value )
 {
     bool member = isIn( ch, classHexdig );
     if ( value )
-        *value = !member ? -1 : ch <= '9' ? ch - '0' : ( ch | 0x20 ) - 'a' + 10;
+        *value = member ? static_cast<int64_t>( ch <= '9' ? ch - '0' : ( ch | 0x20 ) - 'a' + 10 ) : -1;
     return member;
 }

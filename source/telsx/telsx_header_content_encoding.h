@@ -24,8 +24,8 @@ RT_API int64_t telsxHeaderContentEncodingContentCodingsLength( TELSX_HEADER_CONT
 RT_API RT_STRING telsxHeaderContentEncodingContentCodingAt( TELSX_HEADER_CONTENT_ENCODING hdr,
                                                             int64_t index );
 
-/* Changes of the list. SetContentCodingsVector fills it anew; every element of the vector must be a string.
- */
+/* Changes of the list. SetContentCodingsVector fills it anew; null aborts, and so does an element that is no
+ * string. */
 RT_API void telsxHeaderContentEncodingClearContentCodings( TELSX_HEADER_CONTENT_ENCODING *hdr );
 RT_API void telsxHeaderContentEncodingSetContentCodingAt( TELSX_HEADER_CONTENT_ENCODING *hdr, int64_t index,
                                                           RT_STRING contentCoding );

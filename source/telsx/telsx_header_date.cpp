@@ -45,9 +45,10 @@ TELSX_MESSAGE_HEADER telsxHeaderDateEncode( TELSX_HEADER_DATE hdr )
                                               "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
     TELSX_ASSERT( hdr );
     RT_TIME time = hdr->time.get();
+    // Comes before the month: it aborts if there is no such month.
+    const char *weekday = weekdays[rtTimeWeekday( time )];
     Ref<RT_STRING> line = adopt( rtStringCreateFromFormatCstr(
-        "%~s, %02i %~s %04i %02i:%02i:%02i GMT", -1,
-        rtStringCreateFromCstr( weekdays[rtTimeWeekday( time )], -1 ), rtTimeDay( time ),
+        "%~s, %02i %~s %04i %02i:%02i:%02i GMT", -1, rtStringCreateFromCstr( weekday, -1 ), rtTimeDay( time ),
         rtStringCreateFromCstr( months[rtTimeMonth( time ) - 1], -1 ), rtTimeYear( time ), rtTimeHour( time ),
         rtTimeMinute( time ), rtTimeSecond( time ) ) );
     return createHeader( literal<"Date">(), line );

@@ -1,7 +1,9 @@
 /* Referred-By header: who refers a party elsewhere (RFC 3892, 3).
  *
- *     Referred-By = ( "Referred-By" / "b" ) HCOLON referrer-uri *( SEMI ( referredby-id-param / generic-param
- * ) ) referrer-uri = name-addr / addr-spec referredby-id-param = "cid" EQUAL DQUOTE sip-clean-msg-id DQUOTE
+ *     Referred-By = ( "Referred-By" / "b" ) HCOLON referrer-uri
+ *                   *( SEMI ( referredby-id-param / generic-param ) )
+ *     referrer-uri = name-addr / addr-spec
+ *     referredby-id-param = "cid" EQUAL DQUOTE sip-clean-msg-id DQUOTE
  *
  * Headers sort by the fields in the order below. */
 #ifndef TELSX_TELSX_HEADER_REFERRED_BY_H
