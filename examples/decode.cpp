@@ -1,4 +1,4 @@
-// Decodes one SIP message, shows what is in it, and encodes it again.
+// Decodes one SIP message, shows what is in it, raw and by type, and encodes it again.
 //
 //     decode            the message below
 //     decode FILE       a file
@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "example.hpp"
+#include "readings.hpp"
 
 namespace
 {
@@ -32,21 +32,6 @@ const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example;transport=tcp 
                       "c=IN IP6 2001:db8::17\r\n"
                       "t=0 0\r\n"
                       "m=audio 49172 RTP/AVP 0\r\n";
-
-// The whole of a file, of standard input for "-"; false and errno if it can't be read.
-bool readAll( const char *name, std::string &bytes )
-{
-    std::FILE *file = std::strcmp( name, "-" ) == 0 ? stdin : std::fopen( name, "rb" );
-    if ( !file )
-        return false;
-    bytes.clear();
-    char piece[4096];
-    while ( std::size_t length = std::fread( piece, 1, sizeof piece, file ) )
-        bytes.append( piece, length );
-    bool whole = !std::ferror( file );
-    std::fclose( file );
-    return whole;
-}
 
 // Wire text, line by line.
 void showBytes( std::string_view bytes )
@@ -85,6 +70,7 @@ int main( int argc, char **argv )
     }
 
     show( message );
+    showTyped( message );
     std::cout << "encoded\n";
     showBytes( toBytes( Buffer( telsxMessageEncode( message.get() ) ) ) );
     return 0;

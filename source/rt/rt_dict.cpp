@@ -24,7 +24,7 @@ struct Entry
     RT_OBJ value;
 };
 
-constexpr int64_t mostWithoutTable = 8;
+constexpr int64_t leastCapacity = 4, mostWithoutTable = 8;
 
 } // namespace
 
@@ -42,73 +42,45 @@ struct RT_DICT_
     uint64_t cursor;
 };
 
-// SipHash-1-3 over the code points, two in a word, with a key of its own in each process: whoever chooses the
-// names can't make them collide.
+// A polynomial in the code points, two in a word, over the integers modulo 2^61 - 1, at a point that is drawn
+// anew in each process: whoever chooses the names without knowing it makes two of them collide with a
+// probability of at most their length over 2^61.
 namespace
 {
 
 struct Seed
 {
-    uint64_t k0, k1;
+    uint64_t point, spread;
 };
+
+constexpr uint64_t prime = ( uint64_t{ 1 } << 61 ) - 1;
 
 Seed makeSeed()
 {
-    Seed seed = { 0x736f6d6570736575, 0x646f72616e646f6d };
+    Seed seed = {};
     RT_CHECK( getrandom( &seed, sizeof seed, 0 ) == sizeof seed, "no random numbers", "getrandom" );
-    return seed;
+    return { seed.point % ( prime - 2 ) + 2, seed.spread | 1 };
 }
 
-struct SipHash
+uint64_t timesPoint( uint64_t value, uint64_t point )
 {
-    uint64_t v0, v1, v2, v3;
-
-    explicit SipHash( const Seed &seed )
-        : v0( seed.k0 ^ 0x736f6d6570736575 ), v1( seed.k1 ^ 0x646f72616e646f6d ),
-          v2( seed.k0 ^ 0x6c7967656e657261 ), v3( seed.k1 ^ 0x7465646279746573 )
-    {
-    }
-
-    void round()
-    {
-        v0 += v1;
-        v2 += v3;
-        v1 = std::rotl( v1, 13 ) ^ v0;
-        v3 = std::rotl( v3, 16 ) ^ v2;
-        v0 = std::rotl( v0, 32 ) + v3;
-        v2 += v1;
-        v1 = std::rotl( v1, 17 ) ^ v2;
-        v3 = std::rotl( v3, 21 ) ^ v0;
-        v2 = std::rotl( v2, 32 );
-    }
-
-    void add( uint64_t word )
-    {
-        v3 ^= word;
-        round();
-        v0 ^= word;
-    }
-
-    uint64_t end()
-    {
-        v2 ^= 0xff;
-        round();
-        round();
-        round();
-        return v0 ^ v1 ^ v2 ^ v3;
-    }
-};
+    __extension__ using Wide = unsigned __int128;
+    Wide product = static_cast<Wide>( value ) * point;
+    return ( static_cast<uint64_t>( product ) & prime ) + static_cast<uint64_t>( product >> 61 );
+}
 
 uint64_t hashOf( Text text )
 {
     static const Seed seed = makeSeed();
-    SipHash hash( seed );
-    int64_t i = 0;
-    for ( ; i + 2 <= text.length; i += 2 )
-        hash.add( text.chs[i] | static_cast<uint64_t>( text.chs[i + 1] ) << 32 );
-    uint64_t last = i < text.length ? text.chs[i] : 0;
-    hash.add( last | static_cast<uint64_t>( text.length ) << 32 );
-    return hash.end();
+    uint64_t hash = static_cast<uint64_t>( text.length );
+    for ( int64_t i = 0; i < text.length; i += 2 )
+    {
+        uint64_t second = i + 1 < text.length ? text.chs[i + 1] : 0;
+        uint64_t word = text.chs[i] | second << 32;
+        hash = timesPoint( hash, seed.point ) + ( word & prime ) + ( word >> 61 );
+        hash = ( hash & prime ) + ( hash >> 61 );
+    }
+    return ( hash >= prime ? hash - prime : hash ) * seed.spread;
 }
 
 } // namespace
@@ -116,6 +88,12 @@ uint64_t hashOf( Text text )
 static bool matches( const Entry &entry, uint64_t hash, Text key )
 {
     return entry.hash == hash && entry.key && rtStringEqualsChars( entry.key, key.chs, key.length );
+}
+
+// The high bits of the hash are the good ones.
+static uint64_t firstSlot( RT_DICT dict, uint64_t hash )
+{
+    return hash >> ( 64 - std::countr_zero( static_cast<uint64_t>( dict->tableSize ) ) );
 }
 
 // The living entry of the key, or null.
@@ -129,7 +107,7 @@ static Entry *find( RT_DICT dict, uint64_t hash, Text key )
         return at == end ? nullptr : at;
     }
     uint64_t mask = static_cast<uint64_t>( dict->tableSize ) - 1;
-    for ( uint64_t slot = hash & mask; dict->table[slot]; slot = ( slot + 1 ) & mask )
+    for ( uint64_t slot = firstSlot( dict, hash ); dict->table[slot]; slot = ( slot + 1 ) & mask )
         if ( Entry &entry = dict->entries[dict->table[slot] - 1]; matches( entry, hash, key ) )
             return &entry;
     return nullptr;
@@ -147,7 +125,7 @@ static Entry *find( RT_DICT dict, RT_STRING key )
 static void enterInTable( RT_DICT dict, int64_t number )
 {
     uint64_t mask = static_cast<uint64_t>( dict->tableSize ) - 1;
-    uint64_t slot = dict->entries[number].hash & mask;
+    uint64_t slot = firstSlot( dict, dict->entries[number].hash );
     while ( dict->table[slot] && dict->entries[dict->table[slot] - 1].key )
         slot = ( slot + 1 ) & mask;
     dict->table[slot] = static_cast<uint32_t>( number + 1 );
@@ -259,14 +237,12 @@ static RT_STRING toStringFunc( RT_OBJ obj )
 
 RT_DEFINE_STDFUNCS( rt, nullptr, Dict, RT_DICT, freeFunc, compareFunc, toStringFunc )
 
-RT_DICT rtDictCreate( void )
-{
-    auto *dict = reinterpret_cast<RT_DICT>( rt___ObjCreate( sizeof( RT_DICT_ ), rtDictSort() ) );
-    RT_OBJECT object = dict->object;
-    *dict = {};
-    dict->object = object;
-    return dict;
-}
+// One empty dictionary serves all; the first change makes another.
+static constexpr RT_DICT_ emptyDict = {
+    { &rt___sort_RT_DICT, RT_COUNT_IMMORTAL }, nullptr, 0, 0, 0, nullptr, 0, 0
+};
+
+RT_DICT rtDictCreate( void ) { return const_cast<RT_DICT>( &emptyDict ); }
 
 // The dictionary behind the handle, made private to it.
 static RT_DICT own( RT_DICT *handle )
@@ -276,8 +252,8 @@ static RT_DICT own( RT_DICT *handle )
     RT_DICT old = *handle;
     if ( rt::shared( rt::asObj( old ) ) )
     {
-        *handle = rtDictCreate();
-        moveEntries( old, *handle, old->length );
+        *handle = reinterpret_cast<RT_DICT>( rt___ObjCreate( sizeof( RT_DICT_ ), rtDictSort() ) );
+        moveEntries( old, *handle, std::max( old->length, leastCapacity ) );
         std::for_each( ( *handle )->entries, ( *handle )->entries + old->length,
                        []( const Entry &entry )
                        {
@@ -322,9 +298,7 @@ void rtDictSetStringKey( RT_DICT *handle, RT_STRING key, RT_OBJ value )
         return;
     }
     if ( dict->used == dict->capacity )
-        moveEntries( dict, dict,
-                     dict->length < mostWithoutTable / 2 ? dict->length + mostWithoutTable / 2
-                                                         : dict->length * 2 );
+        moveEntries( dict, dict, std::max( dict->length * 2, leastCapacity ) );
     dict->entries[dict->used] = { hash, rt::share( key ).take(), value };
     if ( dict->table )
         enterInTable( dict, dict->used );

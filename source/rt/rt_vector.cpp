@@ -10,20 +10,27 @@ using rt::Ref;
 struct RT_VECTOR_
 {
     RT_OBJECT object;
-    RT_OBJ *block;    // the array, or null
+    RT_OBJ *block;    // the array, or null; a small one stands behind this structure
     int64_t capacity; // of the array
     int64_t first;    // where the elements begin in it
     int64_t length;
 
+    RT_OBJ *inner() { return reinterpret_cast<RT_OBJ *>( this + 1 ); }
     RT_OBJ *begin() { return block + first; }
     RT_OBJ *end() { return block + first + length; }
 };
+
+static void freeBlock( RT_VECTOR vector )
+{
+    if ( vector->block != vector->inner() )
+        std::free( vector->block );
+}
 
 static void freeFunc( RT_OBJ obj )
 {
     RT_VECTOR vector = rtVectorFrom( obj );
     std::for_each( vector->begin(), vector->end(), rt::release );
-    std::free( vector->block );
+    freeBlock( vector );
 }
 
 static int64_t compareFunc( RT_OBJ objA, RT_OBJ objB )
@@ -50,13 +57,20 @@ static RT_STRING toStringFunc( RT_OBJ obj )
 
 RT_DEFINE_STDFUNCS( rt, nullptr, Vector, RT_VECTOR, freeFunc, compareFunc, toStringFunc )
 
-RT_VECTOR rtVectorCreate( void ) { return rtVectorCreateWithCapacity( 0 ); }
+// One empty vector serves all; the first change makes another.
+static constexpr RT_VECTOR_ emptyVector = { { &rt___sort_RT_VECTOR, RT_COUNT_IMMORTAL }, nullptr, 0, 0, 0 };
+
+RT_VECTOR rtVectorCreate( void ) { return const_cast<RT_VECTOR>( &emptyVector ); }
 
 RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity )
 {
     RT_ASSERT( capacity >= 0 );
-    auto *vector = reinterpret_cast<RT_VECTOR>( rt___ObjCreate( sizeof( RT_VECTOR_ ), rtVectorSort() ) );
-    vector->block = capacity ? rt::allocate<RT_OBJ>( capacity ) : nullptr;
+    static constexpr int64_t mostInner = 8;
+    bool isInner = capacity <= mostInner;
+    int64_t inner = isInner ? capacity * static_cast<int64_t>( sizeof( RT_OBJ ) ) : 0;
+    auto *vector = reinterpret_cast<RT_VECTOR>(
+        rt___ObjCreate( static_cast<int64_t>( sizeof( RT_VECTOR_ ) ) + inner, rtVectorSort() ) );
+    vector->block = isInner ? vector->inner() : rt::allocate<RT_OBJ>( capacity );
     vector->capacity = capacity;
     vector->first = 0;
     vector->length = 0;
@@ -64,14 +78,14 @@ RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity )
 }
 
 // The vector behind the handle, made private to it.
-static RT_VECTOR own( RT_VECTOR *handle )
+static RT_VECTOR own( RT_VECTOR *handle, int64_t added = 0 )
 {
     RT_ASSERT( handle );
     RT_ASSERT( *handle );
     RT_VECTOR old = *handle;
     if ( rt::shared( rt::asObj( old ) ) )
     {
-        RT_VECTOR copy = rtVectorCreateWithCapacity( old->length );
+        RT_VECTOR copy = rtVectorCreateWithCapacity( old->length + added );
         std::for_each( old->begin(), old->end(), rt::retain );
         rt::copyItems( copy->block, old->begin(), old->length );
         copy->length = old->length;
@@ -92,7 +106,7 @@ static RT_OBJ *openGap( RT_VECTOR vector, int64_t index )
         int64_t first = atFront || vector->first ? ( capacity - vector->length + 1 ) / 2 : 0;
         RT_OBJ *block = rt::allocate<RT_OBJ>( capacity );
         rt::copyItems( block + first, vector->begin(), vector->length );
-        std::free( vector->block );
+        freeBlock( vector );
         vector->block = block;
         vector->capacity = capacity;
         vector->first = first;
@@ -134,7 +148,7 @@ static void insert( RT_VECTOR *vector, int64_t index, RT_OBJ obj )
     RT_ASSERT( obj );
     RT_ASSERT( index >= 0 && index <= rtVectorLength( *vector ) );
     rt::retain( obj );
-    *openGap( own( vector ), index ) = obj;
+    *openGap( own( vector, 1 ), index ) = obj;
 }
 
 void rtVectorAppend( RT_VECTOR *vector, RT_OBJ obj )

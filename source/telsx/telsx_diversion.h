@@ -43,13 +43,14 @@ RT_API RT_BOOL telsxDiversionHasCounter( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetCounter( TELSX_DIVERSION *diversion, int64_t counter );
 RT_API void telsxDiversionDelCounter( TELSX_DIVERSION *diversion );
 
-/* How often it may be, 0 to 99, -1 if that is not told. Set aborts unless telsxDiversionLimitOk. */
+/* How often the call may be diverted, 0 to 99, -1 if that is not told. Set aborts unless
+ * telsxDiversionLimitOk. */
 RT_API int64_t telsxDiversionLimit( TELSX_DIVERSION diversion );
 RT_API RT_BOOL telsxDiversionHasLimit( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetLimit( TELSX_DIVERSION *diversion, int64_t limit );
 RT_API void telsxDiversionDelLimit( TELSX_DIVERSION *diversion );
 
-/* How the diverting party wants to be shown, and whether it was verified, as the reason. */
+/* How the diverting party wants to be shown, and whether it was verified: texts like the reason. */
 RT_API RT_STRING telsxDiversionPrivacy( TELSX_DIVERSION diversion );
 RT_API RT_BOOL telsxDiversionHasPrivacy( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetPrivacy( TELSX_DIVERSION *diversion, RT_STRING privacy );

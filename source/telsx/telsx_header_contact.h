@@ -2,9 +2,9 @@
  *
  *     Contact = ( "Contact" / "m" ) HCOLON ( STAR / ( contact-param *( COMMA contact-param ) ) )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_contact.h). Two
- * headers compare by these texts, not by the star form. A raw header without lines is bad text; one with
- * an empty line is an empty list. */
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_contact.h); each is
+ * written on a line of its own. Two headers compare by these texts, not by the star form. A raw header
+ * without lines is bad text; one with an empty line is an empty list. */
 #ifndef TELSX_TELSX_HEADER_CONTACT_H
 #define TELSX_TELSX_HEADER_CONTACT_H
 
@@ -24,8 +24,8 @@ RT_API TELSX_HEADER_CONTACT telsxHeaderContactCreate( void );
 RT_API RT_BOOL telsxHeaderContactIsStarForm( TELSX_HEADER_CONTACT hdr );
 RT_API void telsxHeaderContactSetStarForm( TELSX_HEADER_CONTACT *hdr, RT_BOOL starForm );
 
-/* The number of values, and the value at the index: a new reference, or null if its text is none. An index
- * out of range aborts, here and below. */
+/* The number of values, and the value at the index: a new reference, or null for bad text, which some values
+ * show no sooner than here. An index out of range aborts, here and below. */
 RT_API int64_t telsxHeaderContactContactsLength( TELSX_HEADER_CONTACT hdr );
 RT_API TELSX_CONTACT telsxHeaderContactTryDecodeContactAt( TELSX_HEADER_CONTACT hdr, int64_t index );
 

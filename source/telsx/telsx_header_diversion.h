@@ -2,9 +2,9 @@
  *
  *     Diversion = "Diversion" HCOLON diversion-params *( COMMA diversion-params )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_diversion.h). Two
- * headers compare by these texts. A raw header without lines is bad text; one with an empty line is an
- * empty list. */
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_diversion.h); each is
+ * written on a line of its own. Two headers compare by these texts. A raw header without lines is bad text;
+ * one with an empty line is an empty list. */
 #ifndef TELSX_TELSX_HEADER_DIVERSION_H
 #define TELSX_TELSX_HEADER_DIVERSION_H
 
@@ -19,8 +19,8 @@ TELSX_FREE_FUNC( HeaderDiversion )
 /* A header without values. */
 RT_API TELSX_HEADER_DIVERSION telsxHeaderDiversionCreate( void );
 
-/* The number of values, and the value at the index: a new reference, or null if its text is none. An index
- * out of range aborts, here and below. */
+/* The number of values, and the value at the index: a new reference, or null for bad text, which some values
+ * show no sooner than here. An index out of range aborts, here and below. */
 RT_API int64_t telsxHeaderDiversionDiversionsLength( TELSX_HEADER_DIVERSION hdr );
 RT_API TELSX_DIVERSION telsxHeaderDiversionTryDecodeDiversionAt( TELSX_HEADER_DIVERSION hdr, int64_t index );
 

@@ -2,9 +2,9 @@
  *
  *     History-Info = "History-Info" HCOLON hi-entry *( COMMA hi-entry )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_history_info.h).
- * Two headers compare by these texts. A raw header without lines is bad text; one with an empty line is an
- * empty list. */
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_history_info.h); each
+ * is written on a line of its own. Two headers compare by these texts. A raw header without lines is bad
+ * text; one with an empty line is an empty list. */
 #ifndef TELSX_TELSX_HEADER_HISTORY_INFO_H
 #define TELSX_TELSX_HEADER_HISTORY_INFO_H
 
@@ -19,8 +19,8 @@ TELSX_FREE_FUNC( HeaderHistoryInfo )
 /* A header without values. */
 RT_API TELSX_HEADER_HISTORY_INFO telsxHeaderHistoryInfoCreate( void );
 
-/* The number of values, and the value at the index: a new reference, or null if its text is none. An index
- * out of range aborts, here and below. */
+/* The number of values, and the value at the index: a new reference, or null for bad text, which some values
+ * show no sooner than here. An index out of range aborts, here and below. */
 RT_API int64_t telsxHeaderHistoryInfoHistoryInfosLength( TELSX_HEADER_HISTORY_INFO hdr );
 RT_API TELSX_HISTORY_INFO telsxHeaderHistoryInfoTryDecodeHistoryInfoAt( TELSX_HEADER_HISTORY_INFO hdr,
                                                                         int64_t index );

@@ -2,9 +2,9 @@
  *
  *     Reason = "Reason" HCOLON reason-value *( COMMA reason-value )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_reason.h). Two
- * headers compare by these texts. A raw header without lines is bad text; one with an empty line is an
- * empty list. */
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_reason.h); each is
+ * written on a line of its own. Two headers compare by these texts. A raw header without lines is bad text;
+ * one with an empty line is an empty list. */
 #ifndef TELSX_TELSX_HEADER_REASON_H
 #define TELSX_TELSX_HEADER_REASON_H
 
@@ -19,8 +19,8 @@ TELSX_FREE_FUNC( HeaderReason )
 /* A header without values. */
 RT_API TELSX_HEADER_REASON telsxHeaderReasonCreate( void );
 
-/* The number of values, and the value at the index: a new reference, or null if its text is none. An index
- * out of range aborts, here and below. */
+/* The number of values, and the value at the index: a new reference, or null for bad text, which some values
+ * show no sooner than here. An index out of range aborts, here and below. */
 RT_API int64_t telsxHeaderReasonReasonsLength( TELSX_HEADER_REASON hdr );
 RT_API TELSX_REASON telsxHeaderReasonTryDecodeReasonAt( TELSX_HEADER_REASON hdr, int64_t index );
 

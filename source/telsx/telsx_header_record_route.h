@@ -2,9 +2,9 @@
  *
  *     Record-Route = "Record-Route" HCOLON rec-route *( COMMA rec-route )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_route.h). Two
- * headers compare by these texts. A raw header without lines is bad text; one with an empty line is an
- * empty list. */
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_route.h); each is
+ * written on a line of its own. Two headers compare by these texts. A raw header without lines is bad text;
+ * one with an empty line is an empty list. */
 #ifndef TELSX_TELSX_HEADER_RECORD_ROUTE_H
 #define TELSX_TELSX_HEADER_RECORD_ROUTE_H
 
@@ -19,8 +19,8 @@ TELSX_FREE_FUNC( HeaderRecordRoute )
 /* A header without values. */
 RT_API TELSX_HEADER_RECORD_ROUTE telsxHeaderRecordRouteCreate( void );
 
-/* The number of values, and the value at the index: a new reference, or null if its text is none. An index
- * out of range aborts, here and below. */
+/* The number of values, and the value at the index: a new reference, or null for bad text, which some values
+ * show no sooner than here. An index out of range aborts, here and below. */
 RT_API int64_t telsxHeaderRecordRouteRoutesLength( TELSX_HEADER_RECORD_ROUTE hdr );
 RT_API TELSX_ROUTE telsxHeaderRecordRouteTryDecodeRouteAt( TELSX_HEADER_RECORD_ROUTE hdr, int64_t index );
 

@@ -2,8 +2,9 @@
  *
  *     Via = ( "Via" / "v" ) HCOLON via-parm *( COMMA via-parm )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_via.h). Two headers
- * compare by these texts. A raw header without lines is an empty list. */
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_via.h); each is
+ * written on a line of its own. Two headers compare by these texts. A raw header without lines is an empty
+ * list. */
 #ifndef TELSX_TELSX_HEADER_VIA_H
 #define TELSX_TELSX_HEADER_VIA_H
 
@@ -18,8 +19,8 @@ TELSX_FREE_FUNC( HeaderVia )
 /* A header without values. */
 RT_API TELSX_HEADER_VIA telsxHeaderViaCreate( void );
 
-/* The number of values, and the value at the index: a new reference, or null if its text is none. An index
- * out of range aborts, here and below. */
+/* The number of values, and the value at the index: a new reference, or null for bad text, which some values
+ * show no sooner than here. An index out of range aborts, here and below. */
 RT_API int64_t telsxHeaderViaViasLength( TELSX_HEADER_VIA hdr );
 RT_API TELSX_VIA telsxHeaderViaTryDecodeViaAt( TELSX_HEADER_VIA hdr, int64_t index );
 

@@ -24,7 +24,10 @@ static RT_STRING encode( TELSX_WARNING_VALUE warning )
 
 TELSX_DEFINE_VALUE_LIST( HeaderWarning, Warning, WarningValue, encode, WarningsClear )
 
-TELSX_HEADER_WARNING telsxHeaderWarningCreate( void ) { return createList<TELSX_HEADER_WARNING_>( telsxHeaderWarningSort() ); }
+TELSX_HEADER_WARNING telsxHeaderWarningCreate( void )
+{
+    return createList<TELSX_HEADER_WARNING_>( telsxHeaderWarningSort() );
+}
 
 TELSX_MESSAGE_HEADER telsxHeaderWarningEncode( TELSX_HEADER_WARNING hdr )
 {
@@ -37,5 +40,5 @@ TELSX_HEADER_WARNING telsxHeaderWarningTryDecode( TELSX_MESSAGE_HEADER header )
     TELSX_ASSERT_NAME( "Warning" );
     Ref<TELSX_HEADER_WARNING> hdr = adopt( telsxHeaderWarningCreate() );
     return decodeValues( hdr->values, header, telsx___SkipWarningValue, WithoutLines::isEmpty ) ? hdr.take()
-                                                                                                   : nullptr;
+                                                                                                : nullptr;
 }

@@ -27,8 +27,8 @@ enum class WithoutLines
 bool decodeValues( Ref<RT_VECTOR> &values, TELSX_MESSAGE_HEADER header, Skipper skipValue,
                    WithoutLines withoutLines );
 
-// The list of a header that is about to get one more value. A header that is a star is none any more.
-template <class T> RT_VECTOR *valuesToAddTo( T *hdr )
+// The list, for operations that end the star form of a header that has one.
+template <class T> RT_VECTOR *valuesWithoutStar( T *hdr )
 {
     if constexpr ( requires { hdr->starForm; } )
         hdr->starForm = 0;
@@ -50,7 +50,7 @@ VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
     void telsx##NAME##CLEAR( TELSX_HANDLE( NAME ) * hdr )                                                    \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
-        rtVectorClear( telsx::valuesToAddTo( TELSX_OWN( hdr ) ) );                                           \
+        rtVectorClear( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ) );                                       \
     }                                                                                                        \
     int64_t telsx##NAME##WORD##sLength( TELSX_HANDLE( NAME ) hdr )                                           \
     {                                                                                                        \
@@ -67,7 +67,7 @@ VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorSetStringAt( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), index, text.get() );                  \
+        rtVectorSetStringAt( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), index, text.get() );              \
     }                                                                                                        \
     void telsx##NAME##Del##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index )                             \
     {                                                                                                        \
@@ -78,17 +78,17 @@ VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorPrependString( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), text.get() );                       \
+        rtVectorPrependString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), text.get() );                   \
     }                                                                                                        \
     void telsx##NAME##Append##WORD( TELSX_HANDLE( NAME ) * hdr, TELSX_HANDLE( VALUE ) value )                \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorAppendString( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), text.get() );                        \
+        rtVectorAppendString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), text.get() );                    \
     }                                                                                                        \
     void telsx##NAME##Insert##WORD( TELSX_HANDLE( NAME ) * hdr, int64_t index, TELSX_HANDLE( VALUE ) value ) \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorInsertString( telsx::valuesToAddTo( TELSX_OWN( hdr ) ), index, text.get() );                 \
+        rtVectorInsertString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), index, text.get() );             \
     }

@@ -7,7 +7,7 @@ TEST( StatusCode, HasAClassAndAPhrase )
 {
     for ( int64_t sc : { -1, 0, 99, 1000 } )
         EXPECT_FALSE( telsxStatusCodeOk( sc ) ) << sc;
-    RT_BOOL ( *const classes[] )
+    RT_BOOL( *const classes[] )
     ( int64_t sc ) = {
         telsxStatusCodeInformational, telsxStatusCodeSuccess,     telsxStatusCodeRedirection,
         telsxStatusCodeClientError,   telsxStatusCodeServerError, telsxStatusCodeGlobalFailure

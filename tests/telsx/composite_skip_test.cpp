@@ -21,9 +21,9 @@ TEST( CompositeSkip, NameAddr )
 TEST( CompositeSkip, GenericParam )
 {
     expectCounts( telsx___SkipGenericParam, "a", "a| ", "a| ;b", "a=b", "a =\tb| ;", "a=b|:c", "a=b.c.|:5",
-                  "a=[::1]|:5", "a=\"q;,=\\\"\"| ;", "a= \"\"", "a=%zz", "a|;=b", "a| b=c", "|", "| a", "|=b",
-                  "|a=", "|a= ", "|a=;b", "|a==b", "|a=é", "|a=[::1", "|a=\"b", "|a=(c)", "|\"a\"=b",
-                  "|é=b" );
+                  "a=[::1]|:5", "a=\"q;,=\\\"\"| ;", "a= \"\"", "a=%zz", "a=b_c", "a|;=b", "a| b=c", "|",
+                  "| a", "|=b", "|a=", "|a= ", "|a=;b", "|a==b", "|a=é", "|a=[::1", "|a=\"b", "|a=(c)",
+                  "|\"a\"=b", "|é=b" );
 }
 
 TEST( CompositeSkip, GenericParams )

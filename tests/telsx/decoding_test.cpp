@@ -14,7 +14,7 @@ struct Case
 } // namespace
 
 // Decodes from a block of exactly the size of the text.
-static std::string decoded( const std::string &wire ) { return dump( fragment( wire ).get() ); }
+static std::string decoded( std::string_view wire ) { return dump( fragment( wire ).get() ); }
 
 TEST( Decoding, TellsTheStartLine )
 {
@@ -25,9 +25,7 @@ TEST( Decoding, TellsTheStartLine )
         { "G: 1\r\nH: 2\r\n\r\n", "- | G: <1> | H: <2>" },
         { "To: a\r\n\r\n", "- | To: <a>" },
         { "Via: SIP/2.0/UDP x\r\n\r\n", "- | Via: <SIP/2.0/UDP x>" },
-        { "A\tb:c SIP/2.0\r\n\r\n", "(null)" },
         { "G :b\r\n\r\n", "- | G: <b>" },
-        { "no header\r\n\r\n", "(null)" },
         // Status lines
         { "SIP/2.0 200 OK\r\n\r\n", "SIP/2.0 200 <OK>" },
         { "SIP/2.0 200 OK", "SIP/2.0 200 <OK>" },
@@ -37,37 +35,26 @@ TEST( Decoding, TellsTheStartLine )
         { "sip/2.0A 100 a%22%c3%A4%zz%\r\n\r\n", "SIP/2.0a 100 <a\"Ã¤%zz%>" },
         { "SIP\t/\t2.0 999 \xC3\xA4:\r\n\r\n", "SIP/2.0 999 <ä:>" },
         { "ABC/1 00200 x\r\n\r\n", "ABC/1 200 <x>" },
-        { "SIP/2.0 99 Odd\r\n\r\n", "(null)" },
-        { "SIP/2.0 1000 Odd\r\n\r\n", "(null)" },
-        { "SIP/2.0 abc\r\n\r\n", "(null)" },
-        { "SIP/2.0 200x OK\r\n\r\n", "(null)" },
-        { "SIP/2.0 +200 OK\r\n\r\n", "(null)" },
-        { "SIP/2.0 18446744073709551816 OK\r\n\r\n", "(null)" },
-        { "SIP/2.0  200 OK\r\n\r\n", "(null)" },
-        { "SIP/2.0 \r\n\r\n", "(null)" },
-        { "SIP/2.0\r\n\r\n", "(null)" },
-        { " SIP/2.0 200 OK\r\n\r\n", "(null)" },
         // Request lines
         { "INVITE sip:b SIP/2.0\r\n\r\n", "INVITE sip:b SIP/2.0" },
         { "invite sip:b abc / 1X\r\n\r\n", "invite sip:b ABC/1x" },
         { "!%'*+-._`~ tel:+1 SIP/2.0\r\n\r\n", "!%'*+-._`~ tel:+1 SIP/2.0" },
         { "A sip:%C3%A4@xn--4ca.de;x=[::1]?y=%41 SIP/2.0\r\n\r\n", "A sip:ä@ä.de;x=[::1]?y=%41 SIP/2.0" },
-        { "INVITE sip:b\r\n\r\n", "(null)" },
-        { "INVITE  sip:b SIP/2.0\r\n\r\n", "(null)" },
-        { "INVITE sip:b  SIP/2.0\r\n\r\n", "(null)" },
-        { "INVITE sip:b SIP/2.0 \r\n\r\n", "(null)" },
-        { "INVITE sip:b SIP/2.0 x\r\n\r\n", "(null)" },
-        { "INVITE sip:b SIP\r\n\r\n", "(null)" },
-        { "INVITE <sip:b> SIP/2.0\r\n\r\n", "(null)" },
-        { "INVITE sip:%4 SIP/2.0\r\n\r\n", "(null)" },
-        { "INVITE b SIP/2.0\r\n\r\n", "(null)" },
-        { "INVITE sip:b SIP/2.0\nTo: a\r\n\r\n", "(null)" },
-        { "\r\nINVITE sip:b SIP/2.0\r\n\r\n", "(null)" },
-        // A token and a blank: a request line, and a bad one.
-        { "Subject : good news\r\n\r\n", "(null)" },
     };
     for ( auto &[wire, expected] : cases )
         EXPECT_EQ( expected, decoded( wire ) ) << wire;
+    // What looks like a start line must be a good one; what doesn't must be a header.
+    for ( std::string_view wire :
+          list( "A\tb:c SIP/2.0\r\n\r\n", "no header\r\n\r\n", "SIP/2.0 99 Odd\r\n\r\n",
+                "SIP/2.0 1000 Odd\r\n\r\n", "SIP/2.0 abc\r\n\r\n", "SIP/2.0 200x OK\r\n\r\n",
+                "SIP/2.0 +200 OK\r\n\r\n", "SIP/2.0 18446744073709551816 OK\r\n\r\n",
+                "SIP/2.0  200 OK\r\n\r\n", "SIP/2.0 \r\n\r\n", "SIP/2.0\r\n\r\n", " SIP/2.0 200 OK\r\n\r\n",
+                "INVITE sip:b\r\n\r\n", "INVITE  sip:b SIP/2.0\r\n\r\n", "INVITE sip:b  SIP/2.0\r\n\r\n",
+                "INVITE sip:b SIP/2.0 \r\n\r\n", "INVITE sip:b SIP/2.0 x\r\n\r\n", "INVITE sip:b SIP\r\n\r\n",
+                "INVITE <sip:b> SIP/2.0\r\n\r\n", "INVITE sip:%4 SIP/2.0\r\n\r\n", "INVITE b SIP/2.0\r\n\r\n",
+                "INVITE sip:b SIP/2.0\nTo: a\r\n\r\n", "\r\nINVITE sip:b SIP/2.0\r\n\r\n",
+                "Subject : good news\r\n\r\n" ) )
+        EXPECT_EQ( "(null)", decoded( wire ) ) << wire;
 }
 
 TEST( Decoding, FilesHeadersUnderTheirNames )
@@ -93,27 +80,16 @@ TEST( Decoding, FilesHeadersUnderTheirNames )
         { "G: a\r\n ", "G: <a>" },
         { "G: a\r\n \t\r\n b", "G: <a b>" },
         { "G\r\n : a", "G: <a>" },
-        { "G\r\n H: a", "(null)" },
         { "G: a\r\n H: b", "G: <a H: b>" },
         { "G: a\r\n b\r\nH: c\r\n d\r\nG: e", "G: <a b> <e> | H: <c d>" },
         { " G: a", "G: <a>" },
         { "  \r\n\tG: a", "G: <a>" },
-        // Bad lines
-        { "G", "(null)" },
-        { ":a", "(null)" },
-        { " : a", "(null)" },
-        { "G: a\r\nbad line\r\nH: b", "(null)" },
-        { "G H: a", "(null)" },
-        { "G/H: a", "(null)" },
-        { "\xC3\xA4: a", "(null)" },
-        { "G: \xC3", "(null)" },
-        { "G: \xFF", "(null)" },
-        { "G: \xED\xA0\x80", "(null)" },
     };
     for ( auto &[wire, expected] : cases )
-        EXPECT_EQ( expected == "(null)" ? expected : "SIP/2.0 200 <> | " + expected,
-                   decoded( "SIP/2.0 200\r\n" + wire + "\r\n\r\n" ) )
-            << wire;
+        EXPECT_EQ( "SIP/2.0 200 <> | " + expected, decoded( "SIP/2.0 200\r\n" + wire + "\r\n\r\n" ) ) << wire;
+    for ( std::string_view bad : list( "G\r\n H: a", "G", ":a", " : a", "G: a\r\nbad line\r\nH: b", "G H: a",
+                                       "G/H: a", "\xC3\xA4: a", "G: \xC3", "G: \xFF", "G: \xED\xA0\x80" ) )
+        EXPECT_EQ( "(null)", decoded( "SIP/2.0 200\r\n" + std::string( bad ) + "\r\n\r\n" ) ) << bad;
 }
 
 TEST( Decoding, CutsTheBody )
@@ -128,29 +104,20 @@ TEST( Decoding, CutsTheBody )
         { "l: 5\r\n\r\nabcdefg", " | Content-Length: <5> | body <abcde>" },
         { "l: 005\r\n\r\nabcdefg", " | Content-Length: <005> | body <abcde>" },
         { "l: x\r\nContent-length: 2\r\n\r\nabc", " | Content-Length: <x> <2> | body <ab>" },
-        { "l: 5\r\n\r\nabc", "(null)" },
-        { "l: 5\r\n\r\n", "(null)" },
-        { "l: 5", "(null)" },
         { "l: 0", " | Content-Length: <0>" },
-        { "l: x\r\n\r\nabc", "(null)" },
-        { "l:\r\n\r\nabc", "(null)" },
-        { "l: -1\r\n\r\nabc", "(null)" },
-        { "l: +1\r\n\r\nabc", "(null)" },
         { "l: 1 \t\r\n\r\nabc", " | Content-Length: <1> | body <a>" },
-        { "l: 1;x\r\n\r\nabc", "(null)" },
-        { "l: 1, 1\r\n\r\nabc", "(null)" },
-        { "l: 2\r\nl: x\r\n\r\nabc", "(null)" },
-        { "l: 9223372036854775807\r\n\r\nabc", "(null)" },
-        { "l: 9223372036854775808\r\n\r\nabc", "(null)" },
-        { "l: 18446744073709551617\r\n\r\nabc", "(null)" },
     };
     for ( auto &[wire, expected] : cases )
-        EXPECT_EQ( expected == "(null)" ? expected : "A b:c D/1" + expected,
-                   decoded( "A b:c D/1\r\n" + wire ) )
-            << wire;
+        EXPECT_EQ( "A b:c D/1" + expected, decoded( "A b:c D/1\r\n" + wire ) ) << wire;
     // Without a blank line all is head, and must be text.
     EXPECT_EQ( "(null)", decoded( "A b:c D/1\r\nG: a\r\n\xFF" ) );
     EXPECT_EQ( "- | body <a>", decoded( "\r\n\r\na" ) );
+    for ( std::string bad :
+          { "l: 5\r\n\r\nabc", "l: 5\r\n\r\n", "l: 5", "l: x\r\n\r\nabc", "l:\r\n\r\nabc", "l: -1\r\n\r\nabc",
+            "l: +1\r\n\r\nabc", "l: 1;x\r\n\r\nabc", "l: 1, 1\r\n\r\nabc", "l: 2\r\nl: x\r\n\r\nabc",
+            "l: 9223372036854775807\r\n\r\nabc", "l: 9223372036854775808\r\n\r\nabc",
+            "l: 18446744073709551617\r\n\r\nabc" } )
+        EXPECT_EQ( "(null)", decoded( "A b:c D/1\r\n" + std::string( bad ) ) ) << bad;
 }
 
 TEST( Decoding, OfAHeadAloneTellsContentLength )

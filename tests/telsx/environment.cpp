@@ -11,7 +11,7 @@ class Module : public testing::Environment
     void TearDown() override { rtModuleStop( telsxModule() ); }
 };
 
-// A death test goes on from where it stands: some tests have many, and none has threads then.
+// There are many death tests, and no threads beside them.
 [[maybe_unused]] testing::Environment *const module = []
 {
     GTEST_FLAG_SET( death_test_style, "fast" );

@@ -4,39 +4,27 @@
 using namespace support;
 
 #define F( NAME, FUNCTION ) static constexpr auto FUNCTION = telsx##NAME##FUNCTION;
-#define TEXT_F( NAME, FUNCTION ) F( NAME, FUNCTION ) F( NAME, FUNCTION##Cstr ) F( NAME, FUNCTION##Wcstr )
-#define FUNCTIONS( NAME, HANDLE )                      \
-    struct NAME                                        \
-    {                                                  \
-        using Handle = HANDLE;                         \
-        TEXT_F( NAME, CreateRequest )                  \
-        F( NAME, CreateResponse )                      \
-        TEXT_F( NAME, CreateResponseWithReasonPhrase ) \
-        F( NAME, IsRequest )                           \
-        F( NAME, IsResponse )                          \
-        F( NAME, Version )                             \
-        F( NAME, RequestMethod )                       \
-        F( NAME, RequestIri )                          \
-        F( NAME, ResponseStatusCode )                  \
-        F( NAME, ResponseReasonPhrase )                \
-        F( NAME, HeadersVector )                       \
-        TEXT_F( NAME, Header )                         \
-        TEXT_F( NAME, HasHeader )                      \
-        F( NAME, Body )                                \
-        F( NAME, HasBody )                             \
-        TEXT_F( NAME, SetRequest )                     \
-        F( NAME, SetResponse )                         \
-        TEXT_F( NAME, SetResponseWithReasonPhrase )    \
-        TEXT_F( NAME, SetRequestMethod )               \
-        TEXT_F( NAME, SetRequestIri )                  \
-        F( NAME, SetResponseStatusCode )               \
-        TEXT_F( NAME, SetResponseReasonPhrase )        \
-        F( NAME, SetVersion )                          \
-        F( NAME, SetHeader )                           \
-        TEXT_F( NAME, DelHeader )                      \
-        F( NAME, SetBody )                             \
-        F( NAME, DelBody )                             \
-        F( NAME, Encode )                              \
+#define F2( NAME, A, B ) F( NAME, A ) F( NAME, B )
+#define TEXT_F( NAME, FUNCTION ) F( NAME, FUNCTION ) F2( NAME, FUNCTION##Cstr, FUNCTION##Wcstr )
+#define TEXT_F2( NAME, A, B ) TEXT_F( NAME, A ) TEXT_F( NAME, B )
+#define FUNCTIONS( NAME, HANDLE )                                      \
+    struct NAME                                                        \
+    {                                                                  \
+        using Handle = HANDLE;                                         \
+        F2( NAME, CreateResponse, IsRequest )                          \
+        F2( NAME, IsResponse, Version )                                \
+        F2( NAME, RequestMethod, RequestIri )                          \
+        F2( NAME, ResponseStatusCode, ResponseReasonPhrase )           \
+        F2( NAME, HeadersVector, Body )                                \
+        F2( NAME, HasBody, SetResponse )                               \
+        F2( NAME, SetResponseStatusCode, SetVersion )                  \
+        F2( NAME, SetHeader, SetBody )                                 \
+        F2( NAME, DelBody, Encode )                                    \
+        TEXT_F2( NAME, DelHeader, CreateRequest )                      \
+        TEXT_F2( NAME, CreateResponseWithReasonPhrase, Header )        \
+        TEXT_F2( NAME, HasHeader, SetRequest )                         \
+        TEXT_F2( NAME, SetResponseWithReasonPhrase, SetRequestMethod ) \
+        TEXT_F2( NAME, SetRequestIri, SetResponseReasonPhrase )        \
     };
 
 namespace
@@ -214,7 +202,6 @@ TYPED_TEST( FragmentAndMessage, AbortsForBrokenContracts )
     Ref<RT_STRING> bad = str( "a b" ), method = str( "A" );
     EXPECT_ABORT( API::IsRequest( nullptr ), self );
     EXPECT_ABORT( API::Encode( nullptr ), self );
-    EXPECT_ABORT( API::DelBody( nullptr ), self );
     EXPECT_ABORT( API::DelBody( &none ), "*" + self );
     EXPECT_ABORT( API::CreateRequest( nullptr, method.get(), this->iri.get() ), "version" );
     EXPECT_ABORT( API::CreateRequest( sip20, bad.get(), this->iri.get() ), "telsxMethodOk( method )" );
@@ -223,8 +210,6 @@ TYPED_TEST( FragmentAndMessage, AbortsForBrokenContracts )
     EXPECT_ABORT( API::SetHeader( request.address(), nullptr ), "header" );
     EXPECT_ABORT( API::SetBody( request.address(), nullptr ), "body" );
     EXPECT_ABORT( API::HasHeaderCstr( request.get(), "a:", -1 ), "telsxMessageHeaderNameOk( name )" );
-    EXPECT_ABORT( API::DelHeaderCstr( request.address(), "", -1 ), "telsxMessageHeaderNameOk( name )" );
-    EXPECT_ABORT( API::SetVersion( request.address(), nullptr ), "version" );
     // A field that the kind doesn't have can't be set.
     EXPECT_ABORT( API::SetRequestMethod( response.address(), method.get() ), "(*frag)->requestMethod" );
     EXPECT_ABORT( API::SetRequestIri( response.address(), this->iri.get() ), "(*frag)->requestMethod" );
@@ -232,7 +217,6 @@ TYPED_TEST( FragmentAndMessage, AbortsForBrokenContracts )
                   "(*frag)->responseStatusCode != TELSX_STATUS_CODE_INVALID" );
     EXPECT_ABORT( API::SetResponseReasonPhrase( request.address(), bad.get() ),
                   "(*frag)->responseReasonPhrase" );
-    EXPECT_ABORT( API::SetResponseReasonPhrase( response.address(), nullptr ), "reasonPhrase" );
 }
 
 TEST( Fragment, CanBeNeitherRequestNorResponse )

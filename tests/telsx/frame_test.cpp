@@ -210,8 +210,8 @@ TEST( Version, IsDecodedWhole )
         EXPECT_EQ( isSip, telsxVersionIsSip( version.get() ) ) << text;
         EXPECT_EQ( isSip20, telsxVersionIsSip20( version.get() ) ) << text;
     }
-    for ( const char *text : { "", "/", "SIP", "SIP/", "/2.0", "SIP 2.0", "SIP/2.0 ", " SIP/2.0", "SIP//2.0",
-                               "SIP/2.0/", "S\r\nIP/2.0", "SIP/2,0", "SÍP/2.0" } )
+    for ( std::string_view text : list( "", "/", "SIP", "SIP/", "/2.0", "SIP 2.0", "SIP/2.0 ", " SIP/2.0",
+                                        "SIP//2.0", "SIP/2.0/", "S\r\nIP/2.0", "SIP/2,0", "SÍP/2.0" ) )
         EXPECT_FALSE( adopt( applied( telsx___VersionTryDecode, text ) ) ) << text;
 }
 

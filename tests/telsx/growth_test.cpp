@@ -11,8 +11,7 @@
 using namespace support;
 
 // A text of which only two parts are open to be read at a time: a read in any other part is a step, which
-// opens that part and closes the one that has been open for longer. A read outside the text ends the process
-// as ever.
+// opens that part and closes the one that has been open for longer.
 class WatchedText
 {
 public:

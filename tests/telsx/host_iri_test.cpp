@@ -124,7 +124,7 @@ TEST( Iri, IsOneAllThrough )
     for ( const char *iri :
           { "sip:b", "sips:ä@ü.de;a=b?c=%41", "tel:+1", "http://[::1]/x#y", "urn:service:sos" } )
         EXPECT_TRUE( telsxIriOk( str( iri ).get() ) ) << iri;
-    for ( const char *bad : { "", "b", ":", "sip:a b", "<sip:b>", "sip:%4", "sip:b\r\n", "1:a" } )
+    for ( std::string_view bad : list( "", "b", ":", "sip:a b", "<sip:b>", "sip:%4", "sip:b\r\n", "1:a" ) )
         EXPECT_FALSE( telsxIriOk( str( bad ).get() ) ) << bad;
     EXPECT_ABORT( telsxIriOk( nullptr ), "iri" );
 }

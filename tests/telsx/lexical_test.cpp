@@ -177,9 +177,9 @@ TEST( Token, IsOneElementAllThrough )
     for ( auto isOk : { telsxTokenOk, telsxMethodOk, telsxProtocolNameOk, telsxProtocolVersionOk,
                         telsxMessageHeaderNameOk } )
     {
-        for ( const char *text : { "a", "INVITE", "-.!%*_+`'~", "0" } )
+        for ( std::string_view text : list( "a", "INVITE", "-.!%*_+`'~", "0" ) )
             EXPECT_TRUE( isOk( str( text ).get() ) ) << text;
-        for ( const char *text : { "", " ", "a b", " a", "a ", "a:b", "a\tb", "a/b", "ä", "a\r\n" } )
+        for ( std::string_view text : list( "", " ", "a b", " a", "a ", "a:b", "a\tb", "a/b", "ä", "a\r\n" ) )
             EXPECT_FALSE( isOk( str( text ).get() ) ) << text;
         EXPECT_FALSE( isOk( str( { "a\0", 2 } ).get() ) );
     }

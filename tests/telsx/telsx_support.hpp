@@ -1,6 +1,7 @@
 // What the tests of telsx share: texts for skippers and decoders, fragments and messages as readable text.
 #pragma once
 
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -19,10 +20,18 @@ inline std::vector<RT_CHAR> codePoints( std::string_view utf8 )
 }
 
 // What a skipper or a decoder makes of such a text.
-template <class FUNCTION> auto applied( FUNCTION *function, std::string_view utf8 )
+template <class FUNCTION>
+auto applied( FUNCTION *function, std::string_view utf8 )
 {
     std::vector<RT_CHAR> exact = codePoints( utf8 );
     return function( exact.data(), std::ssize( exact ) );
+}
+
+// Texts to go through.
+template <class... TEXT>
+constexpr auto list( const TEXT &...texts )
+{
+    return std::array{ std::string_view( texts )... };
 }
 
 inline Ref<TELSX_MESSAGE_HEADER> header( const char *name, std::initializer_list<const char *> lines )

@@ -1,0 +1,336 @@
+/* Makes the messages of a short call from nothing and writes their bytes to standard output, each as its
+ * sender sends it: Alice's INVITE, Bob's 200, Alice's ACK and BYE. `call | stream` shows them one by one.
+ *
+ * It is written in C, where who is given a new reference releases it by hand. */
+#include <stdio.h>
+#include <string.h>
+
+#include <telsx/telsx.h>
+
+typedef struct PARTY
+{
+    const char *name, *iri, *tag, *host, *contact, *description;
+} PARTY;
+
+static const PARTY alice = {
+    .name = "Alice",
+    .iri = "sip:alice@atlanta.example",
+    .tag = "9fxced76sl",
+    .host = "pc33.atlanta.example",
+    .contact = "sip:alice@pc33.atlanta.example",
+    .description = "v=0\r\n"
+                   "o=alice 2890844526 2890844526 IN IP4 192.0.2.101\r\n"
+                   "s=-\r\n"
+                   "c=IN IP4 192.0.2.101\r\n"
+                   "t=0 0\r\n"
+                   "m=audio 49172 RTP/AVP 0\r\n",
+};
+
+static const PARTY bob = {
+    .name = "Bob Bürger",
+    .iri = "sip:bob@mühle.example",
+    .tag = "314159",
+    .host = "pc7.mühle.example",
+    .contact = "sip:bob@192.0.2.4",
+    .description = "v=0\r\n"
+                   "o=bob 2808844564 2808844564 IN IP4 192.0.2.4\r\n"
+                   "s=-\r\n"
+                   "c=IN IP4 192.0.2.4\r\n"
+                   "t=0 0\r\n"
+                   "m=audio 3456 RTP/AVP 0\r\n",
+};
+
+/* A text of the library, a new reference; all texts here are good UTF-8. */
+static RT_STRING text( const char *utf8 )
+{
+    return rtStringTryCreateFromUtf8( utf8, (int64_t)strlen( utf8 ) );
+}
+
+/* A new request without headers. */
+static TELSX_MESSAGE request( const char *method, RT_STRING target )
+{
+    TELSX_VERSION version = telsxVersionCreateSip20();
+    TELSX_MESSAGE msg = telsxMessageCreateRequestCstr( version, method, -1, target );
+    telsxVersionRelease( version );
+    return msg;
+}
+
+/* Puts a Via on top of those that the message has. */
+static void addVia( TELSX_MESSAGE *msg, const char *host, const char *branch )
+{
+    TELSX_HEADER_VIA header = telsxHeaderViaTryDecodeFromMessage( *msg );
+    if ( !header )
+        header = telsxHeaderViaCreate();
+    TELSX_VERSION version = telsxVersionCreateSip20();
+    RT_STRING transport = text( "UDP" ), hostText = text( host ), branchText = text( branch );
+    TELSX_VIA via = telsxViaCreate( version, transport, hostText );
+    telsxViaSetBranch( &via, branchText );
+    telsxHeaderViaPrependVia( &header, via );
+    telsxHeaderViaEncodeToMessage( header, msg );
+    telsxViaRelease( via );
+    rtStringRelease( branchText );
+    rtStringRelease( hostText );
+    rtStringRelease( transport );
+    telsxVersionRelease( version );
+    telsxHeaderViaRelease( header );
+}
+
+/* Puts an address on top of those in Record-Route. */
+static void addRecordRoute( TELSX_MESSAGE *msg, const char *iri )
+{
+    TELSX_HEADER_RECORD_ROUTE header = telsxHeaderRecordRouteTryDecodeFromMessage( *msg );
+    if ( !header )
+        header = telsxHeaderRecordRouteCreate();
+    RT_STRING iriText = text( iri );
+    TELSX_ROUTE route = telsxRouteCreate( iriText );
+    telsxHeaderRecordRoutePrependRoute( &header, route );
+    telsxHeaderRecordRouteEncodeToMessage( header, msg );
+    telsxRouteRelease( route );
+    rtStringRelease( iriText );
+    telsxHeaderRecordRouteRelease( header );
+}
+
+static void setMaxForwards( TELSX_MESSAGE *msg, int64_t hops )
+{
+    TELSX_HEADER_MAX_FORWARDS header = telsxHeaderMaxForwardsCreate( hops );
+    telsxHeaderMaxForwardsEncodeToMessage( header, msg );
+    telsxHeaderMaxForwardsRelease( header );
+}
+
+static void setFrom( TELSX_MESSAGE *msg, const PARTY *party )
+{
+    RT_STRING iri = text( party->iri ), name = text( party->name ), tag = text( party->tag );
+    TELSX_HEADER_FROM header = telsxHeaderFromCreate( iri );
+    telsxHeaderFromSetDisplayName( &header, name );
+    telsxHeaderFromSetTag( &header, tag );
+    telsxHeaderFromEncodeToMessage( header, msg );
+    telsxHeaderFromRelease( header );
+    rtStringRelease( tag );
+    rtStringRelease( name );
+    rtStringRelease( iri );
+}
+
+/* Without a tag: the called party gives itself one. */
+static void setTo( TELSX_MESSAGE *msg, const PARTY *party )
+{
+    RT_STRING iri = text( party->iri ), name = text( party->name );
+    TELSX_HEADER_TO header = telsxHeaderToCreate( iri );
+    telsxHeaderToSetDisplayName( &header, name );
+    telsxHeaderToEncodeToMessage( header, msg );
+    telsxHeaderToRelease( header );
+    rtStringRelease( name );
+    rtStringRelease( iri );
+}
+
+static void setToTag( TELSX_MESSAGE *msg, const char *tag )
+{
+    TELSX_HEADER_TO header = telsxHeaderToTryDecodeFromMessage( *msg );
+    RT_STRING tagText = text( tag );
+    telsxHeaderToSetTag( &header, tagText );
+    telsxHeaderToEncodeToMessage( header, msg );
+    rtStringRelease( tagText );
+    telsxHeaderToRelease( header );
+}
+
+static void setCallId( TELSX_MESSAGE *msg, const char *callId )
+{
+    RT_STRING callIdText = text( callId );
+    TELSX_HEADER_CALL_ID header = telsxHeaderCallIdCreate( callIdText );
+    telsxHeaderCallIdEncodeToMessage( header, msg );
+    telsxHeaderCallIdRelease( header );
+    rtStringRelease( callIdText );
+}
+
+/* The method is that of the request. */
+static void setCseq( TELSX_MESSAGE *msg, int64_t number )
+{
+    RT_STRING method = telsxMessageRequestMethod( *msg );
+    TELSX_HEADER_CSEQ header = telsxHeaderCseqCreate( number, method );
+    telsxHeaderCseqEncodeToMessage( header, msg );
+    telsxHeaderCseqRelease( header );
+    rtStringRelease( method );
+}
+
+static void setContact( TELSX_MESSAGE *msg, const char *iri )
+{
+    RT_STRING iriText = text( iri );
+    TELSX_CONTACT contact = telsxContactCreate( iriText );
+    TELSX_HEADER_CONTACT header = telsxHeaderContactCreate();
+    telsxHeaderContactAppendContact( &header, contact );
+    telsxHeaderContactEncodeToMessage( header, msg );
+    telsxHeaderContactRelease( header );
+    telsxContactRelease( contact );
+    rtStringRelease( iriText );
+}
+
+static void setSubject( TELSX_MESSAGE *msg, const char *subject )
+{
+    RT_STRING subjectText = text( subject );
+    TELSX_HEADER_SUBJECT header = telsxHeaderSubjectCreate( subjectText );
+    telsxHeaderSubjectEncodeToMessage( header, msg );
+    telsxHeaderSubjectRelease( header );
+    rtStringRelease( subjectText );
+}
+
+static void setUserAgent( TELSX_MESSAGE *msg )
+{
+    RT_STRING software = text( "call/1.0 (an example)" );
+    TELSX_HEADER_USER_AGENT header = telsxHeaderUserAgentCreate( software );
+    telsxHeaderUserAgentEncodeToMessage( header, msg );
+    telsxHeaderUserAgentRelease( header );
+    rtStringRelease( software );
+}
+
+/* What a party says of itself in an INVITE and in the answer: its address, the methods and extensions that it
+ * understands, and the session that it offers. There is no type for Content-Type: its line is set as it is.
+ */
+static void describe( TELSX_MESSAGE *msg, const PARTY *party )
+{
+    setContact( msg, party->contact );
+
+    TELSX_HEADER_ALLOW allow = telsxHeaderAllowCreate();
+    static const char *const methods[] = { "INVITE", "ACK", "CANCEL", "BYE", "OPTIONS" };
+    for ( size_t i = 0; i < sizeof methods / sizeof *methods; ++i )
+        telsxHeaderAllowSetMethodCstr( &allow, methods[i], -1 );
+    telsxHeaderAllowEncodeToMessage( allow, msg );
+    telsxHeaderAllowRelease( allow );
+
+    TELSX_HEADER_SUPPORTED supported = telsxHeaderSupportedCreate();
+    telsxHeaderSupportedSetOptionTagCstr( &supported, "timer", -1 );
+    telsxHeaderSupportedEncodeToMessage( supported, msg );
+    telsxHeaderSupportedRelease( supported );
+
+    TELSX_MESSAGE_HEADER contentType = telsxMessageHeaderCreateCstr( "Content-Type", -1 );
+    telsxMessageHeaderAppendLineCstr( &contentType, "application/sdp", -1 );
+    telsxMessageSetHeader( msg, contentType );
+    telsxMessageHeaderRelease( contentType );
+
+    RT_BUFFER body = rtBufferCreateFromBytesCopy( party->description, (int64_t)strlen( party->description ) );
+    telsxMessageSetBody( msg, body );
+    rtBufferRelease( body );
+}
+
+/* The caller's first request, before there is a dialog (RFC 3261, 8.1.1). */
+static TELSX_MESSAGE invite( void )
+{
+    RT_STRING target = text( bob.iri );
+    TELSX_MESSAGE msg = request( "INVITE", target );
+    rtStringRelease( target );
+    addVia( &msg, alice.host, "z9hG4bK-alice-1" );
+    setMaxForwards( &msg, 70 );
+    setFrom( &msg, &alice );
+    setTo( &msg, &bob );
+    setCallId( &msg, "3848276298220188511@pc33.atlanta.example" );
+    setCseq( &msg, 1 );
+    setSubject( &msg, "The mill, and who is to bring the flour" );
+    setUserAgent( &msg );
+    describe( &msg, &alice );
+    return msg;
+}
+
+/* The header as it stands in another message, if it is there. */
+static void takeOver( TELSX_MESSAGE *msg, TELSX_MESSAGE from, const char *name )
+{
+    TELSX_MESSAGE_HEADER header = telsxMessageHeaderCstr( from, name, -1 );
+    if ( !header )
+        return;
+    telsxMessageSetHeader( msg, header );
+    telsxMessageHeaderRelease( header );
+}
+
+/* The response of a party to a request (RFC 3261, 8.2.6 and 12.1.1). */
+static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY *party )
+{
+    TELSX_VERSION version = telsxVersionCreateSip20();
+    TELSX_MESSAGE msg = telsxMessageCreateResponse( version, statusCode );
+    telsxVersionRelease( version );
+    static const char *const names[] = { "Via", "Record-Route", "From", "To", "Call-Id", "Cseq" };
+    for ( size_t i = 0; i < sizeof names / sizeof *names; ++i )
+        takeOver( &msg, to, names[i] );
+    setToTag( &msg, party->tag );
+    describe( &msg, party );
+    return msg;
+}
+
+/* The address at which the other party wants to be reached, a new reference. */
+static RT_STRING remoteTarget( TELSX_MESSAGE response )
+{
+    TELSX_HEADER_CONTACT header = telsxHeaderContactTryDecodeFromMessage( response );
+    TELSX_CONTACT contact = telsxHeaderContactTryDecodeContactAt( header, 0 );
+    RT_STRING iri = telsxContactIri( contact );
+    telsxContactRelease( contact );
+    telsxHeaderContactRelease( header );
+    return iri;
+}
+
+/* The Route of the caller's later requests is the response's Record-Route, last value first (RFC 3261,
+ * 12.1.2). */
+static void setRoute( TELSX_MESSAGE *msg, TELSX_MESSAGE response )
+{
+    TELSX_HEADER_RECORD_ROUTE recorded = telsxHeaderRecordRouteTryDecodeFromMessage( response );
+    if ( !recorded )
+        return;
+    TELSX_HEADER_ROUTE header = telsxHeaderRouteCreate();
+    for ( int64_t i = telsxHeaderRecordRouteRoutesLength( recorded ); i-- > 0; )
+    {
+        TELSX_ROUTE route = telsxHeaderRecordRouteTryDecodeRouteAt( recorded, i );
+        telsxHeaderRouteAppendRoute( &header, route );
+        telsxRouteRelease( route );
+    }
+    telsxHeaderRouteEncodeToMessage( header, msg );
+    telsxHeaderRouteRelease( header );
+    telsxHeaderRecordRouteRelease( recorded );
+}
+
+/* A later request of the caller in the dialog that the response has made (RFC 3261, 12.2.1.1 and 13.2.2.4).
+ */
+static TELSX_MESSAGE inDialog( TELSX_MESSAGE response, const char *method, int64_t number,
+                               const char *branch )
+{
+    RT_STRING target = remoteTarget( response );
+    TELSX_MESSAGE msg = request( method, target );
+    rtStringRelease( target );
+    addVia( &msg, alice.host, branch );
+    setRoute( &msg, response );
+    setMaxForwards( &msg, 70 );
+    takeOver( &msg, response, "From" );
+    takeOver( &msg, response, "To" );
+    takeOver( &msg, response, "Call-Id" );
+    setCseq( &msg, number );
+    setUserAgent( &msg );
+    return msg;
+}
+
+static void put( TELSX_MESSAGE msg )
+{
+    RT_BUFFER bytes = telsxMessageEncode( msg );
+    fwrite( rtBufferBacking( bytes ), 1, (size_t)rtBufferLength( bytes ), stdout );
+    rtBufferRelease( bytes );
+}
+
+int main( void )
+{
+    rtModuleStart( telsxModule() );
+
+    TELSX_MESSAGE msg = invite();
+    put( msg );
+
+    /* The proxy on the way to Bob. */
+    addVia( &msg, "proxy.mühle.example", "z9hG4bK-proxy-1" );
+    addRecordRoute( &msg, "sip:proxy.mühle.example;lr" );
+    setMaxForwards( &msg, 69 );
+
+    TELSX_MESSAGE ok = respond( msg, 200, &bob );
+    TELSX_MESSAGE ack = inDialog( ok, "ACK", 1, "z9hG4bK-alice-2" );
+    TELSX_MESSAGE bye = inDialog( ok, "BYE", 2, "z9hG4bK-alice-3" );
+    put( ok );
+    put( ack );
+    put( bye );
+
+    telsxMessageRelease( bye );
+    telsxMessageRelease( ack );
+    telsxMessageRelease( ok );
+    telsxMessageRelease( msg );
+    rtModuleStop( telsxModule() );
+    return fflush( stdout ) == 0 ? 0 : 1;
+}

@@ -1,0 +1,355 @@
+// Does a proxy's work on one request and writes what it sends on, or the response that it gives instead, to
+// standard output; what it reads in the request goes to standard error.
+//
+//     hop [--host HOST] [--source ADDRESS PORT] [FILE | -]
+//
+// HOST is the proxy's own host, proxy.example.com unless told; ADDRESS and PORT are where the request came
+// from. Without a file the request is the one below; "-" is standard input. As a proxy without state hop does
+// the same to the same request each time (RFC 3261, 16.11).
+#include <cerrno>
+#include <sstream>
+#include <stdexcept>
+
+#include "readings.hpp"
+
+namespace
+{
+
+using CallId = Owned<TELSX_HEADER_CALL_ID, telsxHeaderCallIdRelease>;
+using Cseq = Owned<TELSX_HEADER_CSEQ, telsxHeaderCseqRelease>;
+using From = Owned<TELSX_HEADER_FROM, telsxHeaderFromRelease>;
+using Header = Owned<TELSX_MESSAGE_HEADER, telsxMessageHeaderRelease>;
+using MaxForwards = Owned<TELSX_HEADER_MAX_FORWARDS, telsxHeaderMaxForwardsRelease>;
+using RecordRoute = Owned<TELSX_HEADER_RECORD_ROUTE, telsxHeaderRecordRouteRelease>;
+using Route = Owned<TELSX_ROUTE, telsxRouteRelease>;
+using Routes = Owned<TELSX_HEADER_ROUTE, telsxHeaderRouteRelease>;
+using To = Owned<TELSX_HEADER_TO, telsxHeaderToRelease>;
+using Via = Owned<TELSX_VIA, telsxViaRelease>;
+using Vias = Owned<TELSX_HEADER_VIA, telsxHeaderViaRelease>;
+
+const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example SIP/2.0\r\n"
+                      "Via: SIP/2.0/UDP pc33.example.net:5060;branch=z9hG4bK87asdks7;rport\r\n"
+                      "Route: <sip:proxy.example.com;lr>, <sip:gate.mill.example;lr>\r\n"
+                      "Max-Forwards: 70\r\n"
+                      "From: \"Tomás\" <sip:tomas@example.net>;tag=9fxced76sl\r\n"
+                      "To: <sip:ren%C3%A9e@xn--mhle-0ra.example>\r\n"
+                      "Call-ID: 2xTb9vxSit55XU7p8@example.net\r\n"
+                      "CSeq: 1 INVITE\r\n"
+                      "Contact: <sip:tomas@192.0.2.4>\r\n"
+                      "\r\n";
+
+// This proxy, and where the request came from; without an address that is not known.
+struct Place
+{
+    std::string host; // in lower case, a domain name in Unicode
+    IpAddress address;
+    int64_t port = -1;
+};
+
+// A header that the message must have, or has.
+template <class HEADER, class HANDLE>
+HEADER need( const Message &message, const char *name, HANDLE ( *tryDecode )( TELSX_MESSAGE ) )
+{
+    HEADER header( tryDecode( message.get() ) );
+    if ( !header )
+        throw std::runtime_error( std::string( "its " ) + name + " is missing or bad" );
+    return header;
+}
+
+std::string lowerCase( String text )
+{
+    rtStringToLower( AddressOf( text ) );
+    return toUtf8( text );
+}
+
+// The IP address that the text is, with brackets or without, or null.
+IpAddress toIpAddress( const String &text )
+{
+    if ( !text )
+        return nullptr;
+    int64_t bracket = rtStringBeginsWithChar( text.get(), '[' ) && rtStringLength( text.get() ) > 1 ? 1 : 0;
+    return IpAddress( netAddressTryCreateFromChars( rtStringBacking( text.get() ) + bracket,
+                                                    rtStringLength( text.get() ) - 2 * bracket ) );
+}
+
+// What routing asks of an address: [sip:|sips:][user@]host[:port][;parameters][?headers] (RFC 3261, 19.1.1).
+struct Target
+{
+    explicit Target( String iri )
+    {
+        std::string rest = lowerCase( std::move( iri ) );
+        secure = rest.rfind( "sips:", 0 ) == 0;
+        if ( !secure && rest.rfind( "sip:", 0 ) != 0 )
+            return;
+        rest.erase( 0, rest.find( ':' ) + 1 );
+        std::size_t at = rest.find( '@' );
+        user = at != std::string::npos;
+        rest.erase( 0, at + 1 );
+        rest = rest.substr( 0, rest.find( '?' ) );
+        host = rest.substr( 0, rest.find( ';' ) );
+        std::string parameters = rest.substr( host.size() ) + ';';
+        loose =
+            parameters.find( ";lr;" ) != std::string::npos || parameters.find( ";lr=" ) != std::string::npos;
+        host = host.substr( 0, host[0] == '[' ? host.find( ']' ) + 1 : host.find( ':' ) );
+    }
+
+    bool secure = false, user = false, loose = false;
+    std::string host; // as in Place; empty if this is no SIP address
+};
+
+String targetOf( const Message &message ) { return String( telsxMessageRequestIri( message.get() ) ); }
+
+int64_t lengthOf( const Routes &routes ) { return telsxHeaderRouteRoutesLength( routes.get() ); }
+
+String iriAt( const Routes &routes, int64_t index )
+{
+    Route route( telsxHeaderRouteTryDecodeRouteAt( routes.get(), index ) );
+    if ( !route )
+        throw std::runtime_error( "its Route holds a bad value" );
+    return String( telsxRouteIri( route.get() ) );
+}
+
+// A text that is the same for a request, its CANCEL and the ACK of its failure, and for no other request (RFC
+// 3261, 16.11), as a token (FNV-1a).
+std::string fingerprint( const Via &top, const From &from, const CallId &callId, const Cseq &cseq )
+{
+    std::string text = toUtf8( String( telsxViaToString( top.get() ) ) ) + '\n'
+                       + toUtf8( String( telsxHeaderFromToString( from.get() ) ) ) + '\n'
+                       + toUtf8( String( telsxHeaderCallIdToString( callId.get() ) ) ) + '\n'
+                       + std::to_string( telsxHeaderCseqCseq( cseq.get() ) );
+    uint64_t hash = 0xCBF29CE484222325;
+    for ( char ch : text )
+        hash = ( hash ^ static_cast<unsigned char>( ch ) ) * 0x100000001B3;
+    char hex[17];
+    std::snprintf( hex, sizeof hex, "%016llx", static_cast<unsigned long long>( hash ) );
+    return hex;
+}
+
+// Notes in the top Via where the request came from: the address if the Via tells another one or a name
+// (RFC 3261, 18.2.1), address and port if it asks for them (RFC 3581, 4).
+void noteSource( Via &top, const Place &place )
+{
+    IpAddress told = toIpAddress( String( telsxViaHost( top.get() ) ) );
+    bool asked = telsxViaHasRportEmpty( top.get() );
+    if ( asked || !netAddressEquals( told.get(), place.address.get() ) )
+        telsxViaSetReceived( AddressOf( top ), place.address.get() );
+    if ( asked )
+        telsxViaSetRportNumeric( AddressOf( top ), place.port );
+}
+
+// Takes a hop from Max-Forwards; false if none is left (RFC 3261, 16.6, step 3).
+bool countHop( Message &message )
+{
+    MaxForwards header;
+    if ( !telsxHeaderMaxForwardsPresentInMessage( message.get() ) )
+        header.reset( telsxHeaderMaxForwardsCreate( 70 ) );
+    else
+    {
+        header = need<MaxForwards>( message, "Max-Forwards", telsxHeaderMaxForwardsTryDecodeFromMessage );
+        int64_t hops = telsxHeaderMaxForwardsMaxForwards( header.get() );
+        if ( hops == 0 )
+            return false;
+        telsxHeaderMaxForwardsSetMaxForwards( AddressOf( header ), hops - 1 );
+    }
+    telsxHeaderMaxForwardsEncodeToMessage( header.get(), AddressOf( message ) );
+    return true;
+}
+
+// Takes this proxy off the Route and brings the target and the Route into the form that whoever is next
+// understands (RFC 3261, 16.4 and 16.6, step 6). True if the next address is a sips one.
+bool followRoute( Message &message, const Place &place )
+{
+    if ( !telsxHeaderRoutePresentInMessage( message.get() ) )
+        return Target( targetOf( message ) ).secure;
+    auto routes = need<Routes>( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
+
+    // A strict router has put this proxy's Record-Route in the place of the target, which stands last.
+    Target target( targetOf( message ) );
+    if ( target.host == place.host && target.loose && !target.user && lengthOf( routes ) )
+    {
+        int64_t last = lengthOf( routes ) - 1;
+        telsxMessageSetRequestIri( AddressOf( message ), iriAt( routes, last ).get() );
+        telsxHeaderRouteDelRouteAt( AddressOf( routes ), last );
+    }
+    if ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).host == place.host )
+        telsxHeaderRouteDelRouteAt( AddressOf( routes ), 0 );
+
+    // A strict router wants its own address as the target, and the target last.
+    if ( lengthOf( routes ) && !Target( iriAt( routes, 0 ) ).loose )
+    {
+        String next = iriAt( routes, 0 );
+        telsxHeaderRouteDelRouteAt( AddressOf( routes ), 0 );
+        Route route( telsxRouteCreate( targetOf( message ).get() ) );
+        telsxHeaderRouteAppendRoute( AddressOf( routes ), route.get() );
+        telsxMessageSetRequestIri( AddressOf( message ), next.get() );
+    }
+
+    if ( lengthOf( routes ) == 0 )
+        telsxHeaderRouteRemoveFromMessage( AddressOf( message ) );
+    else
+        telsxHeaderRouteEncodeToMessage( routes.get(), AddressOf( message ) );
+    return Target( targetOf( message ) ).secure
+           || ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).secure );
+}
+
+// Has the dialog's later requests come by here too (RFC 3261, 16.6, step 4).
+void recordRoute( Message &message, const Place &place, bool secure )
+{
+    RecordRoute header( telsxHeaderRecordRouteCreate() );
+    if ( telsxHeaderRecordRoutePresentInMessage( message.get() ) )
+        header = need<RecordRoute>( message, "Record-Route", telsxHeaderRecordRouteTryDecodeFromMessage );
+    Route route( telsxRouteCreate( toString( ( secure ? "sips:" : "sip:" ) + place.host + ";lr" ).get() ) );
+    telsxHeaderRecordRoutePrependRoute( AddressOf( header ), route.get() );
+    telsxHeaderRecordRouteEncodeToMessage( header.get(), AddressOf( message ) );
+}
+
+// The response without a body, sent back the way that the request came (RFC 3261, 8.2.6).
+Message respond( const Message &request, int64_t statusCode, To to, const std::string &tag )
+{
+    Version version( telsxVersionCreateSip20() );
+    Message response( telsxMessageCreateResponse( version.get(), statusCode ) );
+    for ( const char *name : { "Via", "From", "To", "Call-Id", "Cseq" } )
+    {
+        Header header( telsxMessageHeaderCstr( request.get(), name, -1 ) );
+        telsxMessageSetHeader( AddressOf( response ), header.get() );
+    }
+    if ( !telsxHeaderToHasTag( to.get() ) )
+        telsxHeaderToSetTag( AddressOf( to ), toString( tag ).get() );
+    telsxHeaderToEncodeToMessage( to.get(), AddressOf( response ) );
+    return response;
+}
+
+// What the proxy sends when it gets the message; what it reads there goes to the stream. Throws a
+// std::runtime_error for bad ones.
+Message hop( Message message, const Place &place, std::ostream &read )
+{
+    if ( !telsxMessageIsRequest( message.get() ) )
+        throw std::runtime_error( "not a request" );
+    auto vias = need<Vias>( message, "Via", telsxHeaderViaTryDecodeFromMessage );
+    Via top( telsxHeaderViaViasLength( vias.get() ) ? telsxHeaderViaTryDecodeViaAt( vias.get(), 0 )
+                                                    : nullptr );
+    if ( !top )
+        throw std::runtime_error( "its top Via is missing or bad" );
+    auto from = need<From>( message, "From", telsxHeaderFromTryDecodeFromMessage );
+    auto to = need<To>( message, "To", telsxHeaderToTryDecodeFromMessage );
+    auto callId = need<CallId>( message, "Call-Id", telsxHeaderCallIdTryDecodeFromMessage );
+    auto cseq = need<Cseq>( message, "Cseq", telsxHeaderCseqTryDecodeFromMessage );
+    auto show = [&read]( const char *name, const auto &value )
+    {
+        read << name << '\n';
+        Reading{ read }( value.get() );
+    };
+    show( "top Via", top );
+    show( "From", from );
+    show( "To", to );
+    show( "Call-Id", callId );
+    show( "Cseq", cseq );
+
+    std::string mark = fingerprint( top, from, callId, cseq );
+    if ( place.address )
+        noteSource( top, place );
+    telsxHeaderViaSetViaAt( AddressOf( vias ), 0, top.get() );
+    telsxHeaderViaEncodeToMessage( vias.get(), AddressOf( message ) );
+    if ( !countHop( message ) )
+    {
+        if ( toUtf8( String( telsxMessageRequestMethod( message.get() ) ) ) == "ACK" )
+            throw std::runtime_error( "an ACK has no answer, and this one no hop left" );
+        return respond( message, 483, std::move( to ), mark );
+    }
+    recordRoute( message, place, followRoute( message, place ) );
+
+    Version version( telsxVersionCreateSip20() );
+    String transport( telsxViaTransport( top.get() ) );
+    Via own( telsxViaCreate( version.get(), transport.get(), toString( place.host ).get() ) );
+    telsxViaSetBranch( AddressOf( own ), toString( "z9hG4bK" + mark ).get() );
+    telsxHeaderViaPrependVia( AddressOf( vias ), own.get() );
+    telsxHeaderViaEncodeToMessage( vias.get(), AddressOf( message ) );
+    return message;
+}
+
+// The port that the text is, or -1.
+int64_t toPort( const String &text )
+{
+    int64_t port, digits;
+    bool number = text && rtStringScanInt( text.get(), 0, -1, 10, &port, &digits )
+                  && digits == rtStringLength( text.get() );
+    return number && port <= 0xFFFF ? port : -1;
+}
+
+// False if the texts are no host, address and port; the address may be null.
+bool toPlace( const char *host, const char *address, const char *port, Place &place )
+{
+    String name = toString( host );
+    if ( !name || !telsxHostOk( name.get() ) )
+        return false;
+    place.host = lowerCase( String( netDnsIdnaDomainNameToUnicode( name.get() ) ) );
+    if ( !address )
+        return true;
+    place.address = toIpAddress( toString( address ) );
+    place.port = toPort( toString( port ) );
+    return place.address && place.port != -1;
+}
+
+} // namespace
+
+int main( int argc, char **argv )
+{
+    const char *file = nullptr, *host = "proxy.example.com", *address = nullptr, *port = nullptr;
+    for ( int i = 1; i < argc; ++i )
+    {
+        std::string_view word = argv[i];
+        if ( word == "--host" && i + 1 < argc )
+            host = argv[++i];
+        else if ( word == "--source" && i + 2 < argc )
+        {
+            address = argv[++i];
+            port = argv[++i];
+        }
+        else if ( !file && ( word == "-" || word.substr( 0, 1 ) != "-" ) )
+            file = argv[i];
+        else
+        {
+            std::cerr << "usage: hop [--host HOST] [--source ADDRESS PORT] [FILE | -]\n";
+            return 2;
+        }
+    }
+    if ( !file && !address )
+    {
+        address = "192.0.2.4";
+        port = "49172";
+    }
+    std::string name = file ? file : "the sample";
+    std::string bytes = sample;
+    if ( file && !readAll( file, bytes ) )
+    {
+        std::cerr << "hop: " << name << ": " << std::strerror( errno ) << '\n';
+        return 1;
+    }
+
+    Library library;
+    Place place;
+    if ( !toPlace( host, address, port, place ) )
+    {
+        std::cerr << "hop: that is no host, or no IP address and port\n";
+        return 2;
+    }
+    Message message( telsxMessageTryDecode( toBuffer( bytes ).get() ) );
+    if ( !message )
+    {
+        std::cerr << "hop: " << name << ": not a whole SIP message, with CR LF at the end of each line\n";
+        return 1;
+    }
+    std::ostringstream read;
+    try
+    {
+        message = hop( std::move( message ), place, read );
+    }
+    catch ( const std::runtime_error &error )
+    {
+        std::cerr << "hop: " << name << ": " << error.what() << '\n';
+        return 1;
+    }
+    std::cerr << read.str();
+    std::cout << toBytes( Buffer( telsxMessageEncode( message.get() ) ) );
+    return 0;
+}

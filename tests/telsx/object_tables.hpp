@@ -1,0 +1,216 @@
+// Tables for objects that are read from text and written as text: what they read, how they sort, what their
+// setters do.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "../../fuzz/headers.hpp"
+#include "../../fuzz/values.hpp"
+#include "telsx/telsx_support.hpp"
+
+namespace support
+{
+
+// Texts of the types named, blanks between the names: those that are written as they are read, those that are
+// written otherwise, and bad ones. The front stands before each of them. For headers the lines stand with
+// line feeds between them; null is no lines, and so is an empty text that is written.
+struct Texts
+{
+    const char *names, *front;
+    std::vector<const char *> kept;
+    std::vector<std::pair<const char *, const char *>> changed;
+    std::vector<const char *> bad;
+};
+using OptionalText = std::optional<std::string>;
+
+template <class LIST>
+const auto &named( const LIST &list, std::string_view name )
+{
+    return *std::find_if( std::begin( list ), std::end( list ),
+                          [&]( auto &entry ) { return entry.name == name; } );
+}
+
+inline headers::Raw rawHeader( std::string_view name, const OptionalText &lines )
+{
+    headers::Raw raw = adopt( telsxMessageHeaderCreate( str( name ).get() ) );
+    for ( std::size_t at = 0, end = 0; lines && end != lines->npos; at = end + 1 )
+    {
+        end = lines->find( '\n', at );
+        telsxMessageHeaderAppendLine( raw.address(), str( lines->substr( at, end - at ) ).get() );
+    }
+    return raw;
+}
+
+inline std::string linesOf( const headers::Raw &raw )
+{
+    std::string lines;
+    for ( int64_t i = 0; i < headers::linesOf( raw ); ++i )
+        lines += ( i ? "\n" : "" ) + utf8( telsxMessageHeaderLineAt( raw.get(), i ) );
+    return lines;
+}
+
+// The object that the text is, or null, by its type or the type's name.
+inline Ref<RT_OBJ> read( const values::Type &type, const OptionalText &text )
+{
+    return type.decoded( rt::textOf( str( *text ) ) );
+}
+inline Ref<RT_OBJ> read( const headers::Kind &kind, const OptionalText &lines )
+{
+    return adopt( kind.tryDecode( rawHeader( kind.name, lines ).get() ) );
+}
+
+inline std::string write( const values::Type &type, const Ref<RT_OBJ> &value )
+{
+    return utf8( type.encoded( value ) );
+}
+inline std::string write( const headers::Kind &kind, const Ref<RT_OBJ> &hdr )
+{
+    return linesOf( adopt( kind.encode( hdr.get() ) ) );
+}
+
+// A property that doesn't hold of the text, or of one that it begins with.
+inline const char *broken( const values::Type &type, const OptionalText &text )
+{
+    Ref<RT_STRING> whole = str( *text );
+    const char *property = nullptr;
+    for ( int64_t length = rtStringLength( whole.get() ); length >= 0 && !property; --length )
+        property = values::broken( type, rt::textOf( whole ).first( length ) );
+    return property;
+}
+inline const char *broken( const headers::Kind &kind, const OptionalText &lines )
+{
+    return headers::broken( kind, rawHeader( kind.name, lines ) );
+}
+
+// Calls the test with each text and what is expected to be written, if it is good.
+template <class TEST>
+void forEach( const Texts &texts, TEST test )
+{
+    auto whole = [&]( const char *text )
+    { return text ? OptionalText( texts.front + std::string( text ) ) : OptionalText(); };
+    for ( const char *text : texts.kept )
+        test( whole( text ), whole( text ) );
+    for ( auto [text, written] : texts.changed )
+        test( whole( text ), whole( written ) );
+    for ( const char *text : texts.bad )
+        test( whole( text ), OptionalText() );
+}
+
+// Each type of the list must have good texts and bad ones. No text does harm to a type that it isn't meant
+// for.
+template <class LIST, class TABLES>
+void expectTexts( const LIST &list, const TABLES &tables )
+{
+    for ( auto &type : list )
+    {
+        int good = 0, bad = 0;
+        for ( const Texts &texts : tables )
+        {
+            bool isMeant =
+                ( " " + std::string( texts.names ) + " " ).find( " " + std::string( type.name ) + " " )
+                != std::string::npos;
+            forEach( texts,
+                     [&]( const OptionalText &text, const OptionalText &written )
+                     {
+                         SCOPED_TRACE( std::string( type.name ) + ": " + text.value_or( "(no lines)" ) );
+                         EXPECT_EQ( nullptr, broken( type, text ) );
+                         if ( !isMeant )
+                             return;
+                         ++( written ? good : bad );
+                         Ref<RT_OBJ> object = read( type, text );
+                         EXPECT_EQ( written.value_or( "(null)" ), object ? write( type, object ) : "(null)" );
+                     } );
+        }
+        EXPECT_TRUE( good && bad ) << type.name;
+    }
+}
+
+// The texts in ascending order: each makes an object that comes before those of all texts behind it.
+template <class TYPE>
+void expectAscending( const TYPE &type, const std::vector<const char *> &texts )
+{
+    for ( std::size_t i = 0; i < texts.size(); ++i )
+        for ( std::size_t j = 0; j < texts.size(); ++j )
+        {
+            Ref<RT_OBJ> a = read( type, texts[i] ), b = read( type, texts[j] );
+            ASSERT_TRUE( a && b ) << type.name << ": " << texts[i] << " and " << texts[j];
+            EXPECT_EQ( i < j ? -1 : i > j, rtObjCompare( a.get(), b.get() ) )
+                << texts[i] << " and " << texts[j];
+        }
+}
+
+// A field of an object: its functions, what the getter gives when it is set, what the object is written as
+// then, and what the setter says to a bad value.
+template <class HANDLE>
+struct Field
+{
+    const char *word;
+    std::function<void( HANDLE *object )> set;
+    std::string ( *get )( HANDLE object );
+    std::string got, written;
+    std::function<void( HANDLE *object )> setBad;
+    std::string condition;
+    RT_BOOL ( *has )( HANDLE object ) = nullptr; // the field may be absent
+    void ( *del )( HANDLE *object ) = nullptr;
+};
+
+inline std::string shown( int64_t number ) { return std::to_string( number ); }
+template <class HANDLE>
+std::string shown( HANDLE object )
+{
+    return object ? utf8( rtObjToString( adopt( rt::asObj( object ) ).get() ) ) : "(null)";
+}
+
+#define FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, ... )                              \
+    {                                                                                             \
+#WORD, [&]( auto *object ) { telsx##NAME##Set##WORD( object, GOOD ); }, []( auto object ) \
+        { return shown( telsx##NAME##WORD( object ) ); }, GOT, WRITTEN,                           \
+                                                       [&]( auto *object )                        \
+        { telsx##NAME##Set##WORD( object, BAD ); }, CONDITION __VA_ARGS__                         \
+    }
+#define OPTION( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION ) \
+    FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, , telsx##NAME##Has##WORD, telsx##NAME##Del##WORD )
+
+// The object is one without optional fields. Setters are told null as self and *self.
+template <class HANDLE, class WRITE>
+void expectFields( const Ref<HANDLE> &object, WRITE write, const std::string &self,
+                   std::initializer_list<Field<HANDLE>> fields )
+{
+    std::string before = write( object.get() );
+    for ( const Field<HANDLE> &field : fields )
+    {
+        SCOPED_TRACE( field.word );
+        Ref<HANDLE> changed = object;
+        std::string without = field.get( object.get() );
+        field.set( changed.address() );
+        EXPECT_EQ( field.written, write( changed.get() ) );
+        EXPECT_EQ( field.got, field.get( changed.get() ) );
+        EXPECT_EQ( before, write( object.get() ) ) << "the other holder sees nothing";
+        HANDLE held = changed.get();
+        field.set( changed.address() );
+        EXPECT_EQ( held, changed.get() ) << "the only holder's object is changed in place";
+
+        HANDLE none = nullptr;
+        EXPECT_ABORT( field.get( nullptr ), self );
+        EXPECT_ABORT( field.set( nullptr ), self );
+        EXPECT_ABORT( field.set( &none ), "*" + self );
+        EXPECT_ABORT( field.setBad( changed.address() ), field.condition );
+        if ( !field.has )
+            continue;
+        EXPECT_FALSE( field.has( object.get() ) );
+        EXPECT_TRUE( field.has( changed.get() ) );
+        for ( int i = 0; i < 2; ++i )
+        {
+            field.del( changed.address() );
+            EXPECT_FALSE( field.has( changed.get() ) );
+            EXPECT_EQ( without, field.get( changed.get() ) );
+            EXPECT_EQ( before, write( changed.get() ) );
+        }
+        EXPECT_ABORT( field.has( nullptr ), self );
+        EXPECT_ABORT( field.del( nullptr ), self );
+        EXPECT_ABORT( field.del( &none ), "*" + self );
+    }
+}
+
+} // namespace support
