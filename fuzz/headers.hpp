@@ -50,12 +50,12 @@ using Message = Ref<TELSX_MESSAGE>;
 
 inline int64_t linesOf( const Raw &raw ) { return telsxMessageHeaderLinesLength( raw.get() ); }
 
-inline int64_t semicolons( const Raw &raw )
+inline int64_t count( const Raw &raw, RT_CHAR ch )
 {
-    int64_t count = 0;
+    int64_t sum = 0;
     for ( int64_t i = 0; i < linesOf( raw ); ++i )
-        count += values::semicolons( rt::textOf( adopt( telsxMessageHeaderLineAt( raw.get(), i ) ) ) );
-    return count;
+        sum += values::count( rt::textOf( adopt( telsxMessageHeaderLineAt( raw.get(), i ) ) ), ch );
+    return sum;
 }
 
 // Whether both are null, or both are the same in value and text.
@@ -118,6 +118,16 @@ inline Ref<RT_STRING> textOf( const Raw &raw )
     return text;
 }
 
+// Whether the lines are contacts of which the first has a display name that begins with a star. That is a
+// contact in any line but the first, where the star means all contacts.
+inline bool isStarInFront( const Kind &kind, const Raw &raw )
+{
+    if ( kind.name != "Contact" || !linesOf( raw ) )
+        return false;
+    Ref<RT_STRING> first = adopt( telsxMessageHeaderLineAt( raw.get(), 0 ) );
+    return rtStringLength( first.get() ) > 1 && rtStringBeginsWithChar( first.get(), '*' );
+}
+
 inline const char *broken( const Kind &kind, const Raw &raw )
 {
     Ref<RT_OBJ> hdr = adopt( kind.tryDecode( raw.get() ) );
@@ -125,14 +135,17 @@ inline const char *broken( const Kind &kind, const Raw &raw )
     if ( property || !hdr )
         return property;
     Raw encoded = adopt( kind.encode( hdr.get() ) );
+    if ( isStarInFront( kind, encoded ) )
+        return nullptr;
     if ( adopt( telsxMessageHeaderName( encoded.get() ) ) != adopt( kind.nameString() ) )
         return "a kind writes its own name";
     Ref<RT_OBJ> again = adopt( kind.tryDecode( encoded.get() ) );
     if ( !again && linesOf( encoded ) )
         return "what is encoded decodes, but for an empty list";
+    bool mayHide = count( raw, '\\' ), allStand = count( encoded, ';' ) == count( raw, ';' );
     if ( again && adopt( kind.encode( again.get() ) ) != encoded )
-        return "what is encoded doesn't change any more";
-    if ( again && semicolons( raw ) == semicolons( encoded ) && hdr != again )
+        return mayHide ? broken( kind, encoded ) : "what is encoded doesn't change any more";
+    if ( again && allStand && !mayHide && hdr != again )
         return "what is encoded decodes to the same, unless a parameter fell away beside another of its name";
     if ( !areSame( kind, adopt( kind.tryRestore( adopt( kind.store( hdr.get() ) ).get() ) ), again ) )
         return "what is stored is restored";

@@ -47,10 +47,7 @@ inline const Type all[] = {
 };
 #undef TELSX_VALUE
 
-inline int64_t semicolons( Text text )
-{
-    return std::count( text.chs, text.chs + text.length, RT_CHAR( ';' ) );
-}
+inline int64_t count( Text text, RT_CHAR ch ) { return std::count( text.chs, text.chs + text.length, ch ); }
 
 // Whether two objects of a type are equal; those that can't be compared are told apart by their texts alone.
 inline bool areEqual( const Ref<RT_OBJ> &a, const Ref<RT_OBJ> &b ) { return !a->sort->compareFunc || a == b; }
@@ -77,10 +74,12 @@ inline const char *broken( const Type &type, Text text )
     Ref<RT_OBJ> again = type.decoded( wire );
     if ( !again )
         return "what is encoded decodes";
+    // An escape may hide what the field of a parameter wants, and what is encoded shows it.
+    bool mayHide = count( text, '\\' );
     if ( type.encoded( again ) != encoded )
-        return "what is encoded doesn't change any more";
-    bool allStand = semicolons( wire ) == semicolons( text );
-    if ( allStand && !areEqual( value, again ) )
+        return mayHide ? broken( type, wire ) : "what is encoded doesn't change any more";
+    bool allStand = count( wire, ';' ) == count( text, ';' );
+    if ( allStand && !mayHide && !areEqual( value, again ) )
         return "what is encoded decodes to the same, unless a parameter fell away beside another of its name";
     return nullptr;
 }

@@ -7,7 +7,8 @@
 
 static constexpr int64_t blockLength = 16;
 
-template <class FROM> static bool isAsciiBlock( const FROM *from )
+template <class FROM>
+static bool isAsciiBlock( const FROM *from )
 {
     FROM block[blockLength], all = 0;
     std::memcpy( block, from, sizeof block );
@@ -17,7 +18,8 @@ template <class FROM> static bool isAsciiBlock( const FROM *from )
 }
 
 // By way of copies, since bytes might be part of anything.
-template <class FROM, class TO> static void convertBlock( const FROM *from, TO *to )
+template <class FROM, class TO>
+static void convertBlock( const FROM *from, TO *to )
 {
     FROM read[blockLength];
     TO written[blockLength];
@@ -25,6 +27,30 @@ template <class FROM, class TO> static void convertBlock( const FROM *from, TO *
     for ( int64_t i = 0; i < blockLength; ++i )
         written[i] = static_cast<TO>( read[i] );
     std::memcpy( to, written, sizeof written );
+}
+
+template <class FROM>
+static bool isAscii( const FROM *from, int64_t length )
+{
+    int64_t at = 0;
+    for ( ; length - at >= blockLength; at += blockLength )
+        if ( !isAsciiBlock( from + at ) )
+            return false;
+    FROM all = 0;
+    for ( ; at < length; ++at )
+        all = static_cast<FROM>( all | from[at] );
+    return all < 0x80;
+}
+
+// Of ASCII, each way.
+template <class FROM, class TO>
+static void convert( const FROM *from, int64_t length, TO *to )
+{
+    int64_t at = 0;
+    for ( ; length - at >= blockLength; at += blockLength )
+        convertBlock( from + at, to + at );
+    for ( ; at < length; ++at )
+        to[at] = static_cast<TO>( from[at] );
 }
 
 static bool isContinuation( unsigned char byte ) { return ( byte & 0xC0 ) == 0x80; }
@@ -64,7 +90,8 @@ static void encodeOne( RT_CHAR ch, int64_t size, unsigned char *into )
 }
 
 // The number of code points, -1 if the bytes are not strictly UTF-8. Without WRITES it only looks.
-template <bool WRITES> static int64_t decode( const unsigned char *bytes, int64_t length, RT_CHAR *into )
+template <bool WRITES>
+static int64_t decode( const unsigned char *bytes, int64_t length, RT_CHAR *into )
 {
     int64_t at = 0, count = 0;
     while ( at < length )
@@ -90,7 +117,8 @@ template <bool WRITES> static int64_t decode( const unsigned char *bytes, int64_
 }
 
 // The number of bytes. Without WRITES it only counts.
-template <bool WRITES> static int64_t encode( const RT_CHAR *chs, int64_t length, unsigned char *into )
+template <bool WRITES>
+static int64_t encode( const RT_CHAR *chs, int64_t length, unsigned char *into )
 {
     int64_t at = 0, count = 0;
     while ( at < length )
@@ -147,6 +175,11 @@ RT_STRING rtStringTryCreateFromUtf8( const char *bytes, int64_t length )
         return rtStringCreate();
     auto *from = reinterpret_cast<const unsigned char *>( bytes );
     rt::Ref<RT_STRING> string;
+    if ( isAscii( from, length ) )
+    {
+        convert( from, length, rt::newString( length, string.address() ) );
+        return string.take();
+    }
     RT_CHAR *chs = rt::newString( rt___Utf8Length( from, length ), string.address() );
     return rt___Utf8Decode( from, length, chs ) == -1 ? nullptr : string.take();
 }
@@ -156,7 +189,9 @@ void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string )
     RT_ASSERT( buffer );
     RT_ASSERT( *buffer );
     RT_ASSERT( string );
-    if ( int64_t size = encode<false>( string->chs, string->length, nullptr ) )
+    if ( isAscii( string->chs, string->length ) )
+        convert( string->chs, string->length, rt::extend( buffer, string->length ) );
+    else if ( int64_t size = encode<false>( string->chs, string->length, nullptr ) )
         encode<true>( string->chs, string->length, rt::extend( buffer, size ) );
 }
 

@@ -239,7 +239,7 @@ RT_DEFINE_STDFUNCS( rt, nullptr, Dict, RT_DICT, freeFunc, compareFunc, toStringF
 
 // One empty dictionary serves all; the first change makes another.
 static constexpr RT_DICT_ emptyDict = {
-    { &rt___sort_RT_DICT, RT_COUNT_IMMORTAL }, nullptr, 0, 0, 0, nullptr, 0, 0
+    { &rt___sort_RT_DICT, RT_COUNT_IMMORTAL, 0 }, nullptr, 0, 0, 0, nullptr, 0, 0
 };
 
 RT_DICT rtDictCreate( void ) { return const_cast<RT_DICT>( &emptyDict ); }

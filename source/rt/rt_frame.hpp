@@ -51,7 +51,11 @@ namespace rt
 }
 
 // Every handle points to a structure that begins with the runtime's header.
-template <class T> RT_OBJ asObj( T *object ) { return reinterpret_cast<RT_OBJ>( object ); }
+template <class T>
+RT_OBJ asObj( T *object )
+{
+    return reinterpret_cast<RT_OBJ>( object );
+}
 
 inline void retain( RT_OBJ obj )
 {
@@ -72,7 +76,8 @@ inline void release( RT_OBJ obj )
 inline bool shared( RT_OBJ obj ) { return std::atomic_ref( obj->count ).load() > 1; }
 
 // Owns one reference, or is null: a field, or a variable of a function that may return early.
-template <class HANDLE> class Ref
+template <class HANDLE>
+class Ref
 {
 public:
     Ref() = default;
@@ -123,9 +128,14 @@ private:
 };
 
 // A Ref that takes over the caller's reference, and one that takes a reference of its own.
-template <class HANDLE> Ref<HANDLE> adopt( HANDLE handle ) { return Ref<HANDLE>::adopt( handle ); }
+template <class HANDLE>
+Ref<HANDLE> adopt( HANDLE handle )
+{
+    return Ref<HANDLE>::adopt( handle );
+}
 
-template <class HANDLE> Ref<HANDLE> share( HANDLE handle )
+template <class HANDLE>
+Ref<HANDLE> share( HANDLE handle )
 {
     if ( handle )
         retain( asObj( handle ) );
@@ -136,22 +146,47 @@ template <class F>
 concept Number = std::same_as<F, int64_t> || std::same_as<F, RT_BOOL>;
 
 // The absent form of each kind of field.
-template <class HANDLE> void clear( Ref<HANDLE> &field ) { field = {}; }
+template <class HANDLE>
+void clear( Ref<HANDLE> &field )
+{
+    field = {};
+}
 inline void clear( int64_t &field ) { field = -1; }
 inline void clear( RT_BOOL &field ) { field = 0; }
 
-template <class HANDLE> bool present( const Ref<HANDLE> &field ) { return bool( field ); }
+template <class HANDLE>
+bool present( const Ref<HANDLE> &field )
+{
+    return bool( field );
+}
 inline bool present( const int64_t &field ) { return field != -1; }
 
 // What a getter returns, and what a setter stores.
-template <class HANDLE> HANDLE value( const Ref<HANDLE> &field ) { return field.retained(); }
-template <Number F> F value( const F &field ) { return field; }
+template <class HANDLE>
+HANDLE value( const Ref<HANDLE> &field )
+{
+    return field.retained();
+}
+template <Number F>
+F value( const F &field )
+{
+    return field;
+}
 
-template <class HANDLE> void put( Ref<HANDLE> &field, HANDLE given ) { field = share( given ); }
-template <Number F> void put( F &field, F given ) { field = given; }
+template <class HANDLE>
+void put( Ref<HANDLE> &field, HANDLE given )
+{
+    field = share( given );
+}
+template <Number F>
+void put( F &field, F given )
+{
+    field = given;
+}
 
 // The size of an object with these fields behind the runtime's header.
-template <class... FIELD> consteval std::size_t sizeWith( std::type_identity<std::tuple<FIELD &...>> )
+template <class... FIELD>
+consteval std::size_t sizeWith( std::type_identity<std::tuple<FIELD &...>> )
 {
     std::size_t size = sizeof( RT_OBJECT ), align = alignof( RT_OBJECT );
     ( ( size = ( size + alignof( FIELD ) - 1 ) / alignof( FIELD ) * alignof( FIELD ) + sizeof( FIELD ) ),
@@ -160,13 +195,15 @@ template <class... FIELD> consteval std::size_t sizeWith( std::type_identity<std
 }
 
 // Whether a type's list names all its fields.
-template <class T> consteval bool listsAllFields()
+template <class T>
+consteval bool listsAllFields()
 {
     return sizeWith( std::type_identity<decltype( T::fields( std::declval<T &>() ) )>() ) == sizeof( T );
 }
 
 // A new object with all fields absent. The runtime has filled the header, so only the fields are made.
-template <class T> T *create( RT_SORT sort )
+template <class T>
+T *create( RT_SORT sort )
 {
     T *object = reinterpret_cast<T *>( rt___ObjCreate( sizeof( T ), sort ) );
     std::apply( []( auto &...field ) { ( ( std::construct_at( &field ), clear( field ) ), ... ); },
@@ -174,20 +211,23 @@ template <class T> T *create( RT_SORT sort )
     return object;
 }
 
-template <class T> T *createFrom( T *source )
+template <class T>
+T *createFrom( T *source )
 {
     T *copy = create<T>( source->object.sort );
     T::fields( *copy ) = T::fields( *source );
     return copy;
 }
 
-template <class T> void clearFields( T *object )
+template <class T>
+void clearFields( T *object )
 {
     std::apply( []( auto &...field ) { ( clear( field ), ... ); }, T::fields( *object ) );
 }
 
 // The first field that differs decides.
-template <class T> int64_t compareFields( T *a, T *b )
+template <class T>
+int64_t compareFields( T *a, T *b )
 {
     auto order = [&]
     {
@@ -200,7 +240,8 @@ template <class T> int64_t compareFields( T *a, T *b )
 }
 
 // Copy on write: the object behind the handle, made private to it if anyone else holds it.
-template <class T> T *own( T **handle )
+template <class T>
+T *own( T **handle )
 {
     T *old = *handle;
     if ( shared( asObj( old ) ) )

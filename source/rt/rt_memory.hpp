@@ -8,7 +8,8 @@
 namespace rt
 {
 
-template <class T> T *allocate( int64_t count )
+template <class T>
+T *allocate( int64_t count )
 {
     RT_CHECK( count >= 0 && count <= PTRDIFF_MAX / static_cast<int64_t>( sizeof( T ) ), "out of memory",
               "count" );
@@ -18,7 +19,8 @@ template <class T> T *allocate( int64_t count )
 }
 
 // A larger block in the place of an old one.
-template <class T> T *reallocate( T *old, int64_t count )
+template <class T>
+T *reallocate( T *old, int64_t count )
 {
     RT_CHECK( count > 0 && count <= PTRDIFF_MAX / static_cast<int64_t>( sizeof( T ) ), "out of memory",
               "count" );
@@ -35,7 +37,8 @@ inline int64_t grown( int64_t capacity, int64_t needed )
 }
 
 // memcpy for counts of elements; a null pointer goes with a count of 0.
-template <class T> void copyItems( T *to, const T *from, int64_t count )
+template <class T>
+void copyItems( T *to, const T *from, int64_t count )
 {
     if ( count > 0 )
         std::memcpy( static_cast<void *>( to ), from, static_cast<std::size_t>( count ) * sizeof( T ) );

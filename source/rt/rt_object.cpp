@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "rt/rt_blocks.hpp"
 #include "rt/rt_memory.hpp"
 #include "rt/rt_string.h"
 
@@ -55,8 +56,8 @@ int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB )
 
 RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort )
 {
-    RT_OBJ obj = reinterpret_cast<RT_OBJ>( rt::allocate<char>( size ) );
-    *obj = { sort, 1 };
+    RT_OBJ obj = rt::allocateBlock( &size );
+    *obj = { sort, 1, size };
     countAlive( 1 );
     return obj;
 }
@@ -65,7 +66,7 @@ void rt___ObjFree( RT_OBJ obj )
 {
     if ( obj->sort->freeFunc )
         obj->sort->freeFunc( obj );
-    std::free( obj );
+    rt::freeBlock( obj );
     countAlive( -1 );
 }
 

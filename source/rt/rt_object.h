@@ -43,14 +43,15 @@ typedef struct RT_OBJECT_
 {
     RT_SORT sort;  /* null in the static records of a module */
     int64_t count; /* references, atomic; RT_COUNT_IMMORTAL and above is never counted */
+    int64_t size;  /* of the block in bytes; 0 for an object that exists from load on */
 } RT_OBJECT, *RT_OBJ;
 
 #define RT_COUNT_IMMORTAL ( (int64_t)1 << 62 )
 
 /* The header of an object that exists from load on and is never freed. */
-#define RT_STATIC_OBJECT        \
-    {                           \
-        NULL, RT_COUNT_IMMORTAL \
+#define RT_STATIC_OBJECT           \
+    {                              \
+        NULL, RT_COUNT_IMMORTAL, 0 \
     }
 
 /* The sort record: the static descriptor of an object type, whose address is the type's identity. Each of

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "rt/rt_blocks.hpp"
 #include "rt/rt_format.h"
 #include "rt/rt_memory.hpp"
 #include "rt/rt_string.hpp"
@@ -173,11 +174,10 @@ static RT_CHAR *own( RT_STRING *handle, int64_t capacity )
     {
         capacity = rt::grown( string->capacity, capacity );
         RT_CHECK( capacity <= ( PTRDIFF_MAX - 64 ) / 4, "out of memory", "capacity" );
-        string = reinterpret_cast<RT_STRING>(
-            rt::reallocate( reinterpret_cast<char *>( string ),
-                            static_cast<int64_t>( sizeof( RT_STRING_ ) ) + capacity * 4 ) );
+        string = reinterpret_cast<RT_STRING>( rt::growBlock(
+            rt::asObj( string ), static_cast<int64_t>( sizeof( RT_STRING_ ) ) + capacity * 4 ) );
         string->chs = string->inner();
-        string->capacity = capacity;
+        string->capacity = rt::innerCapacity( string );
         *handle = string;
         return string->inner();
     }

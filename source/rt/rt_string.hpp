@@ -18,6 +18,13 @@ struct RT_STRING_
 namespace rt
 {
 
+// How many code points fit into the string's block.
+inline int64_t innerCapacity( RT_STRING string )
+{
+    return ( string->object.size - static_cast<int64_t>( sizeof( RT_STRING_ ) ) )
+           / static_cast<int64_t>( sizeof( RT_CHAR ) );
+}
+
 // A string of that length, a new reference in the second argument. The caller writes its code points at once.
 inline RT_CHAR *newString( int64_t length, RT_STRING *string )
 {
@@ -26,14 +33,15 @@ inline RT_CHAR *newString( int64_t length, RT_STRING *string )
         rt___ObjCreate( static_cast<int64_t>( sizeof( RT_STRING_ ) ) + length * 4, &rt___sort_RT_STRING ) );
     made->chs = made->inner();
     made->length = length;
-    made->capacity = length;
+    made->capacity = innerCapacity( made );
     made->parent = nullptr;
     *string = made;
     return made->inner();
 }
 
 // ASCII text as a constant of code points, for the parameter of a template.
-template <std::size_t SIZE> struct Ascii
+template <std::size_t SIZE>
+struct Ascii
 {
     RT_CHAR chs[SIZE];
 
@@ -47,9 +55,13 @@ template <std::size_t SIZE> struct Ascii
 // A string that exists from load on and is never counted, copied or freed: rt::literal<"Via">().
 template <Ascii TEXT>
 inline constexpr RT_STRING_ literalObject = {
-    { &rt___sort_RT_STRING, RT_COUNT_IMMORTAL }, TEXT.chs, std::size( TEXT.chs ) - 1, 0, nullptr
+    { &rt___sort_RT_STRING, RT_COUNT_IMMORTAL, 0 }, TEXT.chs, std::size( TEXT.chs ) - 1, 0, nullptr
 };
 
-template <Ascii TEXT> RT_STRING literal() { return const_cast<RT_STRING>( &literalObject<TEXT> ); }
+template <Ascii TEXT>
+RT_STRING literal()
+{
+    return const_cast<RT_STRING>( &literalObject<TEXT> );
+}
 
 } // namespace rt

@@ -58,7 +58,9 @@ static RT_STRING toStringFunc( RT_OBJ obj )
 RT_DEFINE_STDFUNCS( rt, nullptr, Vector, RT_VECTOR, freeFunc, compareFunc, toStringFunc )
 
 // One empty vector serves all; the first change makes another.
-static constexpr RT_VECTOR_ emptyVector = { { &rt___sort_RT_VECTOR, RT_COUNT_IMMORTAL }, nullptr, 0, 0, 0 };
+static constexpr RT_VECTOR_ emptyVector = {
+    { &rt___sort_RT_VECTOR, RT_COUNT_IMMORTAL, 0 }, nullptr, 0, 0, 0
+};
 
 RT_VECTOR rtVectorCreate( void ) { return const_cast<RT_VECTOR>( &emptyVector ); }
 

@@ -31,26 +31,6 @@ RT_STRING lastLineOf( TELSX_MESSAGE_HEADER header )
     return length ? lineOf( header, length - 1 ) : nullptr;
 }
 
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name )
-{
-    return createHeader( name, adopt( rtVectorCreate() ) );
-}
-
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name, const Ref<RT_STRING> &line )
-{
-    Ref<RT_VECTOR> lines = adopt( rtVectorCreateWithCapacity( 1 ) );
-    rtVectorAppendString( lines.address(), line.get() );
-    return createHeader( name, lines );
-}
-
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name, const Ref<RT_VECTOR> &lines )
-{
-    TELSX_MESSAGE_HEADER header = rt::create<TELSX_MESSAGE_HEADER_>( telsxMessageHeaderSort() );
-    header->name = share( name );
-    header->lines = lines;
-    return header;
-}
-
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store )
 {
     return holdsLines( store ) ? telsxMessageHeaderRestoreLines( name, store ) : nullptr;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "telsx/telsx_header.h"
+#include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_text.hpp"
 
 namespace telsx

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "rsc/rsc.h"
+#include "telsx/telsx_known_names.hpp"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
 #include "telsx/telsx_message_header.hpp"
@@ -84,6 +85,16 @@ static StartLine decodeStartLine( Ref<TELSX_MESSAGE_FRAGMENT> &frag, RT_STRING l
     return StartLine::good;
 }
 
+// The canonical name, or null for what is no name.
+static Ref<RT_STRING> tryDecodeName( Bytes bytes )
+{
+    if ( RT_STRING known = findKnownName( bytes ) )
+        return share( known );
+    Ref<RT_STRING> name = stringOf( bytes );
+    return telsxMessageHeaderNameOk( name.get() ) ? adopt( telsxMessageHeaderNameNormalize( name.get() ) )
+                                                  : Ref<RT_STRING>();
+}
+
 // One header line, with its folds undone, becomes one line more of the header of its name. The fragment is
 // nobody else's yet, and so are its headers: they are changed where they are.
 static bool decodeHeader( Ref<TELSX_MESSAGE_FRAGMENT> &frag, Bytes text )
@@ -91,19 +102,17 @@ static bool decodeHeader( Ref<TELSX_MESSAGE_FRAGMENT> &frag, Bytes text )
     std::size_t colon = text.find( ':' );
     if ( colon == Bytes::npos )
         return false;
-    Ref<RT_STRING> name = stringOf( trimmed( text.substr( 0, colon ) ) );
-    if ( !telsxMessageHeaderNameOk( name.get() ) )
+    Ref<RT_STRING> name = tryDecodeName( trimmed( text.substr( 0, colon ) ) );
+    if ( !name )
         return false;
-    name = adopt( telsxMessageHeaderNameNormalize( name.get() ) );
-    RT_OBJ header = rt___DictValueBorrowed( frag->headers.get(), name.get() );
-    if ( !header )
-    {
-        auto created = adopt( telsxMessageHeaderCreate( name.get() ) );
-        header = rt::asObj( created.get() );
-        rtDictSetStringKey( frag->headers.address(), name.get(), header );
-    }
     Ref<RT_STRING> line = stringOf( trimmed( text.substr( colon + 1 ) ) );
-    rtVectorAppendString( telsxMessageHeaderFrom( header )->lines.address(), line.get() );
+    if ( RT_OBJ header = rt___DictValueBorrowed( frag->headers.get(), name.get() ) )
+        rtVectorAppendString( telsxMessageHeaderFrom( header )->lines.address(), line.get() );
+    else
+    {
+        Ref<TELSX_MESSAGE_HEADER> created = adopt( createHeader( name.get(), line ) );
+        rtDictSetStringKey( frag->headers.address(), name.get(), rt::asObj( created.get() ) );
+    }
     return true;
 }
 

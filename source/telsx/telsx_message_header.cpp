@@ -84,15 +84,32 @@ RT_STRING telsxMessageHeaderNameNormalize( RT_STRING name )
     return normal.take();
 }
 
+TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name )
+{
+    return createHeader( name, adopt( rtVectorCreate() ) );
+}
+
+TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, const Ref<RT_STRING> &line )
+{
+    Ref<RT_VECTOR> lines = adopt( rtVectorCreateWithCapacity( 1 ) );
+    rtVectorAppendString( lines.address(), line.get() );
+    return createHeader( name, lines );
+}
+
+TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, const Ref<RT_VECTOR> &lines )
+{
+    TELSX_MESSAGE_HEADER header = rt::create<TELSX_MESSAGE_HEADER_>( telsxMessageHeaderSort() );
+    header->name = share( name );
+    header->lines = lines;
+    return header;
+}
+
 TELSX_DEFINE_GETTER( MessageHeader, header, Name, name )
 
 TELSX_MESSAGE_HEADER telsxMessageHeaderCreate( RT_STRING name )
 {
     TELSX_ASSERT( telsxMessageHeaderNameOk( name ) );
-    TELSX_MESSAGE_HEADER header = rt::create<TELSX_MESSAGE_HEADER_>( telsxMessageHeaderSort() );
-    header->name = adopt( telsxMessageHeaderNameNormalize( name ) );
-    header->lines = adopt( rtVectorCreate() );
-    return header;
+    return createHeader( adopt( telsxMessageHeaderNameNormalize( name ) ).get() );
 }
 
 RT_BOOL telsxMessageHeaderNameEquals( TELSX_MESSAGE_HEADER header, RT_STRING name )

@@ -62,6 +62,8 @@ RT_BOOL telsxVersionIsSip20( TELSX_VERSION version )
 TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
+    if ( telsx___VersionSip20 && rtStringEqualsChars( literal<"SIP/2.0">(), chs, length ) )
+        return telsxVersionCreateSip20();
     Text rest = { chs, length };
     Text protocolName = rest.take( telsx___SkipProtocolName );
     if ( !protocolName || !rest.take( telsx___SkipSlash ) )

@@ -83,11 +83,10 @@ static void expectSet( const Set<HANDLE> &set, bool isCaseKept )
     EXPECT_EQ( isCaseKept ? "B,a,b," : "b,a,", elements( set, fuller ) );
 
     // Whatever has a text can stand in the vector.
-    Ref<RT_VECTOR> vector = strings( { "X", "x" } );
-    rtVectorAppend( vector.address(), telsxVersionObj( adopt( telsxVersionCreateSip20() ).get() ) );
-    EXPECT_ABORT( set.setVector( hdr.address(), vector.get() ), set.condition );
-    rtVectorDelAt( vector.address(), 2 );
+    Ref<RT_VECTOR> vector = strings( { "X", "x" } ), badVector = vector;
     rtVectorAppend( vector.address(), rt::asObj( sample<TELSX_HEADER_MAX_FORWARDS>().get() ) );
+    rtVectorAppend( badVector.address(), rt::asObj( sample<TELSX_HEADER_CSEQ>().get() ) );
+    EXPECT_ABORT( set.setVector( hdr.address(), badVector.get() ), set.condition );
     set.setVector( hdr.address(), vector.get() );
     EXPECT_EQ( isCaseKept ? "X,x,70," : "x,70,", elements( set, hdr ) );
     set.setVector( hdr.address(), adopt( rtVectorCreate() ).get() );
@@ -124,6 +123,7 @@ TEST( Kinds, Sets )
 }
 
 #define EXPECT_CHARS_OF_SET( NAME, WORD )                                                                \
+    do                                                                                                   \
     {                                                                                                    \
         SCOPED_TRACE( #NAME );                                                                           \
         auto hdr = adopt( telsx##NAME##Create() );                                                       \
@@ -137,12 +137,15 @@ TEST( Kinds, Sets )
         telsx##NAME##Del##WORD##Wcstr( hdr.address(), L"b", -1 );                                        \
         EXPECT_EQ( 0, telsx##NAME##WORD##sLength( hdr.get() ) );                                         \
         EXPECT_ABORT( telsx##NAME##Has##WORD##Cstr( hdr.get(), "", 0 ), "telsx" #WORD "Ok( element )" ); \
-    }
+    } while ( false )
 
-TEST( Kinds, SetsOfCharacters ){ EXPECT_CHARS_OF_SET( HeaderAllow, Method )
-                                     EXPECT_CHARS_OF_SET( HeaderPrivacy, PrivValue )
-                                         EXPECT_CHARS_OF_SET( HeaderRequire, OptionTag )
-                                             EXPECT_CHARS_OF_SET( HeaderSupported, OptionTag ) }
+TEST( Kinds, SetsOfCharacters )
+{
+    EXPECT_CHARS_OF_SET( HeaderAllow, Method );
+    EXPECT_CHARS_OF_SET( HeaderPrivacy, PrivValue );
+    EXPECT_CHARS_OF_SET( HeaderRequire, OptionTag );
+    EXPECT_CHARS_OF_SET( HeaderSupported, OptionTag );
+}
 
 TEST( Kinds, ContentEncodingIsAList )
 {
@@ -174,8 +177,6 @@ TEST( Kinds, ContentEncodingIsAList )
     TELSX_HEADER_CONTENT_ENCODING none = nullptr;
     const char *condition = "telsxContentCodingOk( contentCoding )";
     EXPECT_ABORT( telsxHeaderContentEncodingAppendContentCoding( hdr.address(), bad.get() ), condition );
-    EXPECT_ABORT( telsxHeaderContentEncodingPrependContentCoding( hdr.address(), bad.get() ), condition );
-    EXPECT_ABORT( telsxHeaderContentEncodingInsertContentCoding( hdr.address(), 0, bad.get() ), condition );
     EXPECT_ABORT( telsxHeaderContentEncodingSetContentCodingAt( hdr.address(), 0, bad.get() ), condition );
     EXPECT_ABORT( telsxHeaderContentEncodingDelContentCodingAt( &none, 0 ), "*hdr" );
     EXPECT_ABORT( telsxHeaderContentEncodingSetContentCodingsVector( hdr.address(), nullptr ), "vec" );
@@ -202,27 +203,27 @@ TEST( Kinds, ContentEncodingIsAList )
 
 static constexpr char deltaSecondsOk[] = "telsxDeltaSecondsOk( deltaSeconds )";
 
+// A header that is one number or one text
+#define EXPECT_NUMBER( NAME, SELF, WORD, BAD, CONDITION )                                                   \
+    EXPECT_FIELDS( NAME, SELF, telsx##NAME##Create( 1 ), NUMBER_FIELD( NAME, WORD, "7", BAD, CONDITION ) ); \
+    EXPECT_ABORT( telsx##NAME##Create( BAD ), CONDITION )
+#define EXPECT_TEXT( NAME, WORD, GOOD, GOT, BAD, CONDITION )                           \
+    EXPECT_FIELDS( NAME, "hdr", telsx##NAME##Create( str( "1" ).get() ),               \
+                   FIELD( NAME, WORD, str( GOOD ).get(), GOT, GOT, BAD, CONDITION ) ); \
+    EXPECT_ABORT( telsx##NAME##Create( BAD ), CONDITION )
+
 TEST( Kinds, SettersOfNumbers )
 {
-    EXPECT_FIELDS( HeaderExpires, "hdr", telsxHeaderExpiresCreate( 1 ),
-                   NUMBER_FIELD( HeaderExpires, DeltaSeconds, "7", -1, deltaSecondsOk ) );
-    EXPECT_FIELDS( HeaderMinExpires, "hdr", telsxHeaderMinExpiresCreate( 1 ),
-                   NUMBER_FIELD( HeaderMinExpires, DeltaSeconds, "7", -1, deltaSecondsOk ) );
-    EXPECT_FIELDS(
-        HeaderMaxForwards, "mf", telsxHeaderMaxForwardsCreate( 0 ),
-        NUMBER_FIELD( HeaderMaxForwards, MaxForwards, "7", 256, "telsxMaxForwardsOk( maxForwards )" ) );
-    EXPECT_FIELDS( HeaderRseq, "hdr", telsxHeaderRseqCreate( 1 ),
-                   NUMBER_FIELD( HeaderRseq, ResponseNum, "7", 0, "telsxResponseNumOk( responseNum )" ) );
+    EXPECT_NUMBER( HeaderExpires, "hdr", DeltaSeconds, -1, deltaSecondsOk );
+    EXPECT_NUMBER( HeaderMinExpires, "hdr", DeltaSeconds, -1, deltaSecondsOk );
+    EXPECT_NUMBER( HeaderMaxForwards, "mf", MaxForwards, 256, "telsxMaxForwardsOk( maxForwards )" );
+    EXPECT_NUMBER( HeaderRseq, "hdr", ResponseNum, 0, "telsxResponseNumOk( responseNum )" );
     EXPECT_FIELDS(
         HeaderRack, "hdr", telsxHeaderRackCreate( 1, 2, str( "A" ).get() ),
         NUMBER_FIELD( HeaderRack, ResponseNum, "7 2 A", 4294967296, "telsxResponseNumOk( responseNum )" ),
         NUMBER_FIELD( HeaderRack, Cseq, "1 7 A", 2147483648, "telsxCseqOk( cseq )" ),
         TEXT_FIELD( HeaderRack, Method, "b", "b", "1 2 b", "b ", "telsxMethodOk( method )" ) );
 
-    EXPECT_ABORT( telsxHeaderExpiresCreate( -1 ), deltaSecondsOk );
-    EXPECT_ABORT( telsxHeaderMinExpiresCreate( -1 ), deltaSecondsOk );
-    EXPECT_ABORT( telsxHeaderMaxForwardsCreate( 256 ), "telsxMaxForwardsOk( maxForwards )" );
-    EXPECT_ABORT( telsxHeaderRseqCreate( 4294967296 ), "telsxResponseNumOk( responseNum )" );
     EXPECT_ABORT( telsxHeaderRackCreate( 0, -1, nullptr ), "telsxResponseNumOk( responseNum )" );
     EXPECT_ABORT( telsxHeaderRackCreate( 1, -1, nullptr ), "telsxCseqOk( cseq )" );
     EXPECT_ABORT( telsxHeaderRackCreate( 1, 0, str( "" ).get() ), "telsxMethodOk( method )" );
@@ -273,8 +274,6 @@ TEST( Kinds, SettersOfValuesWithParameters )
                    PARAMS_FIELD( HeaderReplaces, "a;x=Y", "genericParams" ) );
 
     EXPECT_ABORT( telsxHeaderSessionExpiresCreate( -1 ), deltaSecondsOk );
-    EXPECT_ABORT( telsxHeaderMinSeCreate( -1 ), deltaSecondsOk );
-    EXPECT_ABORT( telsxHeaderRetryAfterCreate( -1 ), deltaSecondsOk );
     Ref<RT_STRING> bad = str( "" );
     EXPECT_ABORT( telsxHeaderEventCreate( bad.get() ), "telsxEventTypeOk( eventType )" );
     EXPECT_ABORT( telsxHeaderSubscriptionStateCreate( bad.get() ), "telsxSubstateValueOk( substateValue )" );
@@ -322,56 +321,34 @@ TEST( Kinds, SettersOfAddresses )
 
 TEST( Kinds, SettersOfTexts )
 {
-    Ref<RT_STRING> good = str( "1" ), bad = str( "" );
-    EXPECT_FIELDS( HeaderUserAgent, "hdr", telsxHeaderUserAgentCreate( good.get() ),
-                   TEXT_FIELD( HeaderUserAgent, UserAgent, "A / 1", "A / 1", "A / 1", "",
-                               "telsxUserAgentOk( userAgent )" ) );
-    EXPECT_FIELDS(
-        HeaderServer, "hdr", telsxHeaderServerCreate( good.get() ),
-        TEXT_FIELD( HeaderServer, Server, "A  b", "A  b", "A  b", "", "telsxServerOk( server )" ) );
-    EXPECT_FIELDS( HeaderTimestamp, "hdr", telsxHeaderTimestampCreate( good.get() ),
-                   TEXT_FIELD( HeaderTimestamp, TimestampValue, "02. .1", "02. .1", "02. .1", "",
-                               "telsxTimestampValueOk( timestampValue )" ) );
-    EXPECT_FIELDS( HeaderPriority, "hdr", telsxHeaderPriorityCreate( good.get() ),
-                   TEXT_FIELD( HeaderPriority, PriorityValue, "Other", "other", "other", "",
-                               "telsxPriorityValueOk( priorityValue )" ) );
-    EXPECT_ABORT( telsxHeaderUserAgentCreate( bad.get() ), "telsxUserAgentOk( userAgent )" );
-    EXPECT_ABORT( telsxHeaderServerCreate( bad.get() ), "telsxServerOk( server )" );
-    EXPECT_ABORT( telsxHeaderTimestampCreate( bad.get() ), "telsxTimestampValueOk( timestampValue )" );
-    EXPECT_ABORT( telsxHeaderPriorityCreate( bad.get() ), "telsxPriorityValueOk( priorityValue )" );
-
-    EXPECT_FIELDS(
-        HeaderSubject, "hdr", telsxHeaderSubjectCreate( good.get() ),
-        FIELD( HeaderSubject, Subject, str( "\tA  b " ).get(), "A b", "A b", nullptr, "subject" ) );
-    EXPECT_FIELDS(
-        HeaderOrganization, "hdr", telsxHeaderOrganizationCreate( good.get() ),
-        FIELD( HeaderOrganization, Organization, str( " " ).get(), "", "", nullptr, "organization" ) );
-    bad = str( "a\x7F" );
-    EXPECT_ABORT( telsxHeaderSubjectCreate( nullptr ), "subject" );
-    EXPECT_ABORT( telsxHeaderSubjectCreate( bad.get() ), "subject invalid: telsxSubjectOk( subject )" );
-    EXPECT_ABORT( telsxHeaderOrganizationCreate( nullptr ), "organization" );
-    EXPECT_ABORT( telsxHeaderOrganizationCreate( bad.get() ),
-                  "organization invalid: telsxOrganizationOk( organization )" );
+    Ref<RT_STRING> empty = str( "" ), bad = str( "a\x7F" );
+    EXPECT_TEXT( HeaderUserAgent, UserAgent, "A / 1", "A / 1", empty.get(), "telsxUserAgentOk( userAgent )" );
+    EXPECT_TEXT( HeaderServer, Server, "A  b", "A  b", empty.get(), "telsxServerOk( server )" );
+    EXPECT_TEXT( HeaderTimestamp, TimestampValue, "02. .1", "02. .1", empty.get(),
+                 "telsxTimestampValueOk( timestampValue )" );
+    EXPECT_TEXT( HeaderPriority, PriorityValue, "Other", "other", empty.get(),
+                 "telsxPriorityValueOk( priorityValue )" );
+    EXPECT_TEXT( HeaderSubject, Subject, "\tA  b ", "A b", nullptr, "subject" );
+    EXPECT_TEXT( HeaderSubject, Subject, "a", "a", bad.get(), "subject invalid: telsxSubjectOk( subject )" );
+    EXPECT_TEXT( HeaderOrganization, Organization, " ", "", nullptr, "organization" );
+    EXPECT_TEXT( HeaderOrganization, Organization, "a", "a", bad.get(),
+                 "organization invalid: telsxOrganizationOk( organization )" );
 }
 
 TEST( Kinds, NamedPriorities )
 {
+#define NAMED( WORD, NAME )                                                                              \
+    {                                                                                                    \
+        WORD, telsxHeaderPriorityCreate##NAME, telsxHeaderPrioritySet##NAME, telsxHeaderPriorityIs##NAME \
+    }
     struct
     {
         const char *word;
         TELSX_HEADER_PRIORITY ( *create )( void );
         void ( *set )( TELSX_HEADER_PRIORITY *hdr );
         RT_BOOL ( *is )( TELSX_HEADER_PRIORITY hdr );
-    } values[] = {
-        { "emergency", telsxHeaderPriorityCreateEmergency, telsxHeaderPrioritySetEmergency,
-          telsxHeaderPriorityIsEmergency },
-        { "urgent", telsxHeaderPriorityCreateUrgent, telsxHeaderPrioritySetUrgent,
-          telsxHeaderPriorityIsUrgent },
-        { "normal", telsxHeaderPriorityCreateNormal, telsxHeaderPrioritySetNormal,
-          telsxHeaderPriorityIsNormal },
-        { "non-urgent", telsxHeaderPriorityCreateNonUrgent, telsxHeaderPrioritySetNonUrgent,
-          telsxHeaderPriorityIsNonUrgent },
-    };
+    } values[] = { NAMED( "emergency", Emergency ), NAMED( "urgent", Urgent ), NAMED( "normal", Normal ),
+                   NAMED( "non-urgent", NonUrgent ) };
     Ref<TELSX_HEADER_PRIORITY> other = adopt( telsxHeaderPriorityCreate( str( "Other" ).get() ) );
     for ( auto &value : values )
     {
@@ -492,7 +469,7 @@ TEST( Kinds, DatesHoldTimes )
     EXPECT_LE( now, after );
     EXPECT_TRUE( date( utf8( telsxHeaderDateToString( hdr.get() ) ) ) );
 
-    // Of a time that is none only the month is looked at, and only to be written.
+    // A time that is none is written as it stands, unless it has no month.
     Ref<RT_TIME> time = adopt( rtTimeCreate() );
     rtTimeSetHour( time.address(), 99 );
     EXPECT_FIELDS( HeaderDate, "hdr", telsxHeaderDateCreate( now.get() ),

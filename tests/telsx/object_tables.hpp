@@ -50,7 +50,7 @@ inline std::string linesOf( const headers::Raw &raw )
     return lines;
 }
 
-// The object that the text is, or null, by its type or the type's name.
+// The object that the text is, or null, and the text of an object.
 inline Ref<RT_OBJ> read( const values::Type &type, const OptionalText &text )
 {
     return type.decoded( rt::textOf( str( *text ) ) );
@@ -162,15 +162,15 @@ std::string shown( HANDLE object )
     return object ? utf8( rtObjToString( adopt( rt::asObj( object ) ).get() ) ) : "(null)";
 }
 
-#define FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, ... )                              \
-    {                                                                                             \
-#WORD, [&]( auto *object ) { telsx##NAME##Set##WORD( object, GOOD ); }, []( auto object ) \
-        { return shown( telsx##NAME##WORD( object ) ); }, GOT, WRITTEN,                           \
-                                                       [&]( auto *object )                        \
-        { telsx##NAME##Set##WORD( object, BAD ); }, CONDITION __VA_ARGS__                         \
-    }
+// clang-format off
+#define FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, ... )     \
+    { #WORD,                                                             \
+      [&]( auto *object ) { telsx##NAME##Set##WORD( object, GOOD ); },   \
+      []( auto object ) { return shown( telsx##NAME##WORD( object ) ); }, GOT, WRITTEN, \
+      [&]( auto *object ) { telsx##NAME##Set##WORD( object, BAD ); }, CONDITION __VA_ARGS__ }
 #define OPTION( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION ) \
     FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, , telsx##NAME##Has##WORD, telsx##NAME##Del##WORD )
+// clang-format on
 
 // The object is one without optional fields. Setters are told null as self and *self.
 template <class HANDLE, class WRITE>
@@ -200,9 +200,11 @@ void expectFields( const Ref<HANDLE> &object, WRITE write, const std::string &se
             continue;
         EXPECT_FALSE( field.has( object.get() ) );
         EXPECT_TRUE( field.has( changed.get() ) );
+        Ref<HANDLE> other = changed;
         for ( int i = 0; i < 2; ++i )
         {
             field.del( changed.address() );
+            EXPECT_EQ( field.written, write( other.get() ) );
             EXPECT_FALSE( field.has( changed.get() ) );
             EXPECT_EQ( without, field.get( changed.get() ) );
             EXPECT_EQ( before, write( changed.get() ) );
