@@ -31,8 +31,9 @@ RT_API RT_STRING rtStringCreateFromInner( RT_STRING string, int64_t offset, int6
  *
  *   %i          a signed 64-bit integer in decimal; %02i with at least two digits, zeros in front
  *   %^02!16i    the same in radix 16, with capitals
- *   %.*A        two 64-bit integers, a largest value and a value: the value in decimal, with zeros in front
- * up to the width of the largest %s          a string, which stays the caller's
+ *   %.*A        two 64-bit integers, a largest value and a value: the value in decimal, with zeros in front up to
+ *               the width of the largest
+ *   %s          a string, which stays the caller's
  *   %~s         a string whose reference the call takes over
  *   %%          a percent sign
  *

@@ -1,6 +1,6 @@
 /* Contact value: an address at which a party can be reached.
  *
- *     contact-param = ( name-addr / addr-spec ) *( SEMI contact-params )
+ *     contact-param = ( name-addr / addr-spec ) *( SEMI contact-params )  ; RFC 3261
  *     contact-params = c-p-q / c-p-expires / hi-param / c-p-instance / contact-extension
  *     c-p-q = "q" EQUAL qvalue
  *     c-p-expires = "expires" EQUAL delta-seconds

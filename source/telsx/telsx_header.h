@@ -8,13 +8,13 @@
  * that every kind has beside those of TELSX_OBJECT, where null aborts in all:
  *
  *   Encode                the raw header, a new reference
- *   TryDecode             from a raw header, which must bear the kind's name, else it aborts; a new
- * reference, or null for bad text. Lists read all lines, all other kinds read the last one only Store,
- * TryRestore     the same by way of a store of the lines, which keeps no name; null for a damaged store, too
+ *   TryDecode             from a raw header, which must bear the kind's name, else it aborts; a new reference, or
+ *                         null for bad text. Lists read all lines, all other kinds read the last one only
+ *   Store, TryRestore     the same by way of a store of the lines, which keeps no name; null for a damaged store
  *   PresentInMessage      whether the message has a header of the name, however bad its text
  *   EncodeToMessage       puts the raw header in the place of all lines of the name
- *   TryDecodeFromMessage  a new reference, or null if there is no such header, if it has no lines, and for
- * bad text RemoveFromMessage     takes the header out; nothing happens if there is none
+ *   TryDecodeFromMessage  a new reference, or null if there is no such header, if it has no lines, and for bad text
+ *   RemoveFromMessage     takes the header out; nothing happens if there is none
  *
  * ToString gives the lines alone, without the name, with ", " between them. */
 #define TELSX_HEADER( NAME, SORT )                                                    \

@@ -1,6 +1,6 @@
 /* From header: who sends a request (RFC 3261, 20.20).
  *
- *     From = ( "From" / "f" ) HCOLON ( name-addr / addr-spec ) *( SEMI from-param )
+ *     From = ( "From" / "f" ) HCOLON ( name-addr / addr-spec ) *( SEMI from-param )  ; RFC 3261
  *     from-param = tag-param / epid-param / generic-param
  *     tag-param = "tag" EQUAL token
  *     epid-param = "epid" EQUAL 1*16( token character )

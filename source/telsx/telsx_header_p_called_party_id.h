@@ -1,7 +1,7 @@
 /* P-Called-Party-Id header: which address was called (RFC 3455, 5.2).
  *
- *     P-Called-Party-ID = "P-Called-Party-ID" HCOLON called-pty-id-spec
- *     called-pty-id-spec = name-addr *( SEMI cpid-param )
+ *     P-Called-Party-ID = "P-Called-Party-ID" HCOLON called-pty-id-spec  ; RFC 3455
+ *     called-pty-id-spec = name-addr *( SEMI cpid-param )  ; RFC 3455
  *
  * Headers sort by the fields in the order below. */
 #ifndef TELSX_TELSX_HEADER_P_CALLED_PARTY_ID_H

@@ -1,6 +1,6 @@
 /* Refer-To header: where a party is to turn (RFC 3515, 2.1).
  *
- *     Refer-To = ( "Refer-To" / "r" ) HCOLON ( name-addr / addr-spec ) *( SEMI generic-param )
+ *     Refer-To = ( "Refer-To" / "r" ) HCOLON ( name-addr / addr-spec ) *( SEMI generic-param )  ; RFC 3515
  *
  * A bare address with text behind it that is no list of parameters is read once more with all its
  * semicolons as one address. Headers sort by the fields in the order below. */

@@ -2,7 +2,7 @@
  *
  *     Referred-By = ( "Referred-By" / "b" ) HCOLON referrer-uri
  *                   *( SEMI ( referredby-id-param / generic-param ) )
- *     referrer-uri = name-addr / addr-spec
+ *     referrer-uri = name-addr / addr-spec  ; RFC 3892
  *     referredby-id-param = "cid" EQUAL DQUOTE sip-clean-msg-id DQUOTE
  *
  * Headers sort by the fields in the order below. */

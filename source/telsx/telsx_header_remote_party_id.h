@@ -1,6 +1,6 @@
 /* Remote-Party-Id header: who the other party is (draft-ietf-sip-privacy-04, 5).
  *
- *     Remote-Party-ID = "Remote-Party-ID" HCOLON [display-name] LAQUOT addr-spec RAQUOT
+ *     Remote-Party-ID = "Remote-Party-ID" HCOLON [display-name] LAQUOT addr-spec RAQUOT  ; RFC 3261
  *                       *( SEMI rpi-token )
  *
  * Headers sort by the fields in the order below. */

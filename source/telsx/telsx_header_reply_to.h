@@ -1,6 +1,6 @@
 /* Reply-To header: where a party wants to be called back (RFC 3261, 20.31).
  *
- *     Reply-To = "Reply-To" HCOLON ( name-addr / addr-spec ) *( SEMI generic-param )
+ *     Reply-To = "Reply-To" HCOLON ( name-addr / addr-spec ) *( SEMI generic-param )  ; RFC 3261
  *
  * Headers sort by the fields in the order below. */
 #ifndef TELSX_TELSX_HEADER_REPLY_TO_H

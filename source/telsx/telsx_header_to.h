@@ -1,6 +1,6 @@
 /* To header: whom a request is meant for (RFC 3261, 20.39).
  *
- *     To = ( "To" / "t" ) HCOLON ( name-addr / addr-spec ) *( SEMI to-param )
+ *     To = ( "To" / "t" ) HCOLON ( name-addr / addr-spec ) *( SEMI to-param )  ; RFC 3261
  *     to-param = tag-param / epid-param / generic-param
  *     tag-param = "tag" EQUAL token
  *     epid-param = "epid" EQUAL 1*16( token character )

@@ -1,8 +1,8 @@
 /* Identity value: who a party is, as the network asserts it or the party prefers it. Element of
  * P-Asserted-Identity and P-Preferred-Identity.
  *
- *     PAssertedID-value = name-addr / addr-spec
- *     PPreferredID-value = name-addr / addr-spec
+ *     PAssertedID-value = name-addr / addr-spec  ; RFC 3325
+ *     PPreferredID-value = name-addr / addr-spec  ; RFC 3325
  *
  * (RFC 3325, 9.1 and 9.2) There are no parameters. Values sort by the fields in the order below. */
 #ifndef TELSX_TELSX_IDENTITY_VALUE_H

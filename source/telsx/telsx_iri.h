@@ -1,6 +1,6 @@
 /* IRI: the address that objects hold (RFC 3987) where the wire carries a URI (RFC 3986; RFC 3261, 19.1).
  *
- *     addr-spec = SIP-URI / SIPS-URI / absoluteURI
+ *     addr-spec = SIP-URI / SIPS-URI / absoluteURI  ; RFC 3261
  *     uric = reserved / unreserved / escaped
  *
  * (RFC 3261, 25.1) */
@@ -15,9 +15,8 @@ RT_BEGIN
 RT_API RT_BOOL telsxIriOk( RT_STRING iri );
 
 /* How many code points at the start of the text are the element (see telsx_skip.h). A URI is measured with
- * whatever parameters it has, which is right in angle brackets; an addr-spec is a URI that ends at the first
- * semicolon (RFC 3261, 20: what stands behind are the header's parameters); uric is the run of such elements.
- */
+ * whatever parameters it has, which is right in angle brackets. The bare form (RFC 3261, addr-spec) ends at the
+ * first semicolon: what stands behind are the header's parameters. Uric is the run of such elements. */
 RT_API int64_t telsx___SkipUri( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipAddrSpec( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipUric( const RT_CHAR *chs, int64_t length );

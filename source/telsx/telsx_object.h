@@ -10,13 +10,13 @@
  *
  * The shapes of all other functions, where a type's header says nothing else:
  *
- *   Create     a new object, which the caller releases
- *   getters    a field: objects as a new reference, null if absent; numbers by value, -1 if absent
- *   Has        whether the field is present
- *   Set, Del   change the object behind the handle, or put a changed copy there if others hold the object
- * too; Set retains its argument, which stays the caller's. A null handle aborts, and so does a null address
- *   Cstr, Wcstr  take a text as 8-bit characters (each is one code point) or as wide characters with a
- * length, of which -1 means up to the zero
+ *   Create       a new object, which the caller releases
+ *   getters      a field: objects as a new reference, null if absent; numbers by value, -1 if absent
+ *   Has          whether the field is present
+ *   Set, Del     change the object behind the handle, or put a changed copy there if others hold the object too; Set
+ *                retains its argument, which stays the caller's. A null handle aborts, and so does a null address
+ *   Cstr, Wcstr  take a text as 8-bit characters (each is one code point) or as wide characters with a length, of
+ *                which -1 means up to the zero
  *
  * A value that fails the element's Ok function aborts: who has text from outside asks first. */
 #define TELSX_OBJECT( NAME, SORT )                      \

@@ -34,7 +34,8 @@ int64_t telsx___SkipChar( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 
 static RT_CHAR asciiLower( RT_CHAR ch ) { return ch >= 'A' && ch <= 'Z' ? ch + 0x20 : ch; }
 
-template <class SAME> static int64_t skipText( Text text, Text skip, SAME same )
+template <class SAME>
+static int64_t skipText( Text text, Text skip, SAME same )
 {
     return text.length >= skip.length && std::equal( skip.chs, skip.chs + skip.length, text.chs, same )
                ? skip.length
@@ -235,14 +236,16 @@ int64_t telsx___SkipComment( const RT_CHAR *chs, int64_t length )
 
 // Composites. A sequence takes all its parts or gives 0.
 
-template <class... SKIPPER> static int64_t skipAll( Text text, SKIPPER... parts )
+template <class... SKIPPER>
+static int64_t skipAll( Text text, SKIPPER... parts )
 {
     Text rest = text;
     return ( rest.take( parts ) && ... ) ? text.length - rest.length : 0;
 }
 
 // The first that finds anything.
-template <class... SKIPPER> static int64_t skipAny( Text text, SKIPPER... alternatives )
+template <class... SKIPPER>
+static int64_t skipAny( Text text, SKIPPER... alternatives )
 {
     int64_t found = 0;
     (void)( ( found = alternatives( text.chs, text.length ) ) || ... );

@@ -33,24 +33,28 @@ public:
 
     // Whether the parameter has this name, in any case, and a value that begins as the skipper wants. The
     // value, as far as the skipper goes, is then in value.
-    template <rt::Ascii NAME> bool is( Skipper skipValue )
+    template <rt::Ascii NAME>
+    bool is( Skipper skipValue )
     {
         return open && isNamed( { NAME.chs, std::size( NAME.chs ) - 1 }, skipValue );
     }
     Text value;
 
     // Whether the parameter begins with this name, in any case, and no equal sign follows.
-    template <rt::Ascii NAME> bool isBare()
+    template <rt::Ascii NAME>
+    bool isBare()
     {
         return open && isBareNamed( { NAME.chs, std::size( NAME.chs ) - 1 } );
     }
 
     // Stores what the value decoded to, unless that is null or -1; whether it did.
-    template <class HANDLE> bool store( Ref<HANDLE> &field, Ref<HANDLE> decoded )
+    template <class HANDLE>
+    bool store( Ref<HANDLE> &field, Ref<HANDLE> decoded )
     {
         return decoded && ( field = std::move( decoded ), take() );
     }
-    template <class HANDLE> bool store( Ref<HANDLE> &field, HANDLE decoded )
+    template <class HANDLE>
+    bool store( Ref<HANDLE> &field, HANDLE decoded )
     {
         return store( field, adopt( decoded ) );
     }
@@ -76,7 +80,8 @@ private:
 };
 
 // The element in double quotes, without white space; and the element of such a value.
-template <Skipper SKIP> int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
+template <Skipper SKIP>
+int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
 {
     Text rest = { chs, length };
     bool found = rest.take( telsx___SkipChar( chs, length, '"' ) ) && rest.take( SKIP )

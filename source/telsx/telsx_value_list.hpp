@@ -9,7 +9,8 @@ namespace telsx
 {
 
 // A new header with an empty list.
-template <class T> T *createList( RT_SORT sort )
+template <class T>
+T *createList( RT_SORT sort )
 {
     T *hdr = rt::create<T>( sort );
     hdr->values = adopt( rtVectorCreate() );
@@ -28,7 +29,8 @@ bool decodeValues( Ref<RT_VECTOR> &values, TELSX_MESSAGE_HEADER header, Skipper 
                    WithoutLines withoutLines );
 
 // The list, for operations that end the star form of a header that has one.
-template <class T> RT_VECTOR *valuesWithoutStar( T *hdr )
+template <class T>
+RT_VECTOR *valuesWithoutStar( T *hdr )
 {
     if constexpr ( requires { hdr->starForm; } )
         hdr->starForm = 0;

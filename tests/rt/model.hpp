@@ -24,7 +24,8 @@ public:
     // From 0 to the most.
     int64_t upTo( std::size_t most ) { return below( static_cast<int64_t>( most ) + 1 ); }
     // One of the actions, whichever.
-    template <std::size_t SIZE> void act( const std::function<void()> ( &actions )[SIZE] )
+    template <std::size_t SIZE>
+    void act( const std::function<void()> ( &actions )[SIZE] )
     {
         actions[below( SIZE )]();
     }
@@ -33,7 +34,8 @@ private:
     std::mt19937_64 engine{ 42 };
 };
 
-template <class HANDLE, class MODEL> struct Side
+template <class HANDLE, class MODEL>
+struct Side
 {
     Ref<HANDLE> real;
     MODEL model{};
@@ -58,7 +60,8 @@ void run( Ref<HANDLE> empty, int steps, STEP step, SAME same )
 }
 
 // Each object equals a second one that is made alike, and comes before those that follow.
-template <class MAKE, class... FROM> void expectAscending( MAKE make, const FROM &...from )
+template <class MAKE, class... FROM>
+void expectAscending( MAKE make, const FROM &...from )
 {
     const Ref<RT_OBJ> objects[] = { adopt( make( from ) )... }, again[] = { adopt( make( from ) )... };
     for ( std::size_t i = 0; i < sizeof...( FROM ); ++i )

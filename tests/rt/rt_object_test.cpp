@@ -61,7 +61,8 @@ struct Time
     static void change( RT_TIME *time ) { rtTimeSetDay( time, 28 ); }
 };
 
-template <class KIND> struct RtObject : testing::Test
+template <class KIND>
+struct RtObject : testing::Test
 {
     static auto make()
     {
@@ -125,7 +126,7 @@ TYPED_TEST( RtObject, AbortsForNullAndForOtherSorts )
     EXPECT_ABORT( TypeParam::compare( object.get(), nullptr ), "stdfunc compare b: objB" );
     EXPECT_FALSE( TypeParam::equals( object.get(), nullptr ) );
     RT_OBJECT other = { rtStringSort() == TypeParam::sort() ? rtTimeSort() : rtStringSort(),
-                        RT_COUNT_IMMORTAL };
+                        RT_COUNT_IMMORTAL, 0 };
     EXPECT_ABORT( TypeParam::from( &other ),
                   "stdfunc from: !obj || rtObjSort(obj)==&rt___sort_" + std::string( TypeParam::name ) );
 }

@@ -51,7 +51,10 @@ inline std::string utf8( RT_STRING string ) { return utf8( adopt( string ) ); }
 class LeakCheck : public testing::EmptyTestEventListener
 {
     void OnTestStart( const testing::TestInfo & ) override { before = rtObjsAlive(); }
-    void OnTestEnd( const testing::TestInfo & ) override { EXPECT_EQ( before, rtObjsAlive() ) << "objects leaked"; }
+    void OnTestEnd( const testing::TestInfo & ) override
+    {
+        EXPECT_EQ( before, rtObjsAlive() ) << "objects leaked";
+    }
 
     int64_t before = 0;
 };
@@ -59,5 +62,5 @@ class LeakCheck : public testing::EmptyTestEventListener
 } // namespace support
 
 // The statement must abort with exactly this condition.
-#define EXPECT_ABORT( STATEMENT, EXPRESSION )                                                                 \
+#define EXPECT_ABORT( STATEMENT, EXPRESSION ) \
     EXPECT_DEATH( STATEMENT, testing::HasSubstr( std::string( ": " ) + EXPRESSION + "\n" ) )

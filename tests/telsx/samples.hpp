@@ -7,24 +7,29 @@ namespace support
 {
 
 // A type without a sample doesn't compile.
-template <class HANDLE> Ref<HANDLE> sample() = delete;
+template <class HANDLE>
+Ref<HANDLE> sample() = delete;
 
-template <> inline Ref<TELSX_MESSAGE> sample<TELSX_MESSAGE>()
+template <>
+inline Ref<TELSX_MESSAGE> sample<TELSX_MESSAGE>()
 {
     return message( "INVITE sip:bob@example.com SIP/2.0\r\nVia: a\r\nVia: b\r\n\r\nbody" );
 }
 
-template <> inline Ref<TELSX_MESSAGE_FRAGMENT> sample<TELSX_MESSAGE_FRAGMENT>()
+template <>
+inline Ref<TELSX_MESSAGE_FRAGMENT> sample<TELSX_MESSAGE_FRAGMENT>()
 {
     return fragment( "SIP/2.0 200 OK\r\nVia: a\r\nVia: b\r\n\r\nbody" );
 }
 
-template <> inline Ref<TELSX_MESSAGE_HEADER> sample<TELSX_MESSAGE_HEADER>()
+template <>
+inline Ref<TELSX_MESSAGE_HEADER> sample<TELSX_MESSAGE_HEADER>()
 {
     return header( "Via", { "a", "b" } );
 }
 
-template <> inline Ref<TELSX_MESSAGE_STREAM_DECODER> sample<TELSX_MESSAGE_STREAM_DECODER>()
+template <>
+inline Ref<TELSX_MESSAGE_STREAM_DECODER> sample<TELSX_MESSAGE_STREAM_DECODER>()
 {
     auto decoder = adopt( telsxMessageStreamDecoderCreate() );
     telsxMessageStreamDecoderWrite( decoder.get(), buffer( "INVITE sip:b SIP/2.0\r\nl: 9\r\n\r\nbo" ).get() );
@@ -32,17 +37,20 @@ template <> inline Ref<TELSX_MESSAGE_STREAM_DECODER> sample<TELSX_MESSAGE_STREAM
     return decoder;
 }
 
-template <> inline Ref<TELSX_VERSION> sample<TELSX_VERSION>()
+template <>
+inline Ref<TELSX_VERSION> sample<TELSX_VERSION>()
 {
     return adopt( telsxVersionCreate( str( "SIP" ).get(), str( "2.0" ).get() ) );
 }
 
-template <> inline Ref<TELSX_GENERIC_PARAM> sample<TELSX_GENERIC_PARAM>()
+template <>
+inline Ref<TELSX_GENERIC_PARAM> sample<TELSX_GENERIC_PARAM>()
 {
     return adopt( rt::textOf( str( "a=B" ) ).as( telsx___GenericParamTryDecode ) );
 }
 
-template <> inline Ref<TELSX_GENERIC_PARAMS> sample<TELSX_GENERIC_PARAMS>()
+template <>
+inline Ref<TELSX_GENERIC_PARAMS> sample<TELSX_GENERIC_PARAMS>()
 {
     return adopt( rt::textOf( str( ";a=B;c" ) ).as( telsx___GenericParamsTryDecode ) );
 }
@@ -135,18 +143,20 @@ inline const char *sampleLine( std::string_view name )
     return "";
 }
 
-#define TELSX_VALUE( NAME, SORT )                                                                             \
-    template <> inline Ref<TELSX_##SORT> sample<TELSX_##SORT>()                                               \
-    {                                                                                                         \
-        return adopt( rt::textOf( str( sampleValue( #NAME ) ) ).as( telsx___##NAME##TryDecode ) );            \
+#define TELSX_VALUE( NAME, SORT )                                                                  \
+    template <>                                                                                    \
+    inline Ref<TELSX_##SORT> sample<TELSX_##SORT>()                                                \
+    {                                                                                              \
+        return adopt( rt::textOf( str( sampleValue( #NAME ) ) ).as( telsx___##NAME##TryDecode ) ); \
     }
 #include "telsx/telsx_values.def"
 #undef TELSX_VALUE
 
-#define TELSX_KIND( NAME, SORT, SIP_NAME )                                                                    \
-    template <> inline Ref<TELSX_##SORT> sample<TELSX_##SORT>()                                               \
-    {                                                                                                         \
-        return adopt( telsx##NAME##TryDecode( header( SIP_NAME, { sampleLine( SIP_NAME ) } ).get() ) );       \
+#define TELSX_KIND( NAME, SORT, SIP_NAME )                                                              \
+    template <>                                                                                         \
+    inline Ref<TELSX_##SORT> sample<TELSX_##SORT>()                                                     \
+    {                                                                                                   \
+        return adopt( telsx##NAME##TryDecode( header( SIP_NAME, { sampleLine( SIP_NAME ) } ).get() ) ); \
     }
 #include "telsx/telsx_headers.def"
 #undef TELSX_KIND
