@@ -66,7 +66,8 @@ bool makeLists()
 
 } // namespace
 
-static int64_t rounded( int64_t size ) { return ( size + step - 1 ) / step * step; }
+// Without lists a block has exactly its size, so that sanitizers see each byte behind it.
+static int64_t rounded( int64_t size ) { return listsBlocks ? ( size + step - 1 ) / step * step : size; }
 
 RT_OBJ rt::allocateBlock( int64_t *size )
 {

@@ -1,4 +1,5 @@
 // Raw headers: names in canonical form, lines, stores.
+#include "telsx/telsx_known_names.hpp"
 #include "telsx_support.hpp"
 
 using namespace support;
@@ -30,6 +31,24 @@ TEST( MessageHeaderName, HasOneCanonicalForm )
         EXPECT_TRUE( telsxMessageHeaderNameEquals( made.get(), str( name ).get() ) );
         EXPECT_FALSE( telsxMessageHeaderNameEqualsCstr( made.get(), "Xy", -1 ) );
     }
+}
+
+// The table of constants gives what the rules give, for each name in it and in any case.
+TEST( MessageHeaderName, IsAConstantIfKnown )
+{
+    for ( const telsx::KnownName &known : telsx::knownNames )
+    {
+        std::string name( known.spelling ), expected = canonical( name );
+        for ( char &ch : name )
+        {
+            ch = static_cast<char>( std::toupper( ch ) );
+            EXPECT_EQ( expected, utf8( share( telsx::findKnownName( name ) ) ) );
+        }
+        EXPECT_FALSE( telsx::findKnownName( name + "x" ) );
+        EXPECT_FALSE( telsx::findKnownName( name + "\r" ) );
+    }
+    EXPECT_FALSE( telsx::findKnownName( "" ) );
+    EXPECT_FALSE( telsx::findKnownName( "call\rid" ) );
 }
 
 TEST( MessageHeaderName, IsSetInThreeForms )
