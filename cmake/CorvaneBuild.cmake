@@ -15,7 +15,8 @@ add_library( corvane-flags INTERFACE )
 target_compile_options( corvane-flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
     $<$<COMPILE_LANGUAGE:CXX>:-Wmissing-declarations> $<$<COMPILE_LANGUAGE:C>:-Wmissing-prototypes>
-    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." )
+    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." "-ffile-prefix-map=${CMAKE_BINARY_DIR}=build" )
+set( CMAKE_BUILD_RPATH_USE_ORIGIN ON )
 if( CORVANE_SANITIZE )
     target_compile_options( corvane-flags INTERFACE
         "-fsanitize=${CORVANE_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer )
