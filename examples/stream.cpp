@@ -38,8 +38,8 @@ int main()
     }
     if ( int64_t left = telsxMessageStreamDecoderLength( decoder.get() ) )
     {
-        std::cerr << "stream: the input ends inside message " << messages + 1 << ", " << left
-                  << " bytes into it\n";
+        std::cerr << "stream: the input ends inside message " << messages + 1 << "; bytes left over: " << left
+                  << '\n';
         return 1;
     }
     return 0;

@@ -7,6 +7,6 @@ namespace rt
 {
 
 // Makes room for that many bytes more, counts them in, and returns where the caller writes them at once.
-unsigned char *extend( RT_BUFFER *buffer, int64_t length );
+unsigned char *extend( RT_BUFFER *handle, int64_t length );
 
 } // namespace rt

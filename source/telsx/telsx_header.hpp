@@ -20,12 +20,6 @@ int64_t linesOf( TELSX_MESSAGE_HEADER header );
 RT_STRING lineOf( TELSX_MESSAGE_HEADER header, int64_t index );
 RT_STRING lastLineOf( TELSX_MESSAGE_HEADER header );
 
-// New raw headers of a canonical name: without lines, with one, with those of a store, with those of a
-// vector.
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name );
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name, const Ref<RT_STRING> &line );
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name, const Ref<RT_VECTOR> &lines );
-
 // The raw header with the lines of a store, a new reference, or null if a line of it is none.
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store );
 
