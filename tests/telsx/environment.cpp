@@ -11,11 +11,6 @@ class Module : public testing::Environment
     void TearDown() override { rtModuleStop( telsxModule() ); }
 };
 
-// There are many death tests, and no threads beside them.
-[[maybe_unused]] testing::Environment *const module = []
-{
-    GTEST_FLAG_SET( death_test_style, "fast" );
-    return testing::AddGlobalTestEnvironment( new Module );
-}();
+[[maybe_unused]] testing::Environment *const module = testing::AddGlobalTestEnvironment( new Module );
 
 } // namespace
