@@ -52,6 +52,8 @@ static bool takeChars( Text *text, std::string_view chars )
     return true;
 }
 
+static bool isDigit( RT_CHAR ch ) { return ch >= '0' && ch <= '9'; }
+
 static bool takeNumber( Text *text, int64_t length, int64_t radix, int64_t *value )
 {
     int64_t digits;
@@ -70,12 +72,16 @@ static Found findIpV4( Text text )
     {
         if ( i > 0 && !takeChars( &rest, "." ) )
             return {};
-        Text octet = rest;
-        int64_t value;
-        if ( !takeNumber( &rest, rest.length, 10, &value ) || value > 255 )
+        if ( !rest || !isDigit( rest.chs[0] ) )
             return {};
-        if ( *octet.chs == '0' && octet.length - rest.length > 1 )
-            return {};
+        bool isZero = rest.chs[0] == '0';
+        RT_CHAR value = rest.take( 1 ).chs[0] - '0';
+        for ( ; rest && isDigit( rest.chs[0] ); rest.take( 1 ) )
+        {
+            value = value * 10 + rest.chs[0] - '0';
+            if ( isZero || value > 255 )
+                return {};
+        }
         uint16_t &group = found.groups[6 + i / 2];
         group = static_cast<uint16_t>( group << 8 | value );
     }

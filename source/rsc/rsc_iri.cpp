@@ -38,6 +38,15 @@ static constexpr auto uriChars = []
     return chars;
 }();
 
+// Those of them that a reader of an IRI needs not look at.
+static constexpr auto plainChars = []
+{
+    std::array<bool, 0x80> chars = uriChars;
+    for ( char ch : std::string_view( "#?-" ) )
+        chars[static_cast<std::size_t>( ch )] = false;
+    return chars;
+}();
+
 // RFC 3987, 2.2.
 static bool isUcschar( RT_CHAR ch )
 {
@@ -106,6 +115,10 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
         return found;
     for ( Place place; rest; place.pass( rest.take( 1 ).chs[0] ) )
     {
+        while ( rest && rest.chs[0] < 0x80 && plainChars[rest.chs[0]] && rest.chs[0] != end )
+            rest.take( 1 );
+        if ( !rest )
+            break;
         RT_CHAR ch = rest.chs[0];
         if ( ch == '%' )
         {
@@ -246,16 +259,9 @@ RT_STRING rscTryConvertToUri( RT_STRING iri )
 }
 
 // The host goes through ASCII, so that one host has one form, however it is written.
-RT_STRING rscTryConvertFromUri( RT_STRING uri )
+static Ref<RT_STRING> convertFromUri( Text uri )
 {
-    RT_ASSERT( uri );
-    Text text = textOf( uri );
-    Found found = find( text );
-    if ( found.length == 0 || found.length < text.length )
-        return nullptr;
-    if ( !found.convertible )
-        return share( uri ).take();
-    Parts parts = split( text );
+    Parts parts = split( uri );
     Place place;
     Ref<RT_STRING> iri = adopt( rtStringCreate() );
     appendDecoded( &iri, parts.front, &place );
@@ -265,7 +271,25 @@ RT_STRING rscTryConvertFromUri( RT_STRING uri )
     else
         appendDecoded( &iri, textOf( host ), &place );
     appendDecoded( &iri, parts.rest, &place );
-    return iri.take();
+    return iri;
+}
+
+RT_STRING rscTryConvertFromUri( RT_STRING uri )
+{
+    RT_ASSERT( uri );
+    Text text = textOf( uri );
+    Found found = find( text );
+    if ( found.length == 0 || found.length < text.length )
+        return nullptr;
+    return ( found.convertible ? convertFromUri( text ) : share( uri ) ).take();
+}
+
+RT_STRING rsc___TryConvertUriAtStart( const RT_CHAR *chs, int64_t length, RT_CHAR end, int64_t *found )
+{
+    Found uri = find( { chs, length }, end );
+    *found = uri.length;
+    Text text = { chs, uri.length };
+    return text ? ( uri.convertible ? convertFromUri( text ) : text.copy() ).take() : nullptr;
 }
 
 int64_t rsc___SkipIri( const RT_CHAR *chs, int64_t length )

@@ -34,6 +34,11 @@ RT_API int64_t rsc___SkipIpV4Address( const RT_CHAR *chs, int64_t length );
 RT_API int64_t rsc___SkipIpV6Address( const RT_CHAR *chs, int64_t length );
 RT_API int64_t rsc___SkipPort( const RT_CHAR *chs, int64_t length );
 
+/* rscTryConvertFromUri of the URI that SkipIriUntil finds, whose length goes to the last argument, 0 if there is
+ * none. */
+RT_API RT_STRING rsc___TryConvertUriAtStart( const RT_CHAR *chs, int64_t length, RT_CHAR end,
+                                             int64_t *found );
+
 RT_END
 
 #endif

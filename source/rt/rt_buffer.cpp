@@ -1,5 +1,5 @@
 // Buffers: one block whose bytes begin at an offset, so that taking out the first ones moves nothing.
-#include "rt/rt_buffer.hpp"
+#include "rt/rt_buffer.h"
 
 #include <algorithm>
 
@@ -79,7 +79,7 @@ static RT_BUFFER own( RT_BUFFER *handle, int64_t offset, int64_t length, int64_t
     return buffer;
 }
 
-unsigned char *rt::extend( RT_BUFFER *handle, int64_t length )
+unsigned char *rt___BufferExtend( RT_BUFFER *handle, int64_t length )
 {
     RT_CHECK( length <= PTRDIFF_MAX - ( *handle )->length, "out of memory", "length" );
     RT_BUFFER buffer = own( handle, 0, ( *handle )->length, length );
@@ -102,7 +102,7 @@ static void append( RT_BUFFER *buffer, RT_BUFFER &source, int64_t offset, int64_
 {
     if ( length == 0 )
         return;
-    unsigned char *into = rt::extend( buffer, length );
+    unsigned char *into = rt___BufferExtend( buffer, length );
     rt::copyItems( into, bytesOf( source ) + offset, length );
 }
 
@@ -154,7 +154,8 @@ void rtBufferAppendBytes( RT_BUFFER *buffer, const void *bytes, int64_t length )
     RT_ASSERT( length >= 0 );
     RT_ASSERT( bytes || length == 0 );
     if ( length )
-        rt::copyItems( rt::extend( buffer, length ), static_cast<const unsigned char *>( bytes ), length );
+        rt::copyItems( rt___BufferExtend( buffer, length ), static_cast<const unsigned char *>( bytes ),
+                       length );
 }
 
 void rtBufferAppend( RT_BUFFER *buffer, RT_BUFFER source )

@@ -1,20 +1,21 @@
 // UTF-8 (RFC 3629). Most text is ASCII, which goes in blocks that compilers turn into vector instructions.
 #include "rt/rt_charset.h"
 
-#include "rt/rt_buffer.hpp"
+#include "rt/rt_buffer.h"
 #include "rt/rt_frame.hpp"
 #include "rt/rt_string.hpp"
 
 static constexpr int64_t blockLength = 16;
 
-template <class FROM>
+template <int64_t LENGTH = blockLength, class FROM>
 static bool isAsciiBlock( const FROM *from )
 {
-    FROM block[blockLength], all = 0;
-    std::memcpy( block, from, sizeof block );
-    for ( FROM item : block )
-        all = static_cast<FROM>( all | item );
-    return all < 0x80;
+    constexpr uint64_t beyond = sizeof( FROM ) == 1 ? 0x8080808080808080 : 0xFFFFFF80FFFFFF80;
+    uint64_t words[LENGTH * sizeof( FROM ) / sizeof( uint64_t )], all = 0;
+    std::memcpy( words, from, sizeof words );
+    for ( uint64_t word : words )
+        all |= word;
+    return ( all & beyond ) == 0;
 }
 
 // By way of copies, since bytes might be part of anything.
@@ -33,9 +34,14 @@ template <class FROM>
 static bool isAscii( const FROM *from, int64_t length )
 {
     int64_t at = 0;
+    for ( ; length - at >= 4 * blockLength; at += 4 * blockLength )
+        if ( !isAsciiBlock<4 * blockLength>( from + at ) )
+            return false;
     for ( ; length - at >= blockLength; at += blockLength )
         if ( !isAsciiBlock( from + at ) )
             return false;
+    if ( at )
+        return isAsciiBlock( from + length - blockLength );
     FROM all = 0;
     for ( ; at < length; ++at )
         all = static_cast<FROM>( all | from[at] );
@@ -49,8 +55,12 @@ static void convert( const FROM *from, int64_t length, TO *to )
     int64_t at = 0;
     for ( ; length - at >= blockLength; at += blockLength )
         convertBlock( from + at, to + at );
-    for ( ; at < length; ++at )
-        to[at] = static_cast<TO>( from[at] );
+    // What is left is done with some of what is done.
+    if ( at && at < length )
+        convertBlock( from + length - blockLength, to + length - blockLength );
+    else
+        for ( ; at < length; ++at )
+            to[at] = static_cast<TO>( from[at] );
 }
 
 static bool isContinuation( unsigned char byte ) { return ( byte & 0xC0 ) == 0x80; }
@@ -143,7 +153,7 @@ static int64_t encode( const RT_CHAR *chs, int64_t length, unsigned char *into )
 
 RT_BOOL rt___Utf8Ok( const unsigned char *bytes, int64_t length )
 {
-    return decode<false>( bytes, length, nullptr ) != -1;
+    return isAscii( bytes, length ) || decode<false>( bytes, length, nullptr ) != -1;
 }
 
 int64_t rt___Utf8Length( const unsigned char *bytes, int64_t length )
@@ -184,15 +194,28 @@ RT_STRING rtStringTryCreateFromUtf8( const char *bytes, int64_t length )
     return rt___Utf8Decode( from, length, chs ) == -1 ? nullptr : string.take();
 }
 
+int64_t rt___StringUtf8Length( RT_STRING string )
+{
+    return isAscii( string->chs, string->length ) ? string->length
+                                                  : encode<false>( string->chs, string->length, nullptr );
+}
+
+int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into )
+{
+    if ( isAscii( string->chs, string->length ) )
+    {
+        convert( string->chs, string->length, into );
+        return string->length;
+    }
+    return encode<true>( string->chs, string->length, into );
+}
+
 void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string )
 {
     RT_ASSERT( buffer );
     RT_ASSERT( *buffer );
     RT_ASSERT( string );
-    if ( isAscii( string->chs, string->length ) )
-        convert( string->chs, string->length, rt::extend( buffer, string->length ) );
-    else if ( int64_t size = encode<false>( string->chs, string->length, nullptr ) )
-        encode<true>( string->chs, string->length, rt::extend( buffer, size ) );
+    rt___StringUtf8Encode( string, rt___BufferExtend( buffer, rt___StringUtf8Length( string ) ) );
 }
 
 RT_STRING rtCharsetBufferToStringWithFlags( int64_t charset, RT_BUFFER buffer, int64_t flags )

@@ -29,6 +29,11 @@ RT_API RT_BOOL rt___Utf8Ok( const unsigned char *bytes, int64_t length );
 RT_API int64_t rt___Utf8Length( const unsigned char *bytes, int64_t length );
 RT_API int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_CHAR *into );
 
+/* For the libraries above: how many bytes rtBufferAppendUtf8 appends; and those bytes, written at once, whose
+ * number it returns. */
+RT_API int64_t rt___StringUtf8Length( RT_STRING string );
+RT_API int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into );
+
 RT_END
 
 #endif

@@ -277,6 +277,12 @@ RT_OBJ rt___DictValueBorrowed( RT_DICT dict, RT_STRING key )
     return entry ? entry->value : nullptr;
 }
 
+int64_t rt___DictIndex( RT_DICT dict, RT_STRING key )
+{
+    Entry *entry = find( dict, key );
+    return entry ? entry - dict->entries : -1;
+}
+
 RT_OBJ rtDictStringKey( RT_DICT dict, RT_STRING key )
 {
     return rt::share( rt___DictValueBorrowed( dict, key ) ).take();

@@ -19,7 +19,15 @@ RT_BOOL rtFormatTryDecodeIntChars( const RT_CHAR *chs, int64_t length, int64_t r
     RT_ASSERT( radix >= 2 && radix <= 36 );
     RT_ASSERT( value );
     int64_t number = 0, count = 0;
-    for ( ; count < length; ++count )
+    // No overflow yet: 36 to the power of 12 fits.
+    for ( ; count < length && count < 12; ++count )
+    {
+        int64_t digit = digitValue( chs[count] );
+        if ( digit >= radix )
+            break;
+        number = number * radix + digit;
+    }
+    for ( ; count >= 12 && count < length; ++count )
     {
         int64_t digit = digitValue( chs[count] );
         if ( digit >= radix )

@@ -44,4 +44,39 @@ void copyItems( T *to, const T *from, int64_t count )
         std::memcpy( static_cast<void *>( to ), from, static_cast<std::size_t>( count ) * sizeof( T ) );
 }
 
+// Items without a destructor in one block that grows at its end. Zeroed bytes are an empty one.
+template <class T>
+struct Array
+{
+    T *items;
+    int64_t length, capacity;
+
+    T *begin() { return items; }
+    T *end() { return items + length; }
+    T &operator[]( int64_t index ) { return items[index]; }
+
+    void reserve( int64_t count )
+    {
+        if ( count > capacity )
+            items = reallocate( items, capacity = count );
+    }
+    T *append( const T &item )
+    {
+        if ( length == capacity )
+            reserve( grown( capacity, length + 8 ) );
+        return &( items[length++] = item );
+    }
+    void append( const Array &other )
+    {
+        reserve( length + other.length );
+        copyItems( end(), other.items, other.length );
+        length += other.length;
+    }
+    void clear()
+    {
+        std::free( items );
+        *this = {};
+    }
+};
+
 } // namespace rt

@@ -65,7 +65,11 @@ static RT_STRING createFrom( const CHAR *chars, int64_t length )
     if ( length == 0 )
         return rtStringCreate();
     RT_STRING string;
-    std::transform( chars, chars + length, rt::newString( length, &string ), widened<CHAR> );
+    RT_CHAR *into = rt::newString( length, &string );
+    if constexpr ( std::is_same_v<CHAR, RT_CHAR> )
+        std::memcpy( into, chars, static_cast<std::size_t>( length ) * sizeof( RT_CHAR ) );
+    else
+        std::transform( chars, chars + length, into, widened<CHAR> );
     return string;
 }
 
@@ -207,7 +211,7 @@ void rtStringAppend( RT_STRING *string, RT_STRING other )
     RT_ASSERT( string );
     RT_ASSERT( *string );
     RT_ASSERT( other );
-    if ( ( *string )->length == 0 )
+    if ( ( *string )->length == 0 && ( *string )->capacity < other->length )
     {
         auto old = rt::adopt( std::exchange( *string, rt::share( other ).take() ) );
         return;
@@ -408,6 +412,8 @@ template <class CHAR>
 static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, va_list args )
 {
     Format<CHAR> format = { chars, chars + lengthOf( chars, length ) };
+    static constexpr int64_t usualArguments = 32;
+    own( string, ( *string )->length + ( format.end - format.at ) + usualArguments );
     ArgList list;
     va_copy( list.args, args );
     while ( format.at != format.end )

@@ -13,22 +13,59 @@ bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name )
     return header && rtStringEquals( header->name.get(), name );
 }
 
-TELSX_MESSAGE_HEADER headerOf( TELSX_MESSAGE msg, RT_STRING name )
+HeaderLines::HeaderLines( TELSX_MESSAGE msg, HeaderName name ) : table( msg->fragment->headers.get() )
 {
-    return telsxMessageHeaderFrom( rt___DictValueBorrowed( msg->fragment->headers.get(), name ) );
+    if ( HeaderEntry *found = findHeader( table, name ) )
+    {
+        header = knownHeader( *found );
+        entry = header ? nullptr : found;
+    }
 }
 
-int64_t linesOf( TELSX_MESSAGE_HEADER header ) { return rtVectorLength( header->lines.get() ); }
-
-RT_STRING lineOf( TELSX_MESSAGE_HEADER header, int64_t index )
+bool HeaderLines::empty() const
 {
-    return rtStringFrom( rt___VectorObjBorrowed( header->lines.get(), index ) );
+    return !entry && ( !header || rtVectorLength( header->lines.get() ) == 0 );
 }
 
-RT_STRING lastLineOf( TELSX_MESSAGE_HEADER header )
+RT_STRING HeaderLines::string( const HeaderLine &line )
 {
-    int64_t length = linesOf( header );
-    return length ? lineOf( header, length - 1 ) : nullptr;
+    text = stringOf( table->lineOf( line ) );
+    return text.get();
+}
+
+// In the table the number of a line is its place in moreLines plus 1, and that of the first is 0.
+RT_STRING HeaderLines::next()
+{
+    if ( header )
+        return index < rtVectorLength( header->lines.get() )
+                   ? rtStringFrom( rt___VectorObjBorrowed( header->lines.get(), index++ ) )
+                   : nullptr;
+    if ( !entry || index == -1 )
+        return nullptr;
+    const HeaderLine &line = index == 0 ? entry->first : table->moreLines[index - 1];
+    index = line.next == -1 ? -1 : line.next + 1;
+    return string( line );
+}
+
+RT_STRING HeaderLines::last()
+{
+    if ( header )
+        index = rtIntMax( rtVectorLength( header->lines.get() ) - 1, 0 );
+    else if ( entry )
+        index = entry->last + 1;
+    return next();
+}
+
+void HeaderLines::restart() { index = 0; }
+
+bool hasHeader( TELSX_MESSAGE msg, HeaderName name )
+{
+    return findHeader( msg->fragment->headers.get(), name ) != nullptr;
+}
+
+void removeHeader( TELSX_MESSAGE *msg, HeaderName name )
+{
+    delHeader( TELSX_OWN( TELSX_OWN( msg )->fragment.address() )->headers, name );
 }
 
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store )
@@ -36,14 +73,12 @@ TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store )
     return holdsLines( store ) ? telsxMessageHeaderRestoreLines( name, store ) : nullptr;
 }
 
-void removeHeader( TELSX_MESSAGE *msg, RT_STRING name ) { telsxMessageDelHeader( msg, name ); }
-
 RT_STRING linesToString( const Ref<TELSX_MESSAGE_HEADER> &header )
 {
-    switch ( linesOf( header.get() ) )
+    switch ( rtVectorLength( header->lines.get() ) )
     {
         case 0: return rtStringCreate();
-        case 1: return share( lineOf( header.get(), 0 ) ).take();
+        case 1: return telsxMessageHeaderLineAt( header.get(), 0 );
         default: return rtVectorToString( header->lines.get() );
     }
 }

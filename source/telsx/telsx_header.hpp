@@ -1,9 +1,10 @@
-// What all typed headers share. A kind's unit writes its Encode and its TryDecode; the rest of what
+// What all typed headers share. A kind's unit writes its Encode and its decode; the rest of what
 // TELSX_HEADER declares stands on these two and comes from one line. Names are constants in their canonical
 // form, so that nothing is made to look one up.
 #pragma once
 
 #include "telsx/telsx_header.h"
+#include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_text.hpp"
 
@@ -12,19 +13,34 @@ namespace telsx
 
 bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name );
 
-// The raw header of the canonical name in the message, borrowed, or null.
-TELSX_MESSAGE_HEADER headerOf( TELSX_MESSAGE msg, RT_STRING name );
+// The lines of a header in their order, of a raw header or of a message; a message that has no such header has no
+// lines either. The strings are borrowed until the next one is asked for.
+class HeaderLines
+{
+public:
+    explicit HeaderLines( TELSX_MESSAGE_HEADER rawHeader ) : header( rawHeader ) {}
+    HeaderLines( TELSX_MESSAGE msg, HeaderName name );
 
-// The number of lines, and one of them, borrowed; the last one, or null if there is none.
-int64_t linesOf( TELSX_MESSAGE_HEADER header );
-RT_STRING lineOf( TELSX_MESSAGE_HEADER header, int64_t index );
-RT_STRING lastLineOf( TELSX_MESSAGE_HEADER header );
+    bool empty() const;
+    RT_STRING next(); // null behind the last one
+    RT_STRING last(); // null if there is none
+    void restart();
+
+private:
+    RT_STRING string( const HeaderLine &line );
+
+    TELSX_MESSAGE_HEADER header = nullptr; // or, where nobody has asked for it yet,
+    HeaderTable *table = nullptr;          // the table that it stands in,
+    const HeaderEntry *entry = nullptr;    // and where there
+    int64_t index = 0;                     // of the next line
+    Ref<RT_STRING> text;                   // of the last line that was read in the table
+};
 
 // The raw header with the lines of a store, a new reference, or null if a line of it is none.
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store );
 
-// Removes the header of a canonical name.
-void removeHeader( TELSX_MESSAGE *msg, RT_STRING name );
+bool hasHeader( TELSX_MESSAGE msg, HeaderName name );
+void removeHeader( TELSX_MESSAGE *msg, HeaderName name );
 
 // The lines alone: none is an empty text, one is itself, more are as the runtime shows a vector.
 RT_STRING linesToString( const Ref<TELSX_MESSAGE_HEADER> &header );
@@ -40,17 +56,20 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
 
 } // namespace telsx
 
-// The start of every TryDecode: the raw header must bear the kind's name.
-#define TELSX_ASSERT_NAME( SIP_NAME )                                           \
-    TELSX_CHECK( telsx::hasName( header, telsx::literal<SIP_NAME>() ), nullptr, \
-                 "telsxMessageHeaderNameEqualsCstr( header, \"" SIP_NAME "\", -1 )" )
-
-// The store, message and text functions of the kind.
+// The decoding, store, message and text functions of the kind; decode is the unit's.
 #define TELSX_DEFINE_HEADER( NAME, SIP_NAME )                                                       \
     RT_STORE telsx##NAME##Store( TELSX_HANDLE( NAME ) hdr )                                         \
     {                                                                                               \
         TELSX_ASSERT( hdr );                                                                        \
         return telsxMessageHeaderStoreLines( telsx::adopt( telsx##NAME##Encode( hdr ) ).get() );    \
+    }                                                                                               \
+    static TELSX_HANDLE( NAME ) decode( telsx::HeaderLines &lines );                                \
+    TELSX_HANDLE( NAME ) telsx##NAME##TryDecode( TELSX_MESSAGE_HEADER header )                      \
+    {                                                                                               \
+        TELSX_CHECK( telsx::hasName( header, telsx::literal<SIP_NAME>() ), nullptr,                 \
+                     "telsxMessageHeaderNameEqualsCstr( header, \"" SIP_NAME "\", -1 )" );          \
+        telsx::HeaderLines lines( header );                                                         \
+        return decode( lines );                                                                     \
     }                                                                                               \
     TELSX_HANDLE( NAME ) telsx##NAME##TryRestore( RT_STORE store )                                  \
     {                                                                                               \
@@ -61,7 +80,7 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
     RT_BOOL telsx##NAME##PresentInMessage( TELSX_MESSAGE msg )                                      \
     {                                                                                               \
         TELSX_ASSERT( msg );                                                                        \
-        return telsx::headerOf( msg, telsx::literal<SIP_NAME>() ) != nullptr;                       \
+        return telsx::hasHeader( msg, telsx::headerName<SIP_NAME>() );                              \
     }                                                                                               \
     void telsx##NAME##EncodeToMessage( TELSX_HANDLE( NAME ) hdr, TELSX_MESSAGE *msg )               \
     {                                                                                               \
@@ -72,13 +91,13 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
     TELSX_HANDLE( NAME ) telsx##NAME##TryDecodeFromMessage( TELSX_MESSAGE msg )                     \
     {                                                                                               \
         TELSX_ASSERT( msg );                                                                        \
-        TELSX_MESSAGE_HEADER header = telsx::headerOf( msg, telsx::literal<SIP_NAME>() );           \
-        return header && telsx::linesOf( header ) ? telsx##NAME##TryDecode( header ) : nullptr;     \
+        telsx::HeaderLines lines( msg, telsx::headerName<SIP_NAME>() );                             \
+        return lines.empty() ? nullptr : decode( lines );                                           \
     }                                                                                               \
     void telsx##NAME##RemoveFromMessage( TELSX_MESSAGE *msg )                                       \
     {                                                                                               \
         TELSX_ASSERT_HANDLE( msg );                                                                 \
-        telsx::removeHeader( msg, telsx::literal<SIP_NAME>() );                                     \
+        telsx::removeHeader( msg, telsx::headerName<SIP_NAME>() );                                  \
     }                                                                                               \
     RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj )                                            \
     {                                                                                               \

@@ -27,10 +27,9 @@ TELSX_MESSAGE_HEADER telsxHeaderAcceptEncode( TELSX_HEADER_ACCEPT hdr )
     return createHeader( literal<"Accept">(), hdr->values );
 }
 
-TELSX_HEADER_ACCEPT telsxHeaderAcceptTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ACCEPT decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Accept" );
     Ref<TELSX_HEADER_ACCEPT> hdr = adopt( telsxHeaderAcceptCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipAccept, WithoutLines::isNull ) ? hdr.take()
-                                                                                         : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipAccept, WithoutLines::isNull ) ? hdr.take()
+                                                                                        : nullptr;
 }

@@ -28,10 +28,9 @@ TELSX_MESSAGE_HEADER telsxHeaderAcceptEncodingEncode( TELSX_HEADER_ACCEPT_ENCODI
     return createHeader( literal<"Accept-Encoding">(), hdr->values );
 }
 
-TELSX_HEADER_ACCEPT_ENCODING telsxHeaderAcceptEncodingTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ACCEPT_ENCODING decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Accept-Encoding" );
     Ref<TELSX_HEADER_ACCEPT_ENCODING> hdr = adopt( telsxHeaderAcceptEncodingCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipAcceptEncoding, WithoutLines::isNull ) ? hdr.take()
-                                                                                                 : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipAcceptEncoding, WithoutLines::isNull ) ? hdr.take()
+                                                                                                : nullptr;
 }

@@ -27,10 +27,9 @@ TELSX_MESSAGE_HEADER telsxHeaderAlertInfoEncode( TELSX_HEADER_ALERT_INFO hdr )
     return createHeader( literal<"Alert-Info">(), hdr->values );
 }
 
-TELSX_HEADER_ALERT_INFO telsxHeaderAlertInfoTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ALERT_INFO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Alert-Info" );
     Ref<TELSX_HEADER_ALERT_INFO> hdr = adopt( telsxHeaderAlertInfoCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipAlertInfo, WithoutLines::isNull ) ? hdr.take()
-                                                                                            : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipAlertInfo, WithoutLines::isNull ) ? hdr.take()
+                                                                                           : nullptr;
 }

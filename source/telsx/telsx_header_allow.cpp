@@ -32,9 +32,8 @@ TELSX_MESSAGE_HEADER telsxHeaderAllowEncode( TELSX_HEADER_ALLOW hdr )
     return encodeTokens( literal<"Allow">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_ALLOW telsxHeaderAllowTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ALLOW decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Allow" );
     Ref<TELSX_HEADER_ALLOW> hdr = adopt( telsxHeaderAllowCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipMethod, asItIs, comma ) ? hdr.take() : nullptr;
+    return decodeTokens( hdr->tokens, lines, telsx___SkipMethod, asItIs, comma ) ? hdr.take() : nullptr;
 }

@@ -30,9 +30,8 @@ TELSX_MESSAGE_HEADER telsxHeaderAllowEventsEncode( TELSX_HEADER_ALLOW_EVENTS hdr
     return encodeTokens( literal<"Allow-Events">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_ALLOW_EVENTS telsxHeaderAllowEventsTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ALLOW_EVENTS decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Allow-Events" );
     Ref<TELSX_HEADER_ALLOW_EVENTS> hdr = adopt( telsxHeaderAllowEventsCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipEventType, asItIs, comma ) ? hdr.take() : nullptr;
+    return decodeTokens( hdr->tokens, lines, telsx___SkipEventType, asItIs, comma ) ? hdr.take() : nullptr;
 }

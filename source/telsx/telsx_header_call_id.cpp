@@ -17,12 +17,17 @@ struct TELSX_HEADER_CALL_ID_
 TELSX_DEFINE_HEADER_OBJECT( HeaderCallId, HEADER_CALL_ID, id, "Call-Id" )
 TELSX_DEFINE_FIELD( HeaderCallId, hdr, CallId, callId, telsxCallIdOk( callId ) )
 
-TELSX_HEADER_CALL_ID telsxHeaderCallIdCreate( RT_STRING callId )
+static TELSX_HEADER_CALL_ID create( RT_STRING callId )
 {
-    TELSX_ASSERT( telsxCallIdOk( callId ) );
     TELSX_HEADER_CALL_ID hdr = rt::create<TELSX_HEADER_CALL_ID_>( telsxHeaderCallIdSort() );
     hdr->callId = share( callId );
     return hdr;
+}
+
+TELSX_HEADER_CALL_ID telsxHeaderCallIdCreate( RT_STRING callId )
+{
+    TELSX_ASSERT( telsxCallIdOk( callId ) );
+    return create( callId );
 }
 
 TELSX_MESSAGE_HEADER telsxHeaderCallIdEncode( TELSX_HEADER_CALL_ID hdr )
@@ -31,9 +36,8 @@ TELSX_MESSAGE_HEADER telsxHeaderCallIdEncode( TELSX_HEADER_CALL_ID hdr )
     return createHeader( literal<"Call-Id">(), hdr->callId );
 }
 
-TELSX_HEADER_CALL_ID telsxHeaderCallIdTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_CALL_ID decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Call-Id" );
-    RT_STRING line = lastLineOf( header );
-    return line && telsxCallIdOk( line ) ? telsxHeaderCallIdCreate( line ) : nullptr;
+    RT_STRING line = lines.last();
+    return line && telsxCallIdOk( line ) ? create( line ) : nullptr;
 }

@@ -27,10 +27,9 @@ TELSX_MESSAGE_HEADER telsxHeaderCallInfoEncode( TELSX_HEADER_CALL_INFO hdr )
     return createHeader( literal<"Call-Info">(), hdr->values );
 }
 
-TELSX_HEADER_CALL_INFO telsxHeaderCallInfoTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_CALL_INFO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Call-Info" );
     Ref<TELSX_HEADER_CALL_INFO> hdr = adopt( telsxHeaderCallInfoCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipCallInfo, WithoutLines::isNull ) ? hdr.take()
-                                                                                           : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipCallInfo, WithoutLines::isNull ) ? hdr.take()
+                                                                                          : nullptr;
 }

@@ -39,20 +39,20 @@ TELSX_MESSAGE_HEADER telsxHeaderContactEncode( TELSX_HEADER_CONTACT hdr )
     return createHeader( literal<"Contact">(), hdr->values );
 }
 
-TELSX_HEADER_CONTACT telsxHeaderContactTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_CONTACT decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Contact" );
     Ref<TELSX_HEADER_CONTACT> hdr = adopt( telsxHeaderContactCreate() );
-    Text first = linesOf( header ) ? textOf( lineOf( header, 0 ) ) : Text();
+    RT_STRING line = lines.next();
+    Text first = line ? textOf( line ) : Text();
     if ( !first.take( telsx___SkipStar ) )
-        return decodeValues( hdr->values, header, telsx___SkipContact, WithoutLines::isNull ) ? hdr.take()
-                                                                                              : nullptr;
+        return decodeValues( hdr->values, lines, telsx___SkipContact, WithoutLines::isNull ) ? hdr.take()
+                                                                                             : nullptr;
 
     // Nothing may stand beside the star, neither on its line nor on another.
     if ( first )
         return nullptr;
-    for ( int64_t i = 1; i < linesOf( header ); ++i )
-        if ( rtStringLength( lineOf( header, i ) ) )
+    while ( RT_STRING other = lines.next() )
+        if ( rtStringLength( other ) )
             return nullptr;
     hdr->starForm = 1;
     return hdr.take();

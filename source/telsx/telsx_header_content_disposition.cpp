@@ -50,10 +50,9 @@ TELSX_MESSAGE_HEADER telsxHeaderContentDispositionEncode( TELSX_HEADER_CONTENT_D
     return createHeader( literal<"Content-Disposition">(), line );
 }
 
-TELSX_HEADER_CONTENT_DISPOSITION telsxHeaderContentDispositionTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_CONTENT_DISPOSITION decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Content-Disposition" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -98,13 +98,12 @@ TELSX_MESSAGE_HEADER telsxHeaderContentEncodingEncode( TELSX_HEADER_CONTENT_ENCO
     return createHeaderOfItems( literal<"Content-Encoding">(), hdr->contentCodings, ',' );
 }
 
-TELSX_HEADER_CONTENT_ENCODING telsxHeaderContentEncodingTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_CONTENT_ENCODING decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Content-Encoding" );
-    if ( linesOf( header ) == 0 )
+    if ( lines.empty() )
         return nullptr;
     Ref<TELSX_HEADER_CONTENT_ENCODING> hdr = adopt( telsxHeaderContentEncodingCreate() );
-    ItemReader codings( header, telsx___SkipContentCoding, telsx___SkipComma );
+    ItemReader codings( lines, telsx___SkipContentCoding, telsx___SkipComma );
     while ( codings.next() )
         telsxHeaderContentEncodingAppendContentCoding( hdr.address(), codings.item().get() );
     return codings.failed() ? nullptr : hdr.take();

@@ -35,14 +35,19 @@ void telsxHeaderCseqSetMethod( TELSX_HEADER_CSEQ *cs, RT_STRING method )
     rt::put( TELSX_OWN( cs )->method, method );
 }
 
-TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
+static TELSX_HEADER_CSEQ create( int64_t cseq, RT_STRING method )
 {
-    TELSX_ASSERT( telsxCseqOk( cseq ) );
-    TELSX_ASSERT( telsxMethodOk( method ) );
     TELSX_HEADER_CSEQ hdr = rt::create<TELSX_HEADER_CSEQ_>( telsxHeaderCseqSort() );
     hdr->cseq = cseq;
     hdr->method = share( method );
     return hdr;
+}
+
+TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
+{
+    TELSX_ASSERT( telsxCseqOk( cseq ) );
+    TELSX_ASSERT( telsxMethodOk( method ) );
+    return create( cseq, method );
 }
 
 TELSX_MESSAGE_HEADER telsxHeaderCseqEncode( TELSX_HEADER_CSEQ hdr )
@@ -52,17 +57,16 @@ TELSX_MESSAGE_HEADER telsxHeaderCseqEncode( TELSX_HEADER_CSEQ hdr )
                          adopt( rtStringCreateFromFormatCstr( "%i %s", -1, hdr->cseq, hdr->method.get() ) ) );
 }
 
-TELSX_HEADER_CSEQ telsxHeaderCseqTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_CSEQ decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Cseq" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );
     int64_t cseq = tryDecodeNumber( rest.take( telsx___SkipDigits ), telsxCseqOk );
     if ( cseq == -1 || !rest.take( telsx___SkipLws ) || !covers( telsx___SkipMethod, rest ) )
         return nullptr;
-    return telsxHeaderCseqCreate( cseq, rest.copy().get() );
+    return create( cseq, rest.copy().get() );
 }
 
 void telsxHeaderCseqSetMethodCstr( TELSX_HEADER_CSEQ *hdr, const char *chars, int64_t length )

@@ -74,10 +74,9 @@ static bool takeName( Text &rest, int64_t ( *skip )( const RT_CHAR *, int64_t, i
     return bool( rest.take( skip( rest.chs, rest.length, &number ) ) );
 }
 
-TELSX_HEADER_DATE telsxHeaderDateTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_DATE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Date" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -27,10 +27,9 @@ TELSX_MESSAGE_HEADER telsxHeaderDiversionEncode( TELSX_HEADER_DIVERSION hdr )
     return createHeader( literal<"Diversion">(), hdr->values );
 }
 
-TELSX_HEADER_DIVERSION telsxHeaderDiversionTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_DIVERSION decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Diversion" );
     Ref<TELSX_HEADER_DIVERSION> hdr = adopt( telsxHeaderDiversionCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipDiversion, WithoutLines::isNull ) ? hdr.take()
-                                                                                            : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipDiversion, WithoutLines::isNull ) ? hdr.take()
+                                                                                           : nullptr;
 }

@@ -27,10 +27,9 @@ TELSX_MESSAGE_HEADER telsxHeaderErrorInfoEncode( TELSX_HEADER_ERROR_INFO hdr )
     return createHeader( literal<"Error-Info">(), hdr->values );
 }
 
-TELSX_HEADER_ERROR_INFO telsxHeaderErrorInfoTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ERROR_INFO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Error-Info" );
     Ref<TELSX_HEADER_ERROR_INFO> hdr = adopt( telsxHeaderErrorInfoCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipErrorInfo, WithoutLines::isNull ) ? hdr.take()
-                                                                                            : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipErrorInfo, WithoutLines::isNull ) ? hdr.take()
+                                                                                           : nullptr;
 }

@@ -51,10 +51,9 @@ TELSX_MESSAGE_HEADER telsxHeaderEventEncode( TELSX_HEADER_EVENT hdr )
     return createHeader( literal<"Event">(), line );
 }
 
-TELSX_HEADER_EVENT telsxHeaderEventTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_EVENT decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Event" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -34,10 +34,9 @@ TELSX_MESSAGE_HEADER telsxHeaderExpiresEncode( TELSX_HEADER_EXPIRES hdr )
     return createHeader( literal<"Expires">(), adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) ) );
 }
 
-TELSX_HEADER_EXPIRES telsxHeaderExpiresTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_EXPIRES decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Expires" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     int64_t deltaSeconds = textOf( line ).as( telsx___DeltaSecondsTryDecode );

@@ -49,10 +49,9 @@ TELSX_MESSAGE_HEADER telsxHeaderFromEncode( TELSX_HEADER_FROM hdr )
     return createHeader( literal<"From">(), encodeFromTo( *hdr ) );
 }
 
-TELSX_HEADER_FROM telsxHeaderFromTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_FROM decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "From" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     Ref<TELSX_HEADER_FROM> hdr = adopt( create() );
     return line && decodeFromTo( *hdr.get(), textOf( line ) ) ? hdr.take() : nullptr;
 }

@@ -28,10 +28,9 @@ TELSX_MESSAGE_HEADER telsxHeaderHistoryInfoEncode( TELSX_HEADER_HISTORY_INFO hdr
     return createHeader( literal<"History-Info">(), hdr->values );
 }
 
-TELSX_HEADER_HISTORY_INFO telsxHeaderHistoryInfoTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_HISTORY_INFO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "History-Info" );
     Ref<TELSX_HEADER_HISTORY_INFO> hdr = adopt( telsxHeaderHistoryInfoCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipHistoryInfo, WithoutLines::isNull ) ? hdr.take()
-                                                                                              : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipHistoryInfo, WithoutLines::isNull ) ? hdr.take()
+                                                                                             : nullptr;
 }

@@ -30,9 +30,8 @@ TELSX_MESSAGE_HEADER telsxHeaderInReplyToEncode( TELSX_HEADER_IN_REPLY_TO hdr )
     return encodeTokens( literal<"In-Reply-To">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_IN_REPLY_TO telsxHeaderInReplyToTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_IN_REPLY_TO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "In-Reply-To" );
     Ref<TELSX_HEADER_IN_REPLY_TO> hdr = adopt( telsxHeaderInReplyToCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipCallId, asItIs, comma ) ? hdr.take() : nullptr;
+    return decodeTokens( hdr->tokens, lines, telsx___SkipCallId, asItIs, comma ) ? hdr.take() : nullptr;
 }

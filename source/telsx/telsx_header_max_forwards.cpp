@@ -35,10 +35,9 @@ TELSX_MESSAGE_HEADER telsxHeaderMaxForwardsEncode( TELSX_HEADER_MAX_FORWARDS hdr
     return createHeader( literal<"Max-Forwards">(), adopt( encodeNumber( hdr->maxForwards ) ) );
 }
 
-TELSX_HEADER_MAX_FORWARDS telsxHeaderMaxForwardsTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_MAX_FORWARDS decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Max-Forwards" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     int64_t maxForwards = tryDecodeNumber( textOf( line ), telsxMaxForwardsOk );

@@ -34,10 +34,9 @@ TELSX_MESSAGE_HEADER telsxHeaderMinExpiresEncode( TELSX_HEADER_MIN_EXPIRES hdr )
     return createHeader( literal<"Min-Expires">(), adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) ) );
 }
 
-TELSX_HEADER_MIN_EXPIRES telsxHeaderMinExpiresTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_MIN_EXPIRES decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Min-Expires" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     int64_t deltaSeconds = textOf( line ).as( telsx___DeltaSecondsTryDecode );

@@ -37,10 +37,9 @@ TELSX_MESSAGE_HEADER telsxHeaderMinSeEncode( TELSX_HEADER_MIN_SE hdr )
     return createHeader( literal<"Min-Se">(), line );
 }
 
-TELSX_HEADER_MIN_SE telsxHeaderMinSeTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_MIN_SE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Min-Se" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

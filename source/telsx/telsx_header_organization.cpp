@@ -32,9 +32,8 @@ TELSX_MESSAGE_HEADER telsxHeaderOrganizationEncode( TELSX_HEADER_ORGANIZATION hd
     return createHeader( literal<"Organization">(), hdr->organization );
 }
 
-TELSX_HEADER_ORGANIZATION telsxHeaderOrganizationTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ORGANIZATION decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Organization" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     return line && telsxOrganizationOk( line ) ? telsxHeaderOrganizationCreate( line ) : nullptr;
 }

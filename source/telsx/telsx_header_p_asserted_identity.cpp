@@ -28,10 +28,9 @@ TELSX_MESSAGE_HEADER telsxHeaderPAssertedIdentityEncode( TELSX_HEADER_P_ASSERTED
     return createHeader( literal<"P-Asserted-Identity">(), hdr->values );
 }
 
-TELSX_HEADER_P_ASSERTED_IDENTITY telsxHeaderPAssertedIdentityTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_P_ASSERTED_IDENTITY decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "P-Asserted-Identity" );
     Ref<TELSX_HEADER_P_ASSERTED_IDENTITY> hdr = adopt( telsxHeaderPAssertedIdentityCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipIdentityValue, WithoutLines::isNull ) ? hdr.take()
-                                                                                                : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipIdentityValue, WithoutLines::isNull ) ? hdr.take()
+                                                                                               : nullptr;
 }

@@ -37,10 +37,9 @@ TELSX_MESSAGE_HEADER telsxHeaderPCalledPartyIdEncode( TELSX_HEADER_P_CALLED_PART
     return createHeader( literal<"P-Called-Party-Id">(), encodeParty( *hdr ) );
 }
 
-TELSX_HEADER_P_CALLED_PARTY_ID telsxHeaderPCalledPartyIdTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_P_CALLED_PARTY_ID decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "P-Called-Party-Id" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Ref<TELSX_HEADER_P_CALLED_PARTY_ID> hdr = adopt( create() );

@@ -29,10 +29,9 @@ TELSX_MESSAGE_HEADER telsxHeaderPPreferredIdentityEncode( TELSX_HEADER_P_PREFERR
     return createHeader( literal<"P-Preferred-Identity">(), hdr->values );
 }
 
-TELSX_HEADER_P_PREFERRED_IDENTITY telsxHeaderPPreferredIdentityTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_P_PREFERRED_IDENTITY decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "P-Preferred-Identity" );
     Ref<TELSX_HEADER_P_PREFERRED_IDENTITY> hdr = adopt( telsxHeaderPPreferredIdentityCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipIdentityValue, WithoutLines::isNull ) ? hdr.take()
-                                                                                                : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipIdentityValue, WithoutLines::isNull ) ? hdr.take()
+                                                                                               : nullptr;
 }

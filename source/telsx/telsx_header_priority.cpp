@@ -52,9 +52,8 @@ TELSX_MESSAGE_HEADER telsxHeaderPriorityEncode( TELSX_HEADER_PRIORITY hdr )
     return createHeader( literal<"Priority">(), hdr->priorityValue );
 }
 
-TELSX_HEADER_PRIORITY telsxHeaderPriorityTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_PRIORITY decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Priority" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     return line && telsxPriorityValueOk( line ) ? telsxHeaderPriorityCreate( line ) : nullptr;
 }

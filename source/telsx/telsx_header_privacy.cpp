@@ -32,11 +32,10 @@ TELSX_MESSAGE_HEADER telsxHeaderPrivacyEncode( TELSX_HEADER_PRIVACY hdr )
     return encodeTokens( literal<"Privacy">(), hdr->tokens, semicolon );
 }
 
-TELSX_HEADER_PRIVACY telsxHeaderPrivacyTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_PRIVACY decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Privacy" );
     Ref<TELSX_HEADER_PRIVACY> hdr = adopt( telsxHeaderPrivacyCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipPrivValue, telsxPrivValueNormalize, semicolon )
+    return decodeTokens( hdr->tokens, lines, telsx___SkipPrivValue, telsxPrivValueNormalize, semicolon )
                ? hdr.take()
                : nullptr;
 }

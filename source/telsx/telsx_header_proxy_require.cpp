@@ -30,11 +30,10 @@ TELSX_MESSAGE_HEADER telsxHeaderProxyRequireEncode( TELSX_HEADER_PROXY_REQUIRE h
     return encodeTokens( literal<"Proxy-Require">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_PROXY_REQUIRE telsxHeaderProxyRequireTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_PROXY_REQUIRE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Proxy-Require" );
     Ref<TELSX_HEADER_PROXY_REQUIRE> hdr = adopt( telsxHeaderProxyRequireCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
+    return decodeTokens( hdr->tokens, lines, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
                ? hdr.take()
                : nullptr;
 }

@@ -44,10 +44,9 @@ TELSX_MESSAGE_HEADER telsxHeaderRackEncode( TELSX_HEADER_RACK hdr )
                                                               hdr->method.get() ) ) );
 }
 
-TELSX_HEADER_RACK telsxHeaderRackTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_RACK decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Rack" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -27,10 +27,9 @@ TELSX_MESSAGE_HEADER telsxHeaderReasonEncode( TELSX_HEADER_REASON hdr )
     return createHeader( literal<"Reason">(), hdr->values );
 }
 
-TELSX_HEADER_REASON telsxHeaderReasonTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REASON decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Reason" );
     Ref<TELSX_HEADER_REASON> hdr = adopt( telsxHeaderReasonCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipReason, WithoutLines::isNull ) ? hdr.take()
-                                                                                         : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipReason, WithoutLines::isNull ) ? hdr.take()
+                                                                                        : nullptr;
 }

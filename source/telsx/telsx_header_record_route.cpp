@@ -27,10 +27,8 @@ TELSX_MESSAGE_HEADER telsxHeaderRecordRouteEncode( TELSX_HEADER_RECORD_ROUTE hdr
     return createHeader( literal<"Record-Route">(), hdr->values );
 }
 
-TELSX_HEADER_RECORD_ROUTE telsxHeaderRecordRouteTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_RECORD_ROUTE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Record-Route" );
     Ref<TELSX_HEADER_RECORD_ROUTE> hdr = adopt( telsxHeaderRecordRouteCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipRoute, WithoutLines::isNull ) ? hdr.take()
-                                                                                        : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipRoute, WithoutLines::isNull ) ? hdr.take() : nullptr;
 }

@@ -37,10 +37,9 @@ TELSX_MESSAGE_HEADER telsxHeaderReferToEncode( TELSX_HEADER_REFER_TO hdr )
     return createHeader( literal<"Refer-To">(), encodeParty( *hdr ) );
 }
 
-TELSX_HEADER_REFER_TO telsxHeaderReferToTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REFER_TO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Refer-To" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Ref<TELSX_HEADER_REFER_TO> hdr = adopt( create() );
@@ -53,7 +52,7 @@ TELSX_HEADER_REFER_TO telsxHeaderReferToTryDecode( TELSX_MESSAGE_HEADER header )
     if ( !address.inBrackets && telsx___SkipGenericParams( rest.chs, rest.length ) != rest.length )
     {
         rest = textOf( line );
-        if ( !takeAddress( rest, address, telsx___SkipUri ) )
+        if ( !takeAddress( rest, address, UINT32_MAX ) )
             return nullptr;
     }
     return decodeParty( *hdr.get(), std::move( address ), rest ) ? hdr.take() : nullptr;

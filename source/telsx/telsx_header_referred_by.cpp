@@ -57,10 +57,9 @@ TELSX_MESSAGE_HEADER telsxHeaderReferredByEncode( TELSX_HEADER_REFERRED_BY hdr )
     return createHeader( literal<"Referred-By">(), line );
 }
 
-TELSX_HEADER_REFERRED_BY telsxHeaderReferredByTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REFERRED_BY decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Referred-By" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

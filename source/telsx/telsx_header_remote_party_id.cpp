@@ -37,10 +37,9 @@ TELSX_MESSAGE_HEADER telsxHeaderRemotePartyIdEncode( TELSX_HEADER_REMOTE_PARTY_I
     return createHeader( literal<"Remote-Party-Id">(), encodeParty( *hdr ) );
 }
 
-TELSX_HEADER_REMOTE_PARTY_ID telsxHeaderRemotePartyIdTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REMOTE_PARTY_ID decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Remote-Party-Id" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Ref<TELSX_HEADER_REMOTE_PARTY_ID> hdr = adopt( create() );

@@ -79,10 +79,9 @@ TELSX_MESSAGE_HEADER telsxHeaderReplacesEncode( TELSX_HEADER_REPLACES hdr )
     return createHeader( literal<"Replaces">(), line );
 }
 
-TELSX_HEADER_REPLACES telsxHeaderReplacesTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REPLACES decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Replaces" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

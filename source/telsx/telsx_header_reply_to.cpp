@@ -37,10 +37,9 @@ TELSX_MESSAGE_HEADER telsxHeaderReplyToEncode( TELSX_HEADER_REPLY_TO hdr )
     return createHeader( literal<"Reply-To">(), encodeParty( *hdr ) );
 }
 
-TELSX_HEADER_REPLY_TO telsxHeaderReplyToTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REPLY_TO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Reply-To" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Ref<TELSX_HEADER_REPLY_TO> hdr = adopt( create() );

@@ -32,11 +32,10 @@ TELSX_MESSAGE_HEADER telsxHeaderRequireEncode( TELSX_HEADER_REQUIRE hdr )
     return encodeTokens( literal<"Require">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_REQUIRE telsxHeaderRequireTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_REQUIRE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Require" );
     Ref<TELSX_HEADER_REQUIRE> hdr = adopt( telsxHeaderRequireCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
+    return decodeTokens( hdr->tokens, lines, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
                ? hdr.take()
                : nullptr;
 }

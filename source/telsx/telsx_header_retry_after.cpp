@@ -54,10 +54,9 @@ TELSX_MESSAGE_HEADER telsxHeaderRetryAfterEncode( TELSX_HEADER_RETRY_AFTER hdr )
     return createHeader( literal<"Retry-After">(), line );
 }
 
-TELSX_HEADER_RETRY_AFTER telsxHeaderRetryAfterTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_RETRY_AFTER decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Retry-After" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -27,10 +27,8 @@ TELSX_MESSAGE_HEADER telsxHeaderRouteEncode( TELSX_HEADER_ROUTE hdr )
     return createHeader( literal<"Route">(), hdr->values );
 }
 
-TELSX_HEADER_ROUTE telsxHeaderRouteTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_ROUTE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Route" );
     Ref<TELSX_HEADER_ROUTE> hdr = adopt( telsxHeaderRouteCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipRoute, WithoutLines::isNull ) ? hdr.take()
-                                                                                        : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipRoute, WithoutLines::isNull ) ? hdr.take() : nullptr;
 }

@@ -32,10 +32,9 @@ TELSX_MESSAGE_HEADER telsxHeaderRseqEncode( TELSX_HEADER_RSEQ hdr )
     return createHeader( literal<"Rseq">(), adopt( encodeNumber( hdr->responseNum ) ) );
 }
 
-TELSX_HEADER_RSEQ telsxHeaderRseqTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_RSEQ decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Rseq" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     int64_t responseNum = tryDecodeNumber( textOf( line ), telsxResponseNumOk );

@@ -31,9 +31,8 @@ TELSX_MESSAGE_HEADER telsxHeaderServerEncode( TELSX_HEADER_SERVER hdr )
     return createHeader( literal<"Server">(), hdr->server );
 }
 
-TELSX_HEADER_SERVER telsxHeaderServerTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_SERVER decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Server" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     return line && telsxServerOk( line ) ? telsxHeaderServerCreate( line ) : nullptr;
 }

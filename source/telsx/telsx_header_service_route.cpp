@@ -27,10 +27,8 @@ TELSX_MESSAGE_HEADER telsxHeaderServiceRouteEncode( TELSX_HEADER_SERVICE_ROUTE h
     return createHeader( literal<"Service-Route">(), hdr->values );
 }
 
-TELSX_HEADER_SERVICE_ROUTE telsxHeaderServiceRouteTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_SERVICE_ROUTE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Service-Route" );
     Ref<TELSX_HEADER_SERVICE_ROUTE> hdr = adopt( telsxHeaderServiceRouteCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipRoute, WithoutLines::isNull ) ? hdr.take()
-                                                                                        : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipRoute, WithoutLines::isNull ) ? hdr.take() : nullptr;
 }

@@ -50,10 +50,9 @@ TELSX_MESSAGE_HEADER telsxHeaderSessionExpiresEncode( TELSX_HEADER_SESSION_EXPIR
     return createHeader( literal<"Session-Expires">(), line );
 }
 
-TELSX_HEADER_SESSION_EXPIRES telsxHeaderSessionExpiresTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_SESSION_EXPIRES decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Session-Expires" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -31,9 +31,8 @@ TELSX_MESSAGE_HEADER telsxHeaderSubjectEncode( TELSX_HEADER_SUBJECT hdr )
     return createHeader( literal<"Subject">(), hdr->subject );
 }
 
-TELSX_HEADER_SUBJECT telsxHeaderSubjectTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_SUBJECT decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Subject" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     return line && telsxSubjectOk( line ) ? telsxHeaderSubjectCreate( line ) : nullptr;
 }

@@ -80,10 +80,9 @@ TELSX_MESSAGE_HEADER telsxHeaderSubscriptionStateEncode( TELSX_HEADER_SUBSCRIPTI
     return createHeader( literal<"Subscription-State">(), line );
 }
 
-TELSX_HEADER_SUBSCRIPTION_STATE telsxHeaderSubscriptionStateTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_SUBSCRIPTION_STATE decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Subscription-State" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     if ( !line )
         return nullptr;
     Text rest = textOf( line );

@@ -32,11 +32,10 @@ TELSX_MESSAGE_HEADER telsxHeaderSupportedEncode( TELSX_HEADER_SUPPORTED hdr )
     return encodeTokens( literal<"Supported">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_SUPPORTED telsxHeaderSupportedTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_SUPPORTED decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Supported" );
     Ref<TELSX_HEADER_SUPPORTED> hdr = adopt( telsxHeaderSupportedCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
+    return decodeTokens( hdr->tokens, lines, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
                ? hdr.take()
                : nullptr;
 }

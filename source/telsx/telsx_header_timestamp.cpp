@@ -32,9 +32,8 @@ TELSX_MESSAGE_HEADER telsxHeaderTimestampEncode( TELSX_HEADER_TIMESTAMP hdr )
     return createHeader( literal<"Timestamp">(), hdr->timestampValue );
 }
 
-TELSX_HEADER_TIMESTAMP telsxHeaderTimestampTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_TIMESTAMP decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Timestamp" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     return line && telsxTimestampValueOk( line ) ? telsxHeaderTimestampCreate( line ) : nullptr;
 }

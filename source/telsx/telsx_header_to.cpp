@@ -49,10 +49,9 @@ TELSX_MESSAGE_HEADER telsxHeaderToEncode( TELSX_HEADER_TO hdr )
     return createHeader( literal<"To">(), encodeFromTo( *hdr ) );
 }
 
-TELSX_HEADER_TO telsxHeaderToTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_TO decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "To" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     Ref<TELSX_HEADER_TO> hdr = adopt( create() );
     return line && decodeFromTo( *hdr.get(), textOf( line ) ) ? hdr.take() : nullptr;
 }

@@ -30,11 +30,10 @@ TELSX_MESSAGE_HEADER telsxHeaderUnsupportedEncode( TELSX_HEADER_UNSUPPORTED hdr 
     return encodeTokens( literal<"Unsupported">(), hdr->tokens, comma );
 }
 
-TELSX_HEADER_UNSUPPORTED telsxHeaderUnsupportedTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_UNSUPPORTED decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Unsupported" );
     Ref<TELSX_HEADER_UNSUPPORTED> hdr = adopt( telsxHeaderUnsupportedCreate() );
-    return decodeTokens( hdr->tokens, header, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
+    return decodeTokens( hdr->tokens, lines, telsx___SkipOptionTag, telsxOptionTagNormalize, comma )
                ? hdr.take()
                : nullptr;
 }

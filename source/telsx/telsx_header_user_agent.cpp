@@ -31,9 +31,8 @@ TELSX_MESSAGE_HEADER telsxHeaderUserAgentEncode( TELSX_HEADER_USER_AGENT hdr )
     return createHeader( literal<"User-Agent">(), hdr->userAgent );
 }
 
-TELSX_HEADER_USER_AGENT telsxHeaderUserAgentTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_USER_AGENT decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "User-Agent" );
-    RT_STRING line = lastLineOf( header );
+    RT_STRING line = lines.last();
     return line && telsxUserAgentOk( line ) ? telsxHeaderUserAgentCreate( line ) : nullptr;
 }

@@ -27,9 +27,8 @@ TELSX_MESSAGE_HEADER telsxHeaderViaEncode( TELSX_HEADER_VIA hdr )
     return createHeader( literal<"Via">(), hdr->values );
 }
 
-TELSX_HEADER_VIA telsxHeaderViaTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_VIA decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Via" );
     Ref<TELSX_HEADER_VIA> hdr = adopt( telsxHeaderViaCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
 }

@@ -35,10 +35,9 @@ TELSX_MESSAGE_HEADER telsxHeaderWarningEncode( TELSX_HEADER_WARNING hdr )
     return createHeader( literal<"Warning">(), hdr->values );
 }
 
-TELSX_HEADER_WARNING telsxHeaderWarningTryDecode( TELSX_MESSAGE_HEADER header )
+static TELSX_HEADER_WARNING decode( HeaderLines &lines )
 {
-    TELSX_ASSERT_NAME( "Warning" );
     Ref<TELSX_HEADER_WARNING> hdr = adopt( telsxHeaderWarningCreate() );
-    return decodeValues( hdr->values, header, telsx___SkipWarningValue, WithoutLines::isEmpty ) ? hdr.take()
-                                                                                                : nullptr;
+    return decodeValues( hdr->values, lines, telsx___SkipWarningValue, WithoutLines::isEmpty ) ? hdr.take()
+                                                                                               : nullptr;
 }

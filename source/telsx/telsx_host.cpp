@@ -1,6 +1,8 @@
 // Host (RFC 3261, 25.1; RFC 3986, 3.2.2; RFC 5891).
 #include "telsx/telsx_host.h"
 
+#include <algorithm>
+
 #include "net/net.h"
 #include "rsc/rsc.h"
 #include "telsx/telsx_char.hpp"
@@ -14,18 +16,18 @@ int64_t telsx___SkipDomainLabel( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     int64_t at = 0, end = 0;
-    while ( at < length )
+    for ( ;; )
     {
-        if ( isIn( chs[at], classAlphanum ) )
-            end = ++at;
-        else if ( chs[at] == '-' && at > 0 )
-            ++at;
-        else if ( isEscape( { chs + at, length - at } ) )
+        Text rest = { chs + at, length - at };
+        if ( int64_t run = runOf( rest, classAlphanum ) )
+            end = at += run;
+        else if ( isEscape( rest ) )
             end = at += 3;
+        else if ( rest && rest.chs[0] == '-' && at > 0 )
+            ++at;
         else
-            break;
+            return end;
     }
-    return end;
 }
 
 int64_t telsx___SkipHostname( const RT_CHAR *chs, int64_t length )
@@ -56,8 +58,9 @@ int64_t telsx___SkipIpV6Reference( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipHost( const RT_CHAR *chs, int64_t length )
 {
-    int64_t name = telsx___SkipHostname( chs, length ), address = telsx___SkipIpV4Address( chs, length );
-    return rtIntMax( rtIntMax( name, address ), telsx___SkipIpV6Reference( chs, length ) );
+    // An IPv4 address is a hostname too.
+    int64_t name = telsx___SkipHostname( chs, length );
+    return name ? name : telsx___SkipIpV6Reference( chs, length );
 }
 
 int64_t telsx___SkipHostPort( const RT_CHAR *chs, int64_t length )
@@ -93,8 +96,11 @@ RT_STRING telsx___HostEncode( RT_STRING host )
 RT_STRING telsx___HostTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    if ( telsx___SkipHost( chs, length ) != length )
+    if ( length == 0 || telsx___SkipHost( chs, length ) != length )
         return nullptr;
     Ref<RT_STRING> copy = Text{ chs, length }.copy();
+    static constexpr RT_CHAR hyphens[] = { '-', '-' };
+    if ( std::search( chs, chs + length, hyphens, std::end( hyphens ) ) == chs + length )
+        return copy.take(); // no label in it is encoded
     return netDnsIdnaDomainNameOk( copy.get() ) ? netDnsIdnaDomainNameToUnicode( copy.get() ) : nullptr;
 }

@@ -11,9 +11,9 @@ bool ItemReader::next()
     else
         while ( !rest )
         {
-            if ( lineIndex == linesOf( header ) )
+            line = lines.next();
+            if ( !line )
                 return false;
-            line = lineOf( header, lineIndex++ );
             rest = textOf( line );
         }
     if ( bad )

@@ -9,15 +9,16 @@ namespace telsx
 // Reads the items of all lines in order, on each line any number of them with separators between. An empty
 // line has no item, and is no fault.
 //
-//     ItemReader items( header, telsx___SkipMethod, telsx___SkipComma );
+//     ItemReader items( lines, telsx___SkipMethod, telsx___SkipComma );
 //     while ( items.next() )
 //         use( items.item() );
 class ItemReader
 {
 public:
-    ItemReader( TELSX_MESSAGE_HEADER listHeader, Skipper itemSkipper, Skipper separatorSkipper )
-        : header( listHeader ), skipItem( itemSkipper ), skipSeparator( separatorSkipper )
+    ItemReader( HeaderLines &listLines, Skipper itemSkipper, Skipper separatorSkipper )
+        : lines( listLines ), skipItem( itemSkipper ), skipSeparator( separatorSkipper )
     {
+        lines.restart();
     }
 
     // Whether there is another item. False at the end, and at bad text, which failed tells apart.
@@ -31,9 +32,8 @@ public:
     }
 
 private:
-    TELSX_MESSAGE_HEADER header;
+    HeaderLines &lines;
     Skipper skipItem, skipSeparator;
-    int64_t lineIndex = 0;
     RT_STRING line = nullptr;
     Text text; // the item
     Text rest; // of the line

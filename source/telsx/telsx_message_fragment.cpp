@@ -15,7 +15,7 @@ TELSX_DEFINE_FREE_FUNC( MessageFragment, frag )
 TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void )
 {
     TELSX_MESSAGE_FRAGMENT frag = rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() );
-    frag->headers = adopt( rtDictCreate() );
+    frag->headers = createHeaderTable( adopt( rtBufferCreate() ) );
     return frag;
 }
 
@@ -177,36 +177,36 @@ void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, 
 RT_VECTOR telsxMessageFragmentHeadersVector( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
-    return rtDictValuesVector( frag->headers.get() );
+    return headersVector( frag->headers.get() );
 }
 
 TELSX_MESSAGE_HEADER telsxMessageFragmentHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name )
 {
     TELSX_ASSERT( frag );
     Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
-    return telsxMessageHeaderFrom( rtDictStringKey( frag->headers.get(), normal.get() ) );
+    HeaderEntry *entry = findHeader( frag->headers.get(), headerName( normal.get() ) );
+    return entry ? share( headerAt( frag->headers.get(), *entry ) ).take() : nullptr;
 }
 
 RT_BOOL telsxMessageFragmentHasHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name )
 {
     TELSX_ASSERT( frag );
     Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
-    return rtDictHasStringKey( frag->headers.get(), normal.get() );
+    return findHeader( frag->headers.get(), headerName( normal.get() ) ) != nullptr;
 }
 
 void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_HEADER header )
 {
     TELSX_ASSERT_HANDLE( frag );
     TELSX_ASSERT( header );
-    Ref<RT_STRING> name = adopt( telsxMessageHeaderName( header ) );
-    rtDictSetStringKey( TELSX_OWN( frag )->headers.address(), name.get(), telsxMessageHeaderObj( header ) );
+    setHeader( TELSX_OWN( frag )->headers, header );
 }
 
 void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name )
 {
     TELSX_ASSERT_HANDLE( frag );
     Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
-    rtDictDelStringKey( TELSX_OWN( frag )->headers.address(), normal.get() );
+    delHeader( TELSX_OWN( frag )->headers, headerName( normal.get() ) );
 }
 
 // Body

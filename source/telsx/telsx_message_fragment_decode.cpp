@@ -3,22 +3,16 @@
 #include <algorithm>
 
 #include "rsc/rsc.h"
-#include "telsx/telsx_known_names.hpp"
+#include "telsx/telsx_char.hpp"
+#include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
-#include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_method.h"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;
-
-// The string of bytes that are known to be UTF-8.
-static Ref<RT_STRING> stringOf( Bytes bytes )
-{
-    return adopt( rtStringTryCreateFromUtf8( bytes.data(), lengthOf( bytes ) ) );
-}
 
 // Takes the front up to the delimiter away, and the delimiter; all that is left if there is none.
 static Bytes takeUpTo( Bytes &rest, Bytes delimiter )
@@ -31,10 +25,15 @@ static Bytes takeUpTo( Bytes &rest, Bytes delimiter )
 
 static bool isWhite( char ch ) { return ch == ' ' || ch == '\t'; }
 
-static Bytes trimmed( Bytes bytes )
+static Bytes trimmedLeft( Bytes bytes )
 {
     while ( !bytes.empty() && isWhite( bytes.front() ) )
         bytes.remove_prefix( 1 );
+    return bytes;
+}
+
+static Bytes trimmedRight( Bytes bytes )
+{
     while ( !bytes.empty() && isWhite( bytes.back() ) )
         bytes.remove_suffix( 1 );
     return bytes;
@@ -48,15 +47,11 @@ enum class StartLine
 };
 
 // Sets the start line if the first line is one. What looks like a start line must be a good one.
-static StartLine decodeStartLine( Ref<TELSX_MESSAGE_FRAGMENT> &frag, RT_STRING line )
+static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
 {
-    Text rest = textOf( line );
+    Text rest = line;
     auto takePiece = [&rest]
-    {
-        Text piece = rest.first( std::find( rest.chs, rest.chs + rest.length, RT_CHAR( ' ' ) ) - rest.chs );
-        rest = rest.behind( piece.length );
-        return piece;
-    };
+    { return rest.take( std::find( rest.chs, rest.chs + rest.length, RT_CHAR( ' ' ) ) - rest.chs ); };
     Text first = takePiece();
     if ( !rest )
         return StartLine::none;
@@ -66,93 +61,109 @@ static StartLine decodeStartLine( Ref<TELSX_MESSAGE_FRAGMENT> &frag, RT_STRING l
     if ( hasThird )
         rest.take( 1 );
 
-    if ( auto version = adopt( telsx___VersionTryDecode( first.chs, first.length ) ) )
+    if ( auto version = adopt( first.as( telsx___VersionTryDecode ) ) )
     {
         int64_t sc = tryDecodeNumber( second );
         if ( !telsxStatusCodeOk( sc ) )
             return StartLine::bad;
-        auto phrase = adopt( telsx___ReasonPhraseDecode( rest.chs, rest.length ) );
-        telsxMessageFragmentSetResponseWithReasonPhrase( frag.address(), version.get(), sc, phrase.get() );
+        frag->version = std::move( version );
+        frag->responseStatusCode = sc;
+        frag->responseReasonPhrase = adopt( rest.as( telsx___ReasonPhraseDecode ) );
         return StartLine::good;
     }
     if ( !hasThird || !covers( telsx___SkipMethod, first ) )
         return StartLine::none;
-    auto iri = adopt( rscTryConvertFromUri( second.copy().get() ) );
-    auto version = adopt( telsx___VersionTryDecode( rest.chs, rest.length ) );
-    if ( !iri || !version )
+    int64_t length;
+    frag->requestIri = adopt( rsc___TryConvertUriAtStart( second.chs, second.length, UINT32_MAX, &length ) );
+    frag->version = adopt( rest.as( telsx___VersionTryDecode ) );
+    if ( length < second.length || !frag->requestIri || !frag->version )
         return StartLine::bad;
-    telsxMessageFragmentSetRequest( frag.address(), version.get(), first.copy().get(), iri.get() );
+    frag->requestMethod = first.copy();
     return StartLine::good;
 }
 
-// The canonical name, or null for what is no name.
-static Ref<RT_STRING> tryDecodeName( Bytes bytes )
+// The name of a header that is not known, in canonical form, or null for what is no name. All of a token is
+// ASCII.
+static Ref<RT_STRING> tryDecodeOtherName( Bytes bytes )
 {
-    if ( RT_STRING known = findKnownName( bytes ) )
-        return share( known );
-    Ref<RT_STRING> name = stringOf( bytes );
-    return telsxMessageHeaderNameOk( name.get() ) ? adopt( telsxMessageHeaderNameNormalize( name.get() ) )
-                                                  : Ref<RT_STRING>();
+    auto isInName = []( char ch ) { return isIn( static_cast<unsigned char>( ch ), classToken ); };
+    if ( bytes.empty() || !std::all_of( bytes.begin(), bytes.end(), isInName ) )
+        return {};
+    Ref<RT_STRING> name;
+    RT_CHAR *into = rt::newString( lengthOf( bytes ), name.address() );
+    char before = '-';
+    for ( char ch : bytes )
+    {
+        char lower = lowerAscii( ch );
+        bool isCapital = before == '-' && lower >= 'a' && lower <= 'z';
+        *into++ = static_cast<RT_CHAR>( isCapital ? lower - 0x20 : lower );
+        before = ch;
+    }
+    return name;
 }
 
-// One header line, with its folds undone, becomes one line more of the header of its name. The fragment is
-// nobody else's yet, and so are its headers: they are changed where they are.
-static bool decodeHeader( Ref<TELSX_MESSAGE_FRAGMENT> &frag, Bytes text )
+// One header line, trimmed and with its folds undone, becomes one line more of the header of its name.
+static bool decodeHeader( HeaderTable *table, Bytes text )
 {
-    std::size_t colon = text.find( ':' );
-    if ( colon == Bytes::npos )
+    std::size_t colon = 0;
+    while ( colon < text.size() && text[colon] != ':' )
+        ++colon;
+    if ( colon == text.size() )
         return false;
-    Ref<RT_STRING> name = tryDecodeName( trimmed( text.substr( 0, colon ) ) );
-    if ( !name )
-        return false;
-    Ref<RT_STRING> line = stringOf( trimmed( text.substr( colon + 1 ) ) );
-    if ( RT_OBJ header = rt___DictValueBorrowed( frag->headers.get(), name.get() ) )
-        rtVectorAppendString( telsxMessageHeaderFrom( header )->lines.address(), line.get() );
-    else
+    Bytes nameBytes = trimmedRight( text.substr( 0, colon ) );
+    Bytes line = trimmedLeft( text.substr( colon + 1 ) );
+    int64_t begin = line.data() - bytesOf( table->bytes.get() ).data();
+    int64_t number = knownNameNumber( nameBytes.data(), nameBytes.size() );
+    if ( number != -1 )
     {
-        Ref<TELSX_MESSAGE_HEADER> created = adopt( createHeader( name.get(), line ) );
-        rtDictSetStringKey( frag->headers.address(), name.get(), rt::asObj( created.get() ) );
+        addLine( table, { const_cast<RT_STRING>( knownNames[number].name ), number }, begin,
+                 lengthOf( line ) );
+        return true;
     }
+    Ref<RT_STRING> other = tryDecodeOtherName( nameBytes );
+    if ( !other )
+        return false;
+    addLine( table, { other.get(), -1 }, begin, lengthOf( line ) );
     return true;
 }
 
-// All header lines. A line that begins with white space goes on with the header before it, behind one blank.
-static bool decodeHeaders( Ref<TELSX_MESSAGE_FRAGMENT> &frag, Bytes lines )
+// All header lines, which stand in the table's bytes. A line that begins with white space goes on with the
+// header before it, behind one blank; it is moved there.
+static bool decodeHeaders( HeaderTable *table, unsigned char *bytes )
 {
-    Bytes current;
-    Ref<RT_BUFFER> folded;
+    Bytes lines = bytesOf( table->bytes.get() ), current;
     while ( !lines.empty() )
     {
         Bytes line = takeUpTo( lines, lineEnd );
         bool goesOn = !line.empty() && isWhite( line.front() );
         if ( !goesOn && !current.empty() )
         {
-            if ( !decodeHeader( frag, current ) )
+            if ( !decodeHeader( table, current ) )
                 return false;
             current = {};
         }
-        Bytes part = trimmed( line );
+        Bytes part = trimmedRight( trimmedLeft( line ) );
         if ( current.empty() )
             current = part;
         else if ( !part.empty() )
         {
-            if ( !folded || bytesOf( folded.get() ).data() != current.data() )
-                folded = bufferOf( current );
-            rtBufferAppendBytes( folded.address(), " ", 1 );
-            rtBufferAppendBytes( folded.address(), part.data(), lengthOf( part ) );
-            current = bytesOf( folded.get() );
+            unsigned char *end =
+                bytes + ( current.data() + current.size() - bytesOf( table->bytes.get() ).data() );
+            *end = ' ';
+            std::memmove( end + 1, part.data(), part.size() );
+            current = { current.data(), current.size() + 1 + part.size() };
         }
     }
-    return current.empty() || decodeHeader( frag, current );
+    return current.empty() || decodeHeader( table, current );
 }
 
-// The value of Content-Length, -1 if there is no such header; nothing if it is no number.
-static bool decodeContentLength( TELSX_MESSAGE_FRAGMENT frag, int64_t *contentLength )
+// The value of Content-Length, -1 if there is no such header; false if it is no number.
+static bool decodeContentLength( HeaderTable *headers, int64_t *contentLength )
 {
-    RT_OBJ header = rt___DictValueBorrowed( frag->headers.get(), literal<"Content-Length">() );
-    if ( !header )
+    HeaderEntry *entry = findHeader( headers, headerName<"Content-Length">() );
+    if ( !entry )
         return true;
-    Ref<RT_STRING> line = adopt( telsxMessageHeaderLastLine( telsxMessageHeaderFrom( header ) ) );
+    Ref<RT_STRING> line = stringOf( lastLineOf( headers, *entry ) );
     *contentLength = tryDecodeNumber( textOf( line ) );
     return *contentLength >= 0;
 }
@@ -163,14 +174,22 @@ Ref<TELSX_MESSAGE_FRAGMENT> telsx::tryDecodeHead( Bytes head, int64_t *contentLe
         *contentLength = -1;
     if ( !rt___Utf8Ok( reinterpret_cast<const unsigned char *>( head.data() ), lengthOf( head ) ) )
         return {};
-    Ref<TELSX_MESSAGE_FRAGMENT> frag = adopt( telsxMessageFragmentCreate() );
-    Bytes behindFirst = head;
-    StartLine startLine = decodeStartLine( frag, stringOf( takeUpTo( behindFirst, lineEnd ) ).get() );
+    auto frag = adopt( rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() ) );
+    Bytes lines = head;
+    Ref<RT_STRING> firstLine = stringOf( takeUpTo( lines, lineEnd ) );
+    StartLine startLine = decodeStartLine( frag.get(), textOf( firstLine ) );
     if ( startLine == StartLine::bad )
         return {};
-    if ( !decodeHeaders( frag, startLine == StartLine::good ? behindFirst : head ) )
+    if ( startLine == StartLine::none )
+        lines = head;
+
+    Ref<RT_BUFFER> copy = adopt( rtBufferCreate() );
+    unsigned char *bytes = rt___BufferExtend( copy.address(), lengthOf( lines ) );
+    std::memcpy( bytes, lines.data(), lines.size() );
+    frag->headers = createHeaderTable( copy );
+    if ( !decodeHeaders( frag->headers.get(), bytes ) )
         return {};
-    if ( contentLength && !decodeContentLength( frag.get(), contentLength ) )
+    if ( contentLength && !decodeContentLength( frag->headers.get(), contentLength ) )
         return {};
     return frag;
 }

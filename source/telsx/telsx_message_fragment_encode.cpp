@@ -1,4 +1,7 @@
 // From a fragment to bytes (RFC 3261, 7), straight into one buffer.
+#include <charconv>
+#include <cstring>
+
 #include "rsc/rsc.h"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
@@ -8,12 +11,7 @@
 
 using namespace telsx;
 
-static void append( Ref<RT_BUFFER> &to, Bytes bytes )
-{
-    rtBufferAppendBytes( to.address(), bytes.data(), lengthOf( bytes ) );
-}
-
-static void append( Ref<RT_BUFFER> &to, RT_STRING string ) { rtBufferAppendUtf8( to.address(), string ); }
+static constexpr Bytes colon = ": ";
 
 static Ref<RT_STRING> startLine( TELSX_MESSAGE_FRAGMENT frag )
 {
@@ -29,47 +27,86 @@ static Ref<RT_STRING> startLine( TELSX_MESSAGE_FRAGMENT frag )
         telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) );
 }
 
-static void appendHeader( Ref<RT_BUFFER> &to, RT_STRING name, RT_STRING line )
+// What the text is written to: once to learn its size, and then into a buffer of that size.
+struct Counter
 {
-    append( to, name );
-    append( to, ": " );
-    append( to, line );
-    append( to, lineEnd );
+    std::size_t size = 0;
+
+    void add( Bytes bytes ) { size += bytes.size(); }
+    void add( RT_STRING string ) { size += static_cast<std::size_t>( rt___StringUtf8Length( string ) ); }
+};
+struct Writer
+{
+    unsigned char *at;
+
+    void add( Bytes bytes )
+    {
+        std::memcpy( at, bytes.data(), bytes.size() );
+        at += bytes.size();
+    }
+    void add( RT_STRING string ) { at += rt___StringUtf8Encode( string, at ); }
+};
+
+template <class OUTPUT, class... PIECE>
+static void write( OUTPUT &to, const PIECE &...pieces )
+{
+    ( to.add( pieces ), ... );
+}
+
+// The lines of a header that was decoded and not replaced go out as they came, any other's as its object has them.
+template <class OUTPUT, class NAME>
+static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const HeaderEntry &entry )
+{
+    if ( entry.first.begin == -1 )
+    {
+        RT_VECTOR lines = entry.header->lines.get();
+        for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
+            write( to, name, colon, rtStringFrom( rt___VectorObjBorrowed( lines, i ) ), lineEnd );
+        return;
+    }
+    write( to, name, colon, table->lineOf( entry.first ), lineEnd );
+    for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
+        write( to, name, colon, table->lineOf( table->moreLines[next] ), lineEnd );
+}
+
+// The true length stands where the fragment has that header, else behind all others.
+template <class OUTPUT>
+static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, RT_STRING startLine, Bytes bodyLength )
+{
+    static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
+    auto writeLength = [&] { write( to, knownNames[lengthNumber].bytes, colon, bodyLength, lineEnd ); };
+    HeaderTable *headers = frag->headers.get();
+    if ( startLine )
+        write( to, startLine, lineEnd );
+    for ( const HeaderEntry &entry : headers->entries )
+        if ( entry.number == lengthNumber && entry.name )
+            writeLength();
+        else if ( entry.number != -1 && entry.name )
+            writeHeader( to, knownNames[entry.number].bytes, headers, entry );
+        else if ( entry.name )
+            writeHeader( to, entry.name, headers, entry );
+    if ( headers->known[lengthNumber] == -1 )
+        writeLength();
+    write( to, lineEnd );
+    if ( frag->body )
+        write( to, bytesOf( frag->body.get() ) );
 }
 
 RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
-    Ref<RT_BUFFER> encoded = adopt( rtBufferCreate() );
+    Ref<RT_STRING> line;
     if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
-    {
-        append( encoded, startLine( frag ).get() );
-        append( encoded, lineEnd );
-    }
-
-    // The true length stands where the fragment has that header, else behind all others.
-    RT_STRING lengthName = literal<"Content-Length">();
+        line = startLine( frag );
+    char digits[24];
     int64_t length = frag->body ? rtBufferLength( frag->body.get() ) : 0;
-    Ref<RT_STRING> lengthLine = adopt( rtStringCreateFromFormatCstr( "%i", -1, length ) );
-    bool lengthWritten = false;
-    for ( int64_t i = 0; i < rtDictLength( frag->headers.get() ); ++i )
-    {
-        Ref<RT_STRING> name = adopt( rtDictKeyAt( frag->headers.get(), i ) );
-        Ref<RT_OBJ> header = adopt( rtDictValueAt( frag->headers.get(), i ) );
-        if ( rtStringEquals( name.get(), lengthName ) )
-        {
-            appendHeader( encoded, lengthName, lengthLine.get() );
-            lengthWritten = true;
-            continue;
-        }
-        RT_VECTOR lines = telsxMessageHeaderFrom( header.get() )->lines.get();
-        for ( int64_t j = 0; j < rtVectorLength( lines ); ++j )
-            appendHeader( encoded, name.get(), rtStringFrom( adopt( rtVectorObjAt( lines, j ) ).get() ) );
-    }
-    if ( !lengthWritten )
-        appendHeader( encoded, lengthName, lengthLine.get() );
-    append( encoded, lineEnd );
-    if ( frag->body )
-        rtBufferAppend( encoded.address(), frag->body.get() );
+    Bytes bodyLength( digits,
+                      std::size_t( std::to_chars( digits, std::end( digits ), length ).ptr - digits ) );
+
+    Counter counter;
+    write( counter, frag, line.get(), bodyLength );
+    Ref<RT_BUFFER> encoded = adopt( rtBufferCreate() );
+    Writer writer = { rt___BufferExtend( encoded.address(), static_cast<int64_t>( counter.size ) ) };
+    write( writer, frag, line.get(), bodyLength );
     return encoded.take();
 }

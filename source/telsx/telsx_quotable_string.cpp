@@ -45,11 +45,14 @@ RT_STRING telsx___QuotableStringTryDecode( const RT_CHAR *chs, int64_t length )
     if ( !length || telsx___SkipQuotedString( chs, length ) != length )
         return nullptr;
     Text inner = Text{ chs, length - 1 }.behind( telsx___SkipLdquot( chs, length ) );
+    auto untilBackslash = [&inner]
+    { return std::find( inner.chs, inner.chs + inner.length, RT_CHAR( '\\' ) ) - inner.chs; };
+    if ( untilBackslash() == inner.length )
+        return inner.copy().take();
     Ref<RT_STRING> plain = adopt( rtStringCreate() );
     while ( inner )
     {
-        Text run =
-            inner.take( std::find( inner.chs, inner.chs + inner.length, RT_CHAR( '\\' ) ) - inner.chs );
+        Text run = inner.take( untilBackslash() );
         rtStringAppendChars( plain.address(), run.chs, run.length );
         if ( inner )
             rtStringAppendChar( plain.address(), inner.take( 2 ).chs[1] );

@@ -194,11 +194,15 @@ int64_t telsx___SkipQuotedString( const RT_CHAR *chs, int64_t length )
         return 0;
     while ( at < length )
     {
-        if ( chs[at] == '"' )
+        RT_CHAR ch = chs[at];
+        if ( ch > '\\' || ( ch > '"' && ch < '\\' ) )
+        {
+            ++at;
+            continue;
+        }
+        if ( ch == '"' )
             return at + 1;
-        if ( isLineEnd( chs[at] ) )
-            return 0;
-        int64_t count = chs[at] == '\\' ? skipQuotedPair( { chs + at, length - at } ) : 1;
+        int64_t count = ch == '\\' ? skipQuotedPair( { chs + at, length - at } ) : !isLineEnd( ch );
         if ( !count )
             return 0;
         at += count;

@@ -9,12 +9,12 @@ void setToken( Ref<RT_DICT> &tokens, const Ref<RT_STRING> &token )
     rtDictSetStringKey( tokens.address(), token.get(), rtStringObj( token.get() ) );
 }
 
-bool decodeTokens( Ref<RT_DICT> &tokens, TELSX_MESSAGE_HEADER header, Skipper skipToken, Normalizer normalize,
+bool decodeTokens( Ref<RT_DICT> &tokens, HeaderLines &lines, Skipper skipToken, Normalizer normalize,
                    Separator separator )
 {
-    if ( linesOf( header ) == 0 )
+    if ( lines.empty() )
         return false;
-    ItemReader items( header, skipToken, separator.skip );
+    ItemReader items( lines, skipToken, separator.skip );
     while ( items.next() )
         setToken( tokens, adopt( normalize( items.item().get() ) ) );
     return !items.failed();

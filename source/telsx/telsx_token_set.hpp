@@ -24,7 +24,7 @@ inline RT_STRING asItIs( RT_STRING token ) { return share( token ).take(); }
 void setToken( Ref<RT_DICT> &tokens, const Ref<RT_STRING> &token );
 
 // Fills a new set with the tokens of the raw header; false for bad text, and for no lines.
-bool decodeTokens( Ref<RT_DICT> &tokens, TELSX_MESSAGE_HEADER header, Skipper skipToken, Normalizer normalize,
+bool decodeTokens( Ref<RT_DICT> &tokens, HeaderLines &lines, Skipper skipToken, Normalizer normalize,
                    Separator separator );
 
 TELSX_MESSAGE_HEADER encodeTokens( RT_STRING name, const Ref<RT_DICT> &tokens, Separator separator );

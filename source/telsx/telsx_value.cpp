@@ -3,7 +3,6 @@
 
 #include "rsc/rsc.h"
 #include "telsx/telsx_display_name.h"
-#include "telsx/telsx_iri.h"
 
 namespace telsx
 {
@@ -55,7 +54,7 @@ void ParamReader::storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params )
     }
 }
 
-bool takeAddress( Text &rest, Address &address, Skipper skipBare )
+bool takeAddress( Text &rest, Address &address, RT_CHAR endOfBare )
 {
     Text behindName = rest;
     Text name = behindName.take( telsx___SkipDisplayName );
@@ -69,16 +68,11 @@ bool takeAddress( Text &rest, Address &address, Skipper skipBare )
     }
     else
         address.inBrackets = bool( rest.take( telsx___SkipLaquot ) );
-    Text uri = rest.take( address.inBrackets ? telsx___SkipUri : skipBare );
-    if ( !uri )
-        return false;
-    address.iri = adopt( rscTryConvertFromUri( uri.copy().get() ) );
+    int64_t length;
+    address.iri = adopt( rsc___TryConvertUriAtStart( rest.chs, rest.length,
+                                                     address.inBrackets ? UINT32_MAX : endOfBare, &length ) );
+    rest.take( length );
     return address.iri && ( !address.inBrackets || rest.take( telsx___SkipRaquot ) );
-}
-
-bool takeAddress( Text &rest, Address &address )
-{
-    return takeAddress( rest, address, telsx___SkipAddrSpec );
 }
 
 void appendAddress( Ref<RT_STRING> &text, const Ref<RT_STRING> &iri, const Ref<RT_STRING> &displayName )

@@ -102,9 +102,8 @@ struct Address
     bool inBrackets = false;
 };
 
-// Takes the address at the start; false for bad text. The bare form is what skipBare measures.
-bool takeAddress( Text &rest, Address &address, Skipper skipBare );
-bool takeAddress( Text &rest, Address &address );
+// Takes the address at the start; false for bad text. The bare form ends before that character.
+bool takeAddress( Text &rest, Address &address, RT_CHAR endOfBare = ';' );
 
 // Appends the display name if there is one, and the address in angle brackets.
 void appendAddress( Ref<RT_STRING> &text, const Ref<RT_STRING> &iri, const Ref<RT_STRING> &displayName = {} );

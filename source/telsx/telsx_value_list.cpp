@@ -3,12 +3,12 @@
 
 #include "telsx/telsx_skip.h"
 
-bool telsx::decodeValues( Ref<RT_VECTOR> &values, TELSX_MESSAGE_HEADER header, Skipper skipValue,
+bool telsx::decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, Skipper skipValue,
                           WithoutLines withoutLines )
 {
-    if ( linesOf( header ) == 0 )
+    if ( lines.empty() )
         return withoutLines == WithoutLines::isEmpty;
-    ItemReader items( header, skipValue, telsx___SkipComma );
+    ItemReader items( lines, skipValue, telsx___SkipComma );
     while ( items.next() )
         rtVectorAppendString( values.address(), items.item().get() );
     return !items.failed();

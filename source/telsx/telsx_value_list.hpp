@@ -25,8 +25,7 @@ enum class WithoutLines
 };
 
 // Fills a new list with the texts that the skipper cuts out of the raw header; false for bad text.
-bool decodeValues( Ref<RT_VECTOR> &values, TELSX_MESSAGE_HEADER header, Skipper skipValue,
-                   WithoutLines withoutLines );
+bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, Skipper skipValue, WithoutLines withoutLines );
 
 // The list, for operations that end the star form of a header that has one.
 template <class T>

@@ -77,6 +77,8 @@ TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length )
 RT_STRING telsx___VersionEncode( TELSX_VERSION version )
 {
     TELSX_ASSERT( version );
+    if ( version == telsx___VersionSip20 )
+        return literal<"SIP/2.0">();
     return rtStringCreateFromFormatCstr( "%s/%s", -1, version->protocolName.get(),
                                          version->protocolVersion.get() );
 }

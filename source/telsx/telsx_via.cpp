@@ -57,17 +57,22 @@ TELSX_DEFINE_FIELD( Via, via, Branch, branch, telsxBranchOk( branch ) )
 TELSX_DEFINE_OPTION( Via, via, Branch, branch )
 TELSX_DEFINE_FIELD( Via, via, GenericParams, genericParams, genericParams )
 
+static TELSX_VIA create( TELSX_VERSION version, RT_STRING transport, RT_STRING host )
+{
+    TELSX_VIA via = rt::create<TELSX_VIA_>( telsxViaSort() );
+    via->version = share( version );
+    via->transport = adopt( lowerCase( transport ) );
+    via->host = share( host );
+    via->genericParams = adopt( telsxGenericParamsCreate() );
+    return via;
+}
+
 TELSX_VIA telsxViaCreate( TELSX_VERSION version, RT_STRING transport, RT_STRING host )
 {
     TELSX_ASSERT( version );
     TELSX_ASSERT( telsxTransportOk( transport ) );
     TELSX_ASSERT( telsxHostOk( host ) );
-    TELSX_VIA via = rt::create<TELSX_VIA_>( telsxViaSort() );
-    via->version = share( version );
-    via->transport = adopt( telsxTransportNormalize( transport ) );
-    via->host = share( host );
-    via->genericParams = adopt( telsxGenericParamsCreate() );
-    return via;
+    return create( version, transport, host );
 }
 
 TELSX_VIA telsxViaCreateWithPort( TELSX_VERSION version, RT_STRING transport, RT_STRING host, int64_t port )
@@ -174,7 +179,7 @@ TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
     auto host = adopt( rest.take( telsx___SkipHost ).as( telsx___HostTryDecode ) );
     if ( !host )
         return nullptr;
-    auto via = adopt( telsxViaCreate( version.get(), transport.copy().get(), host.get() ) );
+    auto via = adopt( create( version.get(), transport.copy().get(), host.get() ) );
     if ( rest.take( telsx___SkipColon ) )
     {
         via->port = rest.take( telsx___SkipPort ).as( telsx___PortTryDecode );
