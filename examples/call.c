@@ -46,15 +46,6 @@ static RT_STRING text( const char *utf8 )
     return rtStringTryCreateFromUtf8( utf8, (int64_t)strlen( utf8 ) );
 }
 
-/* A new request without headers. */
-static TELSX_MESSAGE request( const char *method, RT_STRING target )
-{
-    TELSX_VERSION version = telsxVersionCreateSip20();
-    TELSX_MESSAGE msg = telsxMessageCreateRequestCstr( version, method, -1, target );
-    telsxVersionRelease( version );
-    return msg;
-}
-
 /* Puts a Via on top of those that the message has. */
 static void addVia( TELSX_MESSAGE *msg, const char *host, const char *branch )
 {
@@ -122,16 +113,6 @@ static void setTo( TELSX_MESSAGE *msg, const PARTY *party )
     rtStringRelease( iri );
 }
 
-static void setToTag( TELSX_MESSAGE *msg, const char *tag )
-{
-    TELSX_HEADER_TO header = telsxHeaderToTryDecodeFromMessage( *msg );
-    RT_STRING tagText = text( tag );
-    telsxHeaderToSetTag( &header, tagText );
-    telsxHeaderToEncodeToMessage( header, msg );
-    rtStringRelease( tagText );
-    telsxHeaderToRelease( header );
-}
-
 static void setCallId( TELSX_MESSAGE *msg, const char *callId )
 {
     RT_STRING callIdText = text( callId );
@@ -139,16 +120,6 @@ static void setCallId( TELSX_MESSAGE *msg, const char *callId )
     telsxHeaderCallIdEncodeToMessage( header, msg );
     telsxHeaderCallIdRelease( header );
     rtStringRelease( callIdText );
-}
-
-/* The method is that of the request. */
-static void setCseq( TELSX_MESSAGE *msg, int64_t number )
-{
-    RT_STRING method = telsxMessageRequestMethod( *msg );
-    TELSX_HEADER_CSEQ header = telsxHeaderCseqCreate( number, method );
-    telsxHeaderCseqEncodeToMessage( header, msg );
-    telsxHeaderCseqRelease( header );
-    rtStringRelease( method );
 }
 
 static void setContact( TELSX_MESSAGE *msg, const char *iri )
@@ -170,15 +141,6 @@ static void setSubject( TELSX_MESSAGE *msg, const char *subject )
     telsxHeaderSubjectEncodeToMessage( header, msg );
     telsxHeaderSubjectRelease( header );
     rtStringRelease( subjectText );
-}
-
-static void setUserAgent( TELSX_MESSAGE *msg )
-{
-    RT_STRING software = text( "call/1.0 (an example)" );
-    TELSX_HEADER_USER_AGENT header = telsxHeaderUserAgentCreate( software );
-    telsxHeaderUserAgentEncodeToMessage( header, msg );
-    telsxHeaderUserAgentRelease( header );
-    rtStringRelease( software );
 }
 
 /* What a party says of itself in an INVITE and in the answer: its address, the methods and extensions that it
@@ -210,20 +172,37 @@ static void describe( TELSX_MESSAGE *msg, const PARTY *party )
     rtBufferRelease( body );
 }
 
+/* A request of Alice's with the headers that every one of hers has. */
+static TELSX_MESSAGE request( const char *method, RT_STRING target, int64_t number, const char *branch )
+{
+    TELSX_VERSION version = telsxVersionCreateSip20();
+    TELSX_MESSAGE msg = telsxMessageCreateRequestCstr( version, method, -1, target );
+    addVia( &msg, alice.host, branch );
+    setMaxForwards( &msg, 70 );
+
+    RT_STRING methodText = telsxMessageRequestMethod( msg ), software = text( "call/1.0 (an example)" );
+    TELSX_HEADER_CSEQ cseq = telsxHeaderCseqCreate( number, methodText );
+    TELSX_HEADER_USER_AGENT userAgent = telsxHeaderUserAgentCreate( software );
+    telsxHeaderCseqEncodeToMessage( cseq, &msg );
+    telsxHeaderUserAgentEncodeToMessage( userAgent, &msg );
+    telsxHeaderUserAgentRelease( userAgent );
+    telsxHeaderCseqRelease( cseq );
+    rtStringRelease( software );
+    rtStringRelease( methodText );
+    telsxVersionRelease( version );
+    return msg;
+}
+
 /* The caller's first request, before there is a dialog (RFC 3261, 8.1.1). */
 static TELSX_MESSAGE invite( void )
 {
     RT_STRING target = text( bob.iri );
-    TELSX_MESSAGE msg = request( "INVITE", target );
+    TELSX_MESSAGE msg = request( "INVITE", target, 1, "z9hG4bK-alice-1" );
     rtStringRelease( target );
-    addVia( &msg, alice.host, "z9hG4bK-alice-1" );
-    setMaxForwards( &msg, 70 );
     setFrom( &msg, &alice );
     setTo( &msg, &bob );
     setCallId( &msg, "3848276298220188511@pc33.atlanta.example" );
-    setCseq( &msg, 1 );
     setSubject( &msg, "The mill, and who is to bring the flour" );
-    setUserAgent( &msg );
     describe( &msg, &alice );
     return msg;
 }
@@ -247,7 +226,13 @@ static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY 
     static const char *const names[] = { "Via", "Record-Route", "From", "To", "Call-Id", "Cseq" };
     for ( size_t i = 0; i < sizeof names / sizeof *names; ++i )
         takeOver( &msg, to, names[i] );
-    setToTag( &msg, party->tag );
+
+    TELSX_HEADER_TO header = telsxHeaderToTryDecodeFromMessage( msg );
+    RT_STRING tag = text( party->tag );
+    telsxHeaderToSetTag( &header, tag );
+    telsxHeaderToEncodeToMessage( header, &msg );
+    rtStringRelease( tag );
+    telsxHeaderToRelease( header );
     describe( &msg, party );
     return msg;
 }
@@ -288,16 +273,12 @@ static TELSX_MESSAGE inDialog( TELSX_MESSAGE response, const char *method, int64
                                const char *branch )
 {
     RT_STRING target = remoteTarget( response );
-    TELSX_MESSAGE msg = request( method, target );
+    TELSX_MESSAGE msg = request( method, target, number, branch );
     rtStringRelease( target );
-    addVia( &msg, alice.host, branch );
     setRoute( &msg, response );
-    setMaxForwards( &msg, 70 );
     takeOver( &msg, response, "From" );
     takeOver( &msg, response, "To" );
     takeOver( &msg, response, "Call-Id" );
-    setCseq( &msg, number );
-    setUserAgent( &msg );
     return msg;
 }
 

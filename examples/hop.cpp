@@ -15,17 +15,10 @@
 namespace
 {
 
-using CallId = Owned<TELSX_HEADER_CALL_ID, telsxHeaderCallIdRelease>;
-using Cseq = Owned<TELSX_HEADER_CSEQ, telsxHeaderCseqRelease>;
-using From = Owned<TELSX_HEADER_FROM, telsxHeaderFromRelease>;
-using Header = Owned<TELSX_MESSAGE_HEADER, telsxMessageHeaderRelease>;
-using MaxForwards = Owned<TELSX_HEADER_MAX_FORWARDS, telsxHeaderMaxForwardsRelease>;
-using RecordRoute = Owned<TELSX_HEADER_RECORD_ROUTE, telsxHeaderRecordRouteRelease>;
-using Route = Owned<TELSX_ROUTE, telsxRouteRelease>;
-using Routes = Owned<TELSX_HEADER_ROUTE, telsxHeaderRouteRelease>;
-using To = Owned<TELSX_HEADER_TO, telsxHeaderToRelease>;
-using Via = Owned<TELSX_VIA, telsxViaRelease>;
-using Vias = Owned<TELSX_HEADER_VIA, telsxHeaderViaRelease>;
+using IpAddress = Owned<NET_ADDRESS>;
+using Routes = Owned<TELSX_HEADER_ROUTE>;
+using To = Owned<TELSX_HEADER_TO>;
+using Via = Owned<TELSX_VIA>;
 
 const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example SIP/2.0\r\n"
                       "Via: SIP/2.0/UDP pc33.example.net:5060;branch=z9hG4bK87asdks7;rport\r\n"
@@ -47,10 +40,10 @@ struct Place
 };
 
 // A header that the message must have, or has.
-template <class HEADER, class HANDLE>
-HEADER need( const Message &message, const char *name, HANDLE ( *tryDecode )( TELSX_MESSAGE ) )
+template <class HANDLE>
+Owned<HANDLE> need( const Message &message, const char *name, HANDLE ( *tryDecode )( TELSX_MESSAGE ) )
 {
-    HEADER header( tryDecode( message.get() ) );
+    Owned header( tryDecode( message.get() ) );
     if ( !header )
         throw std::runtime_error( std::string( "its " ) + name + " is missing or bad" );
     return header;
@@ -58,7 +51,7 @@ HEADER need( const Message &message, const char *name, HANDLE ( *tryDecode )( TE
 
 std::string lowerCase( String text )
 {
-    rtStringToLower( AddressOf( text ) );
+    rtStringToLower( text.address() );
     return toUtf8( text );
 }
 
@@ -66,7 +59,7 @@ std::string lowerCase( String text )
 IpAddress toIpAddress( const String &text )
 {
     if ( !text )
-        return nullptr;
+        return {};
     int64_t bracket = rtStringBeginsWithChar( text.get(), '[' ) && rtStringLength( text.get() ) > 1 ? 1 : 0;
     return IpAddress( netAddressTryCreateFromChars( rtStringBacking( text.get() ) + bracket,
                                                     rtStringLength( text.get() ) - 2 * bracket ) );
@@ -97,25 +90,26 @@ struct Target
     std::string host; // as in Place; empty if this is no SIP address
 };
 
-String targetOf( const Message &message ) { return String( telsxMessageRequestIri( message.get() ) ); }
+String targetOf( const Message &message ) { return Owned( telsxMessageRequestIri( message.get() ) ); }
 
 int64_t lengthOf( const Routes &routes ) { return telsxHeaderRouteRoutesLength( routes.get() ); }
 
 String iriAt( const Routes &routes, int64_t index )
 {
-    Route route( telsxHeaderRouteTryDecodeRouteAt( routes.get(), index ) );
+    Owned route( telsxHeaderRouteTryDecodeRouteAt( routes.get(), index ) );
     if ( !route )
         throw std::runtime_error( "its Route holds a bad value" );
-    return String( telsxRouteIri( route.get() ) );
+    return Owned( telsxRouteIri( route.get() ) );
 }
 
 // A text that is the same for a request, its CANCEL and the ACK of its failure, and for no other request (RFC
 // 3261, 16.11), as a token (FNV-1a).
-std::string fingerprint( const Via &top, const From &from, const CallId &callId, const Cseq &cseq )
+std::string fingerprint( const Via &top, const Owned<TELSX_HEADER_FROM> &from,
+                         const Owned<TELSX_HEADER_CALL_ID> &callId, const Owned<TELSX_HEADER_CSEQ> &cseq )
 {
-    std::string text = toUtf8( String( telsxViaToString( top.get() ) ) ) + '\n'
-                       + toUtf8( String( telsxHeaderFromToString( from.get() ) ) ) + '\n'
-                       + toUtf8( String( telsxHeaderCallIdToString( callId.get() ) ) ) + '\n'
+    std::string text = toUtf8( Owned( telsxViaToString( top.get() ) ) ) + '\n'
+                       + toUtf8( Owned( telsxHeaderFromToString( from.get() ) ) ) + '\n'
+                       + toUtf8( Owned( telsxHeaderCallIdToString( callId.get() ) ) ) + '\n'
                        + std::to_string( telsxHeaderCseqCseq( cseq.get() ) );
     uint64_t hash = 0xCBF29CE484222325;
     for ( char ch : text )
@@ -129,29 +123,27 @@ std::string fingerprint( const Via &top, const From &from, const CallId &callId,
 // (RFC 3261, 18.2.1), address and port if it asks for them (RFC 3581, 4).
 void noteSource( Via &top, const Place &place )
 {
-    IpAddress told = toIpAddress( String( telsxViaHost( top.get() ) ) );
+    IpAddress told = toIpAddress( Owned( telsxViaHost( top.get() ) ) );
     bool asked = telsxViaHasRportEmpty( top.get() );
     if ( asked || !netAddressEquals( told.get(), place.address.get() ) )
-        telsxViaSetReceived( AddressOf( top ), place.address.get() );
+        telsxViaSetReceived( top.address(), place.address.get() );
     if ( asked )
-        telsxViaSetRportNumeric( AddressOf( top ), place.port );
+        telsxViaSetRportNumeric( top.address(), place.port );
 }
 
 // Takes a hop from Max-Forwards; false if none is left (RFC 3261, 16.6, step 3).
 bool countHop( Message &message )
 {
-    MaxForwards header;
-    if ( !telsxHeaderMaxForwardsPresentInMessage( message.get() ) )
-        header.reset( telsxHeaderMaxForwardsCreate( 70 ) );
-    else
+    Owned header( telsxHeaderMaxForwardsCreate( 70 ) );
+    if ( telsxHeaderMaxForwardsPresentInMessage( message.get() ) )
     {
-        header = need<MaxForwards>( message, "Max-Forwards", telsxHeaderMaxForwardsTryDecodeFromMessage );
+        header = need( message, "Max-Forwards", telsxHeaderMaxForwardsTryDecodeFromMessage );
         int64_t hops = telsxHeaderMaxForwardsMaxForwards( header.get() );
         if ( hops == 0 )
             return false;
-        telsxHeaderMaxForwardsSetMaxForwards( AddressOf( header ), hops - 1 );
+        telsxHeaderMaxForwardsSetMaxForwards( header.address(), hops - 1 );
     }
-    telsxHeaderMaxForwardsEncodeToMessage( header.get(), AddressOf( message ) );
+    telsxHeaderMaxForwardsEncodeToMessage( header.get(), message.address() );
     return true;
 }
 
@@ -161,33 +153,33 @@ bool followRoute( Message &message, const Place &place )
 {
     if ( !telsxHeaderRoutePresentInMessage( message.get() ) )
         return Target( targetOf( message ) ).secure;
-    auto routes = need<Routes>( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
+    auto routes = need( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
 
     // A strict router has put this proxy's Record-Route in the place of the target, which stands last.
     Target target( targetOf( message ) );
     if ( target.host == place.host && target.loose && !target.user && lengthOf( routes ) )
     {
         int64_t last = lengthOf( routes ) - 1;
-        telsxMessageSetRequestIri( AddressOf( message ), iriAt( routes, last ).get() );
-        telsxHeaderRouteDelRouteAt( AddressOf( routes ), last );
+        telsxMessageSetRequestIri( message.address(), iriAt( routes, last ).get() );
+        telsxHeaderRouteDelRouteAt( routes.address(), last );
     }
     if ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).host == place.host )
-        telsxHeaderRouteDelRouteAt( AddressOf( routes ), 0 );
+        telsxHeaderRouteDelRouteAt( routes.address(), 0 );
 
     // A strict router wants its own address as the target, and the target last.
     if ( lengthOf( routes ) && !Target( iriAt( routes, 0 ) ).loose )
     {
         String next = iriAt( routes, 0 );
-        telsxHeaderRouteDelRouteAt( AddressOf( routes ), 0 );
-        Route route( telsxRouteCreate( targetOf( message ).get() ) );
-        telsxHeaderRouteAppendRoute( AddressOf( routes ), route.get() );
-        telsxMessageSetRequestIri( AddressOf( message ), next.get() );
+        telsxHeaderRouteDelRouteAt( routes.address(), 0 );
+        Owned route( telsxRouteCreate( targetOf( message ).get() ) );
+        telsxHeaderRouteAppendRoute( routes.address(), route.get() );
+        telsxMessageSetRequestIri( message.address(), next.get() );
     }
 
     if ( lengthOf( routes ) == 0 )
-        telsxHeaderRouteRemoveFromMessage( AddressOf( message ) );
+        telsxHeaderRouteRemoveFromMessage( message.address() );
     else
-        telsxHeaderRouteEncodeToMessage( routes.get(), AddressOf( message ) );
+        telsxHeaderRouteEncodeToMessage( routes.get(), message.address() );
     return Target( targetOf( message ) ).secure
            || ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).secure );
 }
@@ -195,27 +187,27 @@ bool followRoute( Message &message, const Place &place )
 // Has the dialog's later requests come by here too (RFC 3261, 16.6, step 4).
 void recordRoute( Message &message, const Place &place, bool secure )
 {
-    RecordRoute header( telsxHeaderRecordRouteCreate() );
+    Owned header( telsxHeaderRecordRouteCreate() );
     if ( telsxHeaderRecordRoutePresentInMessage( message.get() ) )
-        header = need<RecordRoute>( message, "Record-Route", telsxHeaderRecordRouteTryDecodeFromMessage );
-    Route route( telsxRouteCreate( toString( ( secure ? "sips:" : "sip:" ) + place.host + ";lr" ).get() ) );
-    telsxHeaderRecordRoutePrependRoute( AddressOf( header ), route.get() );
-    telsxHeaderRecordRouteEncodeToMessage( header.get(), AddressOf( message ) );
+        header = need( message, "Record-Route", telsxHeaderRecordRouteTryDecodeFromMessage );
+    Owned route( telsxRouteCreate( toString( ( secure ? "sips:" : "sip:" ) + place.host + ";lr" ).get() ) );
+    telsxHeaderRecordRoutePrependRoute( header.address(), route.get() );
+    telsxHeaderRecordRouteEncodeToMessage( header.get(), message.address() );
 }
 
 // The response without a body, sent back the way that the request came (RFC 3261, 8.2.6).
 Message respond( const Message &request, int64_t statusCode, To to, const std::string &tag )
 {
-    Version version( telsxVersionCreateSip20() );
-    Message response( telsxMessageCreateResponse( version.get(), statusCode ) );
+    Owned version( telsxVersionCreateSip20() );
+    Owned response( telsxMessageCreateResponse( version.get(), statusCode ) );
     for ( const char *name : { "Via", "From", "To", "Call-Id", "Cseq" } )
     {
-        Header header( telsxMessageHeaderCstr( request.get(), name, -1 ) );
-        telsxMessageSetHeader( AddressOf( response ), header.get() );
+        Owned header( telsxMessageHeaderCstr( request.get(), name, -1 ) );
+        telsxMessageSetHeader( response.address(), header.get() );
     }
     if ( !telsxHeaderToHasTag( to.get() ) )
-        telsxHeaderToSetTag( AddressOf( to ), toString( tag ).get() );
-    telsxHeaderToEncodeToMessage( to.get(), AddressOf( response ) );
+        telsxHeaderToSetTag( to.address(), toString( tag ).get() );
+    telsxHeaderToEncodeToMessage( to.get(), response.address() );
     return response;
 }
 
@@ -225,15 +217,15 @@ Message hop( Message message, const Place &place, std::ostream &read )
 {
     if ( !telsxMessageIsRequest( message.get() ) )
         throw std::runtime_error( "not a request" );
-    auto vias = need<Vias>( message, "Via", telsxHeaderViaTryDecodeFromMessage );
-    Via top( telsxHeaderViaViasLength( vias.get() ) ? telsxHeaderViaTryDecodeViaAt( vias.get(), 0 )
-                                                    : nullptr );
+    auto vias = need( message, "Via", telsxHeaderViaTryDecodeFromMessage );
+    Owned top( telsxHeaderViaViasLength( vias.get() ) ? telsxHeaderViaTryDecodeViaAt( vias.get(), 0 )
+                                                      : nullptr );
     if ( !top )
         throw std::runtime_error( "its top Via is missing or bad" );
-    auto from = need<From>( message, "From", telsxHeaderFromTryDecodeFromMessage );
-    auto to = need<To>( message, "To", telsxHeaderToTryDecodeFromMessage );
-    auto callId = need<CallId>( message, "Call-Id", telsxHeaderCallIdTryDecodeFromMessage );
-    auto cseq = need<Cseq>( message, "Cseq", telsxHeaderCseqTryDecodeFromMessage );
+    auto from = need( message, "From", telsxHeaderFromTryDecodeFromMessage );
+    auto to = need( message, "To", telsxHeaderToTryDecodeFromMessage );
+    auto callId = need( message, "Call-Id", telsxHeaderCallIdTryDecodeFromMessage );
+    auto cseq = need( message, "Cseq", telsxHeaderCseqTryDecodeFromMessage );
     auto show = [&read]( const char *name, const auto &value )
     {
         read << name << '\n';
@@ -248,22 +240,22 @@ Message hop( Message message, const Place &place, std::ostream &read )
     std::string mark = fingerprint( top, from, callId, cseq );
     if ( place.address )
         noteSource( top, place );
-    telsxHeaderViaSetViaAt( AddressOf( vias ), 0, top.get() );
-    telsxHeaderViaEncodeToMessage( vias.get(), AddressOf( message ) );
+    telsxHeaderViaSetViaAt( vias.address(), 0, top.get() );
+    telsxHeaderViaEncodeToMessage( vias.get(), message.address() );
     if ( !countHop( message ) )
     {
-        if ( toUtf8( String( telsxMessageRequestMethod( message.get() ) ) ) == "ACK" )
+        if ( toUtf8( Owned( telsxMessageRequestMethod( message.get() ) ) ) == "ACK" )
             throw std::runtime_error( "an ACK has no answer, and this one no hop left" );
         return respond( message, 483, std::move( to ), mark );
     }
     recordRoute( message, place, followRoute( message, place ) );
 
-    Version version( telsxVersionCreateSip20() );
-    String transport( telsxViaTransport( top.get() ) );
-    Via own( telsxViaCreate( version.get(), transport.get(), toString( place.host ).get() ) );
-    telsxViaSetBranch( AddressOf( own ), toString( "z9hG4bK" + mark ).get() );
-    telsxHeaderViaPrependVia( AddressOf( vias ), own.get() );
-    telsxHeaderViaEncodeToMessage( vias.get(), AddressOf( message ) );
+    Owned version( telsxVersionCreateSip20() );
+    Owned transport( telsxViaTransport( top.get() ) );
+    Owned own( telsxViaCreate( version.get(), transport.get(), toString( place.host ).get() ) );
+    telsxViaSetBranch( own.address(), toString( "z9hG4bK" + mark ).get() );
+    telsxHeaderViaPrependVia( vias.address(), own.get() );
+    telsxHeaderViaEncodeToMessage( vias.get(), message.address() );
     return message;
 }
 
@@ -282,7 +274,7 @@ bool toPlace( const char *host, const char *address, const char *port, Place &pl
     String name = toString( host );
     if ( !name || !telsxHostOk( name.get() ) )
         return false;
-    place.host = lowerCase( String( netDnsIdnaDomainNameToUnicode( name.get() ) ) );
+    place.host = lowerCase( Owned( netDnsIdnaDomainNameToUnicode( name.get() ) ) );
     if ( !address )
         return true;
     place.address = toIpAddress( toString( address ) );
@@ -333,7 +325,7 @@ int main( int argc, char **argv )
         std::cerr << "hop: that is no host, or no IP address and port\n";
         return 2;
     }
-    Message message( telsxMessageTryDecode( toBuffer( bytes ).get() ) );
+    Owned message( telsxMessageTryDecode( toBuffer( bytes ).get() ) );
     if ( !message )
     {
         std::cerr << "hop: " << name << ": not a whole SIP message, with CR LF at the end of each line\n";

@@ -138,14 +138,14 @@ public:
 
     void operator()( TELSX_VIA via ) const
     {
-        Version version( telsxViaVersion( via ) );
+        Owned version( telsxViaVersion( via ) );
         field( "protocol", telsxVersionToString( version.get() ) );
         field( "transport", telsxViaTransport( via ) );
         field( "host", telsxViaHost( via ) );
         field( "port", telsxViaPort( via ) );
         field( "ttl", telsxViaTtl( via ) );
         field( "maddr", telsxViaMaddr( via ) );
-        if ( IpAddress received{ telsxViaReceived( via ) } )
+        if ( Owned received{ telsxViaReceived( via ) } )
             field( "received", netAddressToString( received.get() ) );
         if ( telsxViaHasRportEmpty( via ) )
             line( "rport", "asked for" );
@@ -170,7 +170,7 @@ private:
     // What the getters return: a new reference or null, a number or -1.
     void field( const char *name, RT_STRING text ) const
     {
-        if ( String owned{ text } )
+        if ( Owned owned{ text } )
             line( name, printable( owned ) );
     }
     void field( const char *name, int64_t number ) const
@@ -188,12 +188,12 @@ private:
 
     void parameters( TELSX_GENERIC_PARAMS params ) const
     {
-        Parameters owned( params );
+        Owned owned( params );
         for ( int64_t i = 0; i < telsxGenericParamsLength( params ); ++i )
         {
-            Parameter param( telsxGenericParamsParamAt( params, i ) );
-            String value( telsxGenericParamValueNonNormalized( param.get() ) );
-            line( "parameter", printable( String( telsxGenericParamName( param.get() ) ) )
+            Owned param( telsxGenericParamsParamAt( params, i ) );
+            Owned value( telsxGenericParamValueNonNormalized( param.get() ) );
+            line( "parameter", printable( Owned( telsxGenericParamName( param.get() ) ) )
                                    + ( value ? "=" + printable( value ) : "" ) );
         }
     }
@@ -202,31 +202,30 @@ private:
 };
 
 // Of a kind that is one value. A kind that Reading doesn't know shows its text.
-template <class HEADER, class HANDLE>
-void showHeader( const char *name, const HEADER &header, RT_STRING ( *toString )( HANDLE ) )
+template <class HANDLE>
+void showHeader( const char *name, const Owned<HANDLE> &header, RT_STRING ( *toString )( HANDLE ) )
 {
     std::cout << "  " << name << '\n';
     if constexpr ( std::is_invocable_v<Reading, HANDLE> )
         Reading{ std::cout }( header.get() );
     else
-        std::cout << "    " << printable( String( toString( header.get() ) ) ) << '\n';
+        std::cout << "    " << printable( Owned( toString( header.get() ) ) ) << '\n';
 }
 
 inline bool isStar( TELSX_HEADER_CONTACT header ) { return telsxHeaderContactIsStarForm( header ); }
 inline bool isStar( const void * ) { return false; }
 
 // Of a kind that is a list of values.
-template <class HEADER, class HANDLE, class VALUE>
-void showValues( const char *name, const HEADER &header, int64_t ( *lengthOf )( HANDLE ),
-                 VALUE ( *tryDecodeAt )( HANDLE, int64_t ), void ( *release )( VALUE ) )
+template <class HANDLE, class VALUE>
+void showValues( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
+                 VALUE ( *tryDecodeAt )( HANDLE, int64_t ) )
 {
     int64_t length = lengthOf( header.get() );
     if ( length == 0 )
         std::cout << "  " << name << ( isStar( header.get() ) ? "\n    *\n" : " is empty\n" );
     for ( int64_t i = 0; i < length; ++i )
     {
-        std::unique_ptr<std::remove_pointer_t<VALUE>, void ( * )( VALUE )> value(
-            tryDecodeAt( header.get(), i ), release );
+        Owned value( tryDecodeAt( header.get(), i ) );
         std::cout << "  " << name;
         if ( length > 1 )
             std::cout << ' ' << i + 1 << " of " << length;
@@ -237,14 +236,14 @@ void showValues( const char *name, const HEADER &header, int64_t ( *lengthOf )( 
 }
 
 // Of a kind that is a list or a set of texts.
-template <class HEADER, class HANDLE>
-void showTexts( const char *name, const HEADER &header, int64_t ( *lengthOf )( HANDLE ),
+template <class HANDLE>
+void showTexts( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                 RT_STRING ( *textAt )( HANDLE, int64_t ) )
 {
     int64_t length = lengthOf( header.get() );
     std::cout << "  " << name << ( length ? "\n" : " is empty\n" );
     for ( int64_t i = 0; i < length; ++i )
-        std::cout << "    " << printable( String( textAt( header.get(), i ) ) ) << '\n';
+        std::cout << "    " << printable( Owned( textAt( header.get(), i ) ) ) << '\n';
 }
 
 // Goes through all kinds and shows those that the message holds.
@@ -252,15 +251,14 @@ inline void showTyped( const Message &message )
 {
     TELSX_MESSAGE msg = message.get();
     std::cout << "typed\n";
-#define SHOW( NAME, SORT, SIP_NAME, SHOW_HEADER, ... )                                                  \
-    if ( Owned<TELSX_##SORT, telsx##NAME##Release> header{ telsx##NAME##TryDecodeFromMessage( msg ) } ) \
-        SHOW_HEADER( SIP_NAME, header, __VA_ARGS__ );                                                   \
-    else if ( telsx##NAME##PresentInMessage( msg ) )                                                    \
+#define SHOW( NAME, SORT, SIP_NAME, SHOW_HEADER, ... )              \
+    if ( Owned header{ telsx##NAME##TryDecodeFromMessage( msg ) } ) \
+        SHOW_HEADER( SIP_NAME, header, __VA_ARGS__ );               \
+    else if ( telsx##NAME##PresentInMessage( msg ) )                \
         std::cout << "  " SIP_NAME " does not decode\n";
 #define TELSX_KIND( NAME, SORT, SIP_NAME ) SHOW( NAME, SORT, SIP_NAME, showHeader, telsx##NAME##ToString )
-#define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE )                                         \
-    SHOW( NAME, SORT, SIP_NAME, showValues, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At, \
-          telsx##VALUE##Release )
+#define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE ) \
+    SHOW( NAME, SORT, SIP_NAME, showValues, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At )
 #define TELSX_KIND_OF_TEXTS( NAME, SORT, SIP_NAME, WORD ) \
     SHOW( NAME, SORT, SIP_NAME, showTexts, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At )
 #include <telsx/telsx_headers.def>

@@ -10,7 +10,7 @@
 int main()
 {
     Library library;
-    Decoder decoder( telsxMessageStreamDecoderCreate() );
+    Owned decoder( telsxMessageStreamDecoderCreate() );
     int messages = 0;
     char piece[16];
     ssize_t length;

@@ -182,13 +182,13 @@ To: \"Bob Bürger\" <sip:bob@xn--mhle-0ra.example>;tag=314159
 Cseq: 1 INVITE
 Supported: timer
 ACK sip:bob@192.0.2.4 SIP/2.0
-Route: <sip:proxy.xn--mhle-0ra.example;lr>
-To: \"Bob Bürger\" <sip:bob@xn--mhle-0ra.example>;tag=314159
 Cseq: 1 ACK
-BYE sip:bob@192.0.2.4 SIP/2.0
 Route: <sip:proxy.xn--mhle-0ra.example;lr>
 To: \"Bob Bürger\" <sip:bob@xn--mhle-0ra.example>;tag=314159
-Cseq: 2 BYE"
+BYE sip:bob@192.0.2.4 SIP/2.0
+Cseq: 2 BYE
+Route: <sip:proxy.xn--mhle-0ra.example;lr>
+To: \"Bob Bürger\" <sip:bob@xn--mhle-0ra.example>;tag=314159"
 cp "$scratch/bytes" "$scratch/stream"
 expect 0 "$stream" <"$scratch/stream"
 prints "message 4"
