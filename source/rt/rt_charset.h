@@ -7,6 +7,7 @@
 
 RT_BEGIN
 
+/* The number of UTF-8. */
 #define RT_CHARSET_UTF8 44
 
 /* The text of the bytes, a new reference, or null if they are not strictly UTF-8: no overlong form, no

@@ -20,6 +20,7 @@ RT_OBJECT_TYPE( RT_API, rtDict, RT_DICT )
 /* A dictionary without entries, a new reference. */
 RT_API RT_DICT rtDictCreate( void );
 
+/* The number of keys. */
 RT_API int64_t rtDictLength( RT_DICT dict );
 
 /* The value under the key, a new reference, or null; whether there is one. */

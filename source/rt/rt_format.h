@@ -12,6 +12,7 @@ RT_BEGIN
 RT_API RT_BOOL rtFormatTryDecodeIntChars( const RT_CHAR *chs, int64_t length, int64_t radix, int64_t *value,
                                           int64_t *consumed );
 
+/* The smaller number of the two, and the larger one. */
 RT_API int64_t rtIntMin( int64_t a, int64_t b );
 RT_API int64_t rtIntMax( int64_t a, int64_t b );
 

@@ -9,16 +9,16 @@ RT_BEGIN
 /* What a module says of its build. */
 typedef struct RT_MODULE_RECORD_
 {
-    int64_t form; /* 2 */
-    const char *family;
-    const char *product;
-    int64_t release[3];
-    const char *buildTime; /* "UTC YYYY-MM-DD hh:mm:ss (Weekday)" */
-    const char *vendor;
-    const char *legalNotice;
-    const char *name;
-    const char *description;
-    const char *version;
+    int64_t form;              /* 2 */
+    const char *family;        /* of libraries */
+    const char *product;       /* a name */
+    int64_t release[3];        /* major, minor, patch */
+    const char *buildTime;     /* "UTC YYYY-MM-DD hh:mm:ss (Weekday)" */
+    const char *vendor;        /* a name */
+    const char *legalNotice;   /* who holds the rights */
+    const char *name;          /* of the module */
+    const char *description;   /* in a few words */
+    const char *version;       /* as text */
     const char *modulesNeeded; /* names with one blank between them */
     const char *last;          /* "" */
 } RT_MODULE_RECORD;
@@ -26,12 +26,12 @@ typedef struct RT_MODULE_RECORD_
 /* The module object. */
 typedef struct RT_MODULE_
 {
-    RT_OBJECT object;
-    const RT_MODULE_RECORD *record;
-    RT_BOOL ( *startup )( void );
-    void *reserved;
-    void ( *shutdown )( void );
-    void *reservedToo[5];
+    RT_OBJECT object;               /* its beginning, static */
+    const RT_MODULE_RECORD *record; /* static */
+    RT_BOOL ( *startup )( void );   /* at the first start; whether it came off */
+    void *reserved;                 /* null */
+    void ( *shutdown )( void );     /* at the last stop */
+    void *reservedToo[5];           /* null */
 } RT_MODULE;
 
 /* Starts a module, which is what its ...Module() function returns: before anything else of it is called.

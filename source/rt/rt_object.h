@@ -32,9 +32,11 @@ typedef uint32_t RT_CHAR;
 /* Whether the number is a code point. */
 #define RT_CHAR_OK( CH ) ( ( CH ) <= 0x10FFFF )
 
+/* The code points of a line end. */
 #define RT_CHAR_LINE_FEED 0x0A
 #define RT_CHAR_CARRIAGE_RETURN 0x0D
 
+/* The identity of a type, and the handle of a string (rt_string.h). */
 typedef const struct RT_SORT_ *RT_SORT;
 typedef struct RT_STRING_ *RT_STRING;
 
@@ -46,6 +48,7 @@ typedef struct RT_OBJECT_
     int64_t size;  /* of the block in bytes; 0 for an object that exists from load on */
 } RT_OBJECT, *RT_OBJ;
 
+/* The least count of an object that is never freed. */
 #define RT_COUNT_IMMORTAL ( (int64_t)1 << 62 )
 
 /* The header of an object that exists from load on and is never freed. */
@@ -58,9 +61,9 @@ typedef struct RT_OBJECT_
  * the functions may be null. */
 struct RT_SORT_
 {
-    RT_OBJECT object;
-    const struct RT_MODULE_ *module; /* that the type belongs to; null where there is none */
-    const char *name;
+    RT_OBJECT object;                 /* its own beginning, static */
+    const struct RT_MODULE_ *module;  /* that the type belongs to; null where there is none */
+    const char *name;                 /* such as "RT_STRING" */
     void ( *freeFunc )( RT_OBJ obj ); /* releases what the object refers to; the runtime frees the block */
     int64_t ( *compareFunc )( RT_OBJ objA, RT_OBJ objB ); /* of two objects of the type, neither null */
     RT_STRING ( *toStringFunc )( RT_OBJ obj );            /* a new reference */

@@ -16,6 +16,7 @@
 RT_BEGIN
 
 RT_OBJECT_TYPE( RT_API, rtString, RT_STRING )
+/* For the libraries above: the sort record, for strings that exist from load on. */
 extern RT_API const struct RT_SORT_ rt___sort_RT_STRING;
 
 /* New strings; each a new reference. CreateFromInner is the part of a string from the offset on, of that

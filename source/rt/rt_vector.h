@@ -14,6 +14,7 @@ RT_OBJECT_TYPE( RT_API, rtVector, RT_VECTOR )
 RT_API RT_VECTOR rtVectorCreate( void );
 RT_API RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity );
 
+/* The number of elements. */
 RT_API int64_t rtVectorLength( RT_VECTOR vector );
 
 /* The element at the index, a new reference. */

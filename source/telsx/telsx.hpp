@@ -16,6 +16,7 @@
 
 #include "telsx/telsx.h"
 
+// What C++ programs have beside the functions of C.
 namespace telsx
 {
 
@@ -27,29 +28,37 @@ class Owned
                    "Owned is for the handles of objects" );
 
 public:
+    // Null.
     Owned() = default;
 
     // Takes over a reference, which the caller was given: from all functions but Sort, Obj and From.
     explicit Owned( HANDLE given ) : handle( given ) {}
 
+    // Takes another reference to the object.
     Owned( const Owned &other ) : handle( other.handle )
     {
         if ( handle )
             rtObjRetain( obj() );
     }
+
+    // Takes over the reference of the other one, which is null then.
     Owned( Owned &&other ) noexcept : handle( std::exchange( other.handle, nullptr ) ) {}
+
+    // Releases the reference.
     ~Owned()
     {
         if ( handle )
             rtObjRelease( obj() );
     }
 
+    // The same for what takes the place of the reference that was held.
     Owned &operator=( Owned other ) noexcept
     {
         std::swap( handle, other.handle );
         return *this;
     }
 
+    // Whether there is an object.
     explicit operator bool() const { return handle != nullptr; }
 
     // The handle, borrowed, for arguments.
@@ -94,7 +103,9 @@ inline std::u32string_view toView( const Owned<RT_STRING> &string )
     return { reinterpret_cast<const char32_t *>( rtStringBacking( string.get() ) ),
              static_cast<std::size_t>( rtStringLength( string.get() ) ) };
 }
-std::u32string_view toView( const Owned<RT_STRING> && ) = delete; // it would outlive the string
+
+// The view would outlive the string.
+std::u32string_view toView( const Owned<RT_STRING> && ) = delete;
 
 // The text in UTF-8; a number that is no character, such as a surrogate, comes out as U+FFFD.
 inline std::string toUtf8( const Owned<RT_STRING> &string )

@@ -1,12 +1,13 @@
-/* What every public header needs: the declarations that all object types share. */
+/* All types: what they share, which every public header needs. */
 #ifndef TELSX_TELSX_OBJECT_H
 #define TELSX_TELSX_OBJECT_H
 
 #include "rt/rt.h"
 
 /* The handle of an object type and the functions that every type has: those of RT_OBJECT_TYPE
- * (rt/rt_object.h) and CreateFrom, a new object with the same fields, which shares what they refer to; null
- * aborts.
+ * (rt/rt_object.h) and
+ *
+ *   CreateFrom   a new object with the same fields, which shares what they refer to; null aborts
  *
  * The shapes of all other functions, where a type's header says nothing else:
  *
