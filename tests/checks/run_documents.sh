@@ -10,7 +10,7 @@ trap 'rm -rf "$scratch"' EXIT
 cd "$root"
 
 # The n-th block of C code in a document becomes <document>-<n>.c, the block of text behind it <document>-<n>.text.
-for document in README.md docs/cookbook.md; do
+for document in README.md docs/cookbook.md docs/accepts.md; do
     awk -v to="$scratch/$( basename "$document" .md )" '
         /^```c$/    { base = sprintf( "%s-%02d", to, ++n ); file = base ".c"; printf "" >file; next }
         /^```text$/ { file = base ? base ".text" : ""; base = ""; next }
