@@ -1,0 +1,89 @@
+// The heap as a program sees it that measures its own: how many bytes are in use, how many were at most, and
+// a heap that has run out. The functions of malloc stand here, so one unit of a program includes this. With
+// sanitizers, which have a malloc of their own, it measures nothing.
+#pragma once
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+namespace heap
+{
+
+inline std::atomic<int64_t> used, most;
+inline std::atomic<int64_t> allocationsLeft = INT64_MAX;
+
+inline void count( int64_t change )
+{
+    int64_t now = used += change;
+    if ( now > most )
+        most = now;
+}
+
+// A block with the word that the heap keeps before it.
+inline int64_t sizeOf( void *block )
+{
+    return block ? static_cast<int64_t>( malloc_usable_size( block ) + sizeof( std::size_t ) ) : 0;
+}
+
+inline void *counted( void *block )
+{
+    count( sizeOf( block ) );
+    return block;
+}
+
+inline bool hasRunOut()
+{
+    if ( allocationsLeft == INT64_MAX || allocationsLeft-- > 0 )
+        return false;
+    errno = ENOMEM;
+    return true;
+}
+
+#if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ )
+inline constexpr bool isMeasured = false;
+#else
+inline constexpr bool isMeasured = true;
+#endif
+
+} // namespace heap
+
+#if !defined( __SANITIZE_ADDRESS__ ) && !defined( __SANITIZE_THREAD__ )
+extern "C"
+{
+    void *__libc_malloc( std::size_t size );
+    void *__libc_calloc( std::size_t count, std::size_t size );
+    void *__libc_realloc( void *old, std::size_t size );
+    void __libc_free( void *block );
+
+    void *malloc( std::size_t size ) noexcept
+    {
+        return heap::hasRunOut() ? nullptr : heap::counted( __libc_malloc( size ) );
+    }
+    void *calloc( std::size_t count, std::size_t size ) noexcept
+    {
+        return heap::hasRunOut() ? nullptr : heap::counted( __libc_calloc( count, size ) );
+    }
+    // A block that moves counts twice while it does.
+    void *realloc( void *old, std::size_t size ) noexcept
+    {
+        if ( heap::hasRunOut() )
+            return nullptr;
+        int64_t before = heap::sizeOf( old );
+        void *block = heap::counted( __libc_realloc( old, size ) );
+        if ( block )
+            heap::count( -before );
+        return block;
+    }
+    void free( void *block ) noexcept
+    {
+        heap::count( -heap::sizeOf( block ) );
+        __libc_free( block );
+    }
+}
+#endif
