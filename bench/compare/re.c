@@ -67,15 +67,12 @@ static bool work( JOB job, char *bytes, size_t length )
 
 static int64_t count( SHAPE shape, char *bytes, size_t length )
 {
-    struct sip_msg *msg = shape == SHAPE_VIA_PARAMS ? NULL : decode( bytes, length );
-    if ( !msg )
-        return shape == SHAPE_VIA_PARAMS ? -1 : 0;
+    if ( shape != SHAPE_SAME_NAME && shape != SHAPE_DISTINCT )
+        return -1;
+    struct sip_msg *msg = decode( bytes, length );
     int64_t n = 0;
-    for ( const struct le *i = msg->hdrl.head; i; i = i->next )
-    {
-        const struct sip_hdr *header = i->data;
-        n += shape == SHAPE_CONTACTS ? header->id == SIP_HDR_CONTACT : *header->name.p == 'X';
-    }
+    for ( const struct le *i = msg ? msg->hdrl.head : NULL; i; i = i->next )
+        n += *( (const struct sip_hdr *)i->data )->name.p == 'X';
     mem_deref( msg );
     return n;
 }
