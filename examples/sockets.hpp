@@ -1,0 +1,253 @@
+// Messages from and to the network: one address and port, datagrams and TCP connections, one thread. What it
+// holds has a limit, whoever sends what.
+#pragma once
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/signalfd.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "example.hpp"
+
+// The address of an IPv4 or IPv6 socket.
+union SocketAddress
+{
+    sockaddr any;
+    sockaddr_in v4;
+    sockaddr_in6 v6 = {};
+
+    bool isV6() const { return any.sa_family == AF_INET6; }
+    socklen_t length() const { return isV6() ? sizeof v6 : sizeof v4; }
+    int64_t port() const { return ntohs( isV6() ? v6.sin6_port : v4.sin_port ); }
+    void setPort( int64_t port ) { ( isV6() ? v6.sin6_port : v4.sin_port ) = htons( uint16_t( port ) ); }
+
+    std::string host() const
+    {
+        char text[INET6_ADDRSTRLEN] = "";
+        inet_ntop( any.sa_family, isV6() ? (const void *)&v6.sin6_addr : &v4.sin_addr, text, sizeof text );
+        return text;
+    }
+    // False if the text is no IP address.
+    bool setHost( const char *text )
+    {
+        any.sa_family = std::strchr( text, ':' ) ? AF_INET6 : AF_INET;
+        return inet_pton( any.sa_family, text, isV6() ? (void *)&v6.sin6_addr : &v4.sin_addr ) == 1;
+    }
+};
+
+// A file descriptor, closed with the object.
+class Descriptor
+{
+public:
+    explicit Descriptor( int number = -1 ) : fd( number ) {}
+    Descriptor( Descriptor &&other ) noexcept : fd( std::exchange( other.fd, -1 ) ) {}
+    Descriptor &operator=( Descriptor &&other ) noexcept
+    {
+        std::swap( fd, other.fd );
+        return *this;
+    }
+    ~Descriptor()
+    {
+        if ( fd >= 0 )
+            close( fd );
+    }
+    int get() const { return fd; }
+
+private:
+    int fd;
+};
+
+// Where a message comes from, and where its answers go.
+struct Peer
+{
+    uint64_t connection; // 0 for a datagram; never used again for another one
+    SocketAddress address;
+};
+
+class Network
+{
+public:
+    static constexpr std::size_t maxMessage = 8192;    // bytes; a longer datagram is ignored
+    static constexpr std::size_t maxUnsent = 65536;    // bytes, to a peer that doesn't read
+    static constexpr std::size_t maxConnections = 256; // a further one takes the place of the quietest
+
+    // Listens there, on a port that it picks and puts there if it is 0; false and errno if it can't. SIGINT and
+    // SIGTERM are events from now on.
+    bool open( SocketAddress &address )
+    {
+        sigset_t mask;
+        sigemptyset( &mask );
+        sigaddset( &mask, SIGINT );
+        sigaddset( &mask, SIGTERM );
+        sigprocmask( SIG_BLOCK, &mask, nullptr );
+        signals = Descriptor( signalfd( -1, &mask, SFD_CLOEXEC ) );
+        // A port that is free for TCP may be taken for UDP.
+        SocketAddress wanted = address;
+        for ( int tries = 0; tries < 16; ++tries )
+        {
+            address = wanted;
+            socklen_t length = address.length();
+            if ( bindTo( address, SOCK_STREAM, listener ) && listen( listener.get(), 64 ) == 0
+                 && getsockname( listener.get(), &address.any, &length ) == 0
+                 && bindTo( address, SOCK_DGRAM, datagrams ) )
+                return true;
+            if ( errno != EADDRINUSE || wanted.port() != 0 )
+                break;
+        }
+        return false;
+    }
+
+    // Waits for messages until the time is up and calls receive( Message, Peer ) for each; false when a signal
+    // asks for the end.
+    template <class RECEIVE>
+    bool wait( int milliseconds, const RECEIVE &receive )
+    {
+        std::vector<pollfd> watched;
+        for ( const Descriptor *descriptor : { &signals, &listener, &datagrams } )
+            watched.push_back( { descriptor->get(), POLLIN, 0 } );
+        for ( const auto &[id, connection] : connections )
+        {
+            short events = connection.unsent.empty() ? POLLIN : POLLIN | POLLOUT;
+            watched.push_back( { connection.socket.get(), events, 0 } );
+        }
+        if ( poll( watched.data(), watched.size(), milliseconds ) <= 0 )
+            return true;
+        if ( watched[0].revents )
+            return false;
+
+        if ( watched[2].revents )
+            readDatagrams( receive );
+        auto ready = watched.begin() + 3;
+        for ( auto &[id, connection] : connections )
+        {
+            if ( ready->revents & POLLOUT )
+                flush( connection );
+            if ( ( ready++->revents & ~POLLOUT ) != 0 )
+                readStream( id, connection, receive );
+        }
+        for ( auto at = connections.begin(); at != connections.end(); )
+            at = at->second.over ? connections.erase( at ) : std::next( at );
+        if ( watched[1].revents )
+            acceptConnection();
+        return true;
+    }
+
+    // Nothing happens if the connection is gone.
+    void send( const Peer &peer, const std::string &bytes )
+    {
+        if ( peer.connection == 0 )
+        {
+            sendto( datagrams.get(), bytes.data(), bytes.size(), MSG_DONTWAIT, &peer.address.any,
+                    peer.address.length() );
+            return;
+        }
+        auto at = connections.find( peer.connection );
+        if ( at == connections.end() )
+            return;
+        at->second.unsent += bytes;
+        flush( at->second );
+    }
+
+private:
+    struct Connection
+    {
+        Descriptor socket;
+        SocketAddress address;
+        Owned<TELSX_MESSAGE_STREAM_DECODER> decoder{ telsxMessageStreamDecoderCreate() };
+        std::string unsent = {};
+        uint64_t lastHeard = 0;
+        bool over = false;
+    };
+
+    static bool bindTo( const SocketAddress &address, int type, Descriptor &to )
+    {
+        to = Descriptor( socket( address.any.sa_family, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0 ) );
+        int on = 1;
+        // So that a new process can have the port whose last connections the system still remembers.
+        if ( type == SOCK_STREAM )
+            setsockopt( to.get(), SOL_SOCKET, SO_REUSEADDR, &on, sizeof on );
+        return bind( to.get(), &address.any, address.length() ) == 0;
+    }
+
+    template <class RECEIVE>
+    void readDatagrams( const RECEIVE &receive )
+    {
+        // Connections have their turn too.
+        for ( int i = 0; i < 100; ++i )
+        {
+            Peer peer = {};
+            socklen_t addressLength = sizeof peer.address;
+            ssize_t length = recvfrom( datagrams.get(), piece, sizeof piece, MSG_DONTWAIT | MSG_TRUNC,
+                                       &peer.address.any, &addressLength );
+            if ( length < 0 )
+                return;
+            if ( std::size_t( length ) > maxMessage )
+                continue;
+            Buffer datagram = toBuffer( { piece, std::size_t( length ) } );
+            if ( Message message{ telsxMessageTryDecode( datagram.get() ) } )
+                receive( std::move( message ), peer );
+        }
+    }
+
+    template <class RECEIVE>
+    void readStream( uint64_t id, Connection &connection, const RECEIVE &receive )
+    {
+        ssize_t length = recv( connection.socket.get(), piece, sizeof piece, MSG_DONTWAIT );
+        if ( length <= 0 )
+        {
+            connection.over = length == 0 || ( errno != EAGAIN && errno != EINTR );
+            return;
+        }
+        connection.lastHeard = ++clock;
+        TELSX_MESSAGE_STREAM_DECODER decoder = connection.decoder.get();
+        telsxMessageStreamDecoderWrite( decoder, toBuffer( { piece, std::size_t( length ) } ).get() );
+        while ( Message message{ connection.over ? nullptr : telsxMessageStreamDecoderRead( decoder ) } )
+            receive( std::move( message ), Peer{ id, connection.address } );
+        // Behind a bad message nothing tells where the next one begins.
+        if ( telsxMessageStreamDecoderError( decoder )
+             || telsxMessageStreamDecoderLength( decoder ) > int64_t( maxMessage ) )
+            connection.over = true;
+    }
+
+    static void flush( Connection &connection )
+    {
+        ssize_t sent = ::send( connection.socket.get(), connection.unsent.data(), connection.unsent.size(),
+                               MSG_DONTWAIT | MSG_NOSIGNAL );
+        if ( sent > 0 )
+            connection.unsent.erase( 0, std::size_t( sent ) );
+        if ( ( sent < 0 && errno != EAGAIN && errno != EINTR ) || connection.unsent.size() > maxUnsent )
+        {
+            connection.unsent.clear();
+            connection.over = true;
+        }
+    }
+
+    void acceptConnection()
+    {
+        Connection connection;
+        socklen_t length = sizeof connection.address;
+        connection.socket = Descriptor(
+            accept4( listener.get(), &connection.address.any, &length, SOCK_CLOEXEC | SOCK_NONBLOCK ) );
+        if ( connection.socket.get() < 0 )
+            return;
+        auto quieter = []( const auto &a, const auto &b ) { return a.second.lastHeard < b.second.lastHeard; };
+        if ( connections.size() == maxConnections )
+            connections.erase( std::min_element( connections.begin(), connections.end(), quieter ) );
+        connection.lastHeard = ++clock;
+        connections.emplace( ++lastConnection, std::move( connection ) );
+    }
+
+    Descriptor signals, listener, datagrams;
+    std::map<uint64_t, Connection> connections;
+    uint64_t lastConnection = 0, clock = 0; // the clock counts what is heard
+    char piece[maxMessage + 1];
+};
