@@ -1,0 +1,148 @@
+#!/usr/bin/env bash
+# SIPp calls the example answer: many calls by UDP and TCP, calls that are given up, OPTIONS, REGISTER. Then come bytes
+# that are no SIP, and answer still answers.
+# usage: sipp.sh ANSWER ROOT      exits with 77 where there is no sipp
+set -euo pipefail
+
+command -v sipp >/dev/null || { echo "skipped: there is no sipp, which Debian's sip-tester has"; exit 77; }
+
+answer=$1 scenarios=$2/tests/sipp corpus=$2/fuzz/corpus
+calls=2000 rate=100
+scratch=$( mktemp -d )
+trap '[ -z "${pid-}" ] || kill "$pid"; rm -rf "$scratch"' EXIT
+cd "$scratch"
+
+fail() { echo "$1"; tail -n 20 ./*.err | cut -c 1-1000; exit 1; }
+
+# start MILLISECONDS: an answer that lets calls ring for so long, at $port.
+start()
+{
+    : >out
+    "$answer" --port 0 --ring "$1" >out 2>answer.err &
+    pid=$!
+    for (( i = 0; i < 200; i++ )); do
+        read -r _ _ _ port <out && return || sleep 0.1
+    done
+    fail "answer doesn't start"
+}
+
+# It ends well: nothing has stopped it, and a sanitizer has nothing to say.
+stop()
+{
+    kill "$pid"
+    wait "$pid" || fail "answer exits with $?"
+    pid=
+    [ ! -s answer.err ] || fail "answer complains"
+}
+
+# use NAME TRANSPORT ARGUMENT...: sipp does what the arguments say and counts in NAME.csv; all its calls are good.
+use()
+{
+    sipp "127.0.0.1:$port" -i 127.0.0.1 -t "$2" -nostdin -timeout 90 -timeout_error -trace_err -error_file "$1.err" \
+        -trace_stat -stf "$1.csv" -fd 1 "${@:3}" >"$1.screen" 2>&1 ||
+        { echo "sipp exits with $? ($1)"; grep -aE -- '(-->|<--)' "$1.screen" | tail -n 12; return 1; }
+    [ "$( counted "$1" 'FailedCall(C)' )" = 0 ] || { echo "calls fail ($1)"; return 1; }
+}
+counted()
+{
+    awk -F ';' -v name="$2" 'NR == 1 { for( i = 1; i <= NF; ++i ) if( $i == name ) at = i } END { print $at }' "$1.csv"
+}
+
+# Over a connection sipp sends nothing twice. With datagrams it does so after half a second, on a busy machine also when
+# all is well; but a response that it can't use costs it one copy of each request at least.
+many_calls()
+{
+    local good=true again_udp again_tcp
+    use udp u1 -sn uac -m $calls -r $rate -l $calls & local udp=$!
+    use tcp t1 -sn uac -m $calls -r $rate -l $calls || good=false
+    wait $udp || good=false
+    again_udp=$( counted udp 'Retransmissions(C)' ) again_tcp=$( counted tcp 'Retransmissions(C)' )
+    echo "$calls calls each: sent again by UDP $again_udp, by TCP $again_tcp"
+    $good && [ "$again_tcp" = 0 ] && (( again_udp < calls / 4 ))
+}
+
+# ask HEADER...: sends a request in one datagram and prints what comes back within five seconds.
+ask()
+{
+    printf '%s\r\n' "$@" 'Via: SIP/2.0/UDP a.example;branch=z9hG4bK1;rport' 'f: <sip:a@a.example>;tag=1' \
+        't: "B" <sip:b@b.example>' 'i: 1@a.example' '' >request
+    exec 3<>"/dev/udp/127.0.0.1/$port"
+    cat request >&3
+    timeout 5 dd bs=65536 count=1 status=none <&3 | tr -d '\r'
+    exec 3>&-
+}
+expect() { local got; got=$( ask "${@:2}" | head -n 1 ); [ "$got" = "SIP/2.0 $1" ] || fail "to $2 it says '$got', not $1"; }
+
+# send udp|tcp FILE: a datagram or a connection with these bytes, whether the other side reads all of them or not.
+send() { cat "$2" >"/dev/$1/127.0.0.1/$port" || true; } 2>/dev/null
+
+broken_messages()
+{
+    local i fd
+    for file in "$corpus"/{datagram,stream,headers}/*; do
+        send udp "$file"
+        send tcp "$file"
+    done
+    # An INVITE that ends anywhere or has a bad byte anywhere.
+    printf '%s\r\n' 'INVITE sip:b@b.example SIP/2.0' 'v: SIP/2.0/UDP a;branch=z9hG4bK2' 'f: <sip:a@a>;tag=1' 't: <sip:b@b>' \
+        'i: 2' 'CSeq: 1 INVITE' 'm: <sip:a@a>;expires=1' '' >invite
+    for (( i = 1; i < $( wc -c <invite ); i += 2 )); do
+        head -c "$i" invite >broken
+        send udp broken
+        { printf '\xff'; tail -c "+$(( i + 2 ))" invite; } >>broken
+        send udp broken
+    done
+    head -c 60000 /dev/urandom >noise
+    send udp noise
+    head -c 1000000 /dev/zero | tr '\0' a >endless
+    send tcp endless
+    # More connections than it holds, each with half a message.
+    for (( i = 0; i < 300; i++ )); do
+        exec {fd}<>"/dev/tcp/127.0.0.1/$port"
+        printf 'INVITE sip:b@b SIP/2.0\r\nl: 9999999999\r\n\r\nx' >&"$fd"
+        descriptors+=( "$fd" )
+    done
+}
+
+descriptors=()
+start 100
+many_calls || { echo "once more"; many_calls; } || fail "these are bad responses"
+
+for transport in u1 t1; do
+    use "options-$transport" "$transport" -sf "$scenarios/options.xml" -m 50 -r 100 || fail "OPTIONS"
+    use "register-$transport" "$transport" -sf "$scenarios/register.xml" -m 50 -r 100 || fail "REGISTER"
+done
+
+ask 'OPTIONS sip:b@b.example SIP/2.0' 'CSeq: 7 OPTIONS' | sed -E 's/rport=[0-9]+/rport=1/; s/tag=[0-9a-f]{16}/tag=2/' |
+    diff - <( cat <<'RESPONSE'
+SIP/2.0 200 OK
+Via: SIP/2.0/UDP a.example;received=127.0.0.1;rport=1;branch=z9hG4bK1
+From: <sip:a@a.example>;tag=1
+To: "B" <sip:b@b.example>;tag=2
+Call-Id: 1@a.example
+Cseq: 7 OPTIONS
+Allow: INVITE,ACK,CANCEL,BYE,OPTIONS,REGISTER
+Accept: application/sdp
+Content-Length: 0
+
+RESPONSE
+    ) || fail "the response to OPTIONS differs"
+expect '405 Method not allowed' 'PUBLISH sip:b SIP/2.0' 'CSeq: 1 PUBLISH'
+expect '481 Call leg/transaction does not exist' 'CANCEL sip:b SIP/2.0' 'CSeq: 1 CANCEL'
+expect '481 Call leg/transaction does not exist' 'BYE sip:b SIP/2.0' 'CSeq: 1 BYE'
+expect '420 Bad extension' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'Require: 100rel'
+expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 BYE'
+expect '400 Bad request' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' 'Contact: <sip:a>, <sip:b'
+expect '505 SIP version not supported' 'OPTIONS sip:b SIP/3.0' 'CSeq: 1 OPTIONS'
+
+broken_messages
+for transport in u1 t1; do
+    use "after-$transport" "$transport" -sf "$scenarios/options.xml" -m 1 || fail "it has stopped to answer"
+done
+stop
+
+start 60000
+for transport in u1 t1; do
+    use "cancel-$transport" "$transport" -sf "$scenarios/cancel.xml" -m 100 -r 100 || fail "CANCEL"
+done
+stop
