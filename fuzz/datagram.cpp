@@ -1,7 +1,10 @@
 // A datagram that decodes is written in a form that decodes to the same message and doesn't change any more.
 #include "fuzz.hpp"
+#include "mutator.hpp"
 
 using namespace fuzz;
+
+const std::size_t fuzz::messageOffset = 0;
 
 namespace
 {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "fuzz.hpp"
+#include "mutator.hpp"
 
 using namespace fuzz;
 
@@ -119,6 +120,8 @@ void test( std::string_view input )
 }
 
 } // namespace
+
+const std::size_t fuzz::messageOffset = turns;
 
 int LLVMFuzzerTestOneInput( const uint8_t *data, std::size_t size )
 {
