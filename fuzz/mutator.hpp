@@ -1,5 +1,4 @@
-// How inputs that are messages are changed: as messages, with the start line, the headers and the body moved
-// about, beside the fuzzer's own changes of bytes.
+// How inputs are changed, beside the fuzzer's own changes of bytes. mutator.cpp changes messages as messages.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +14,7 @@ extern "C" std::size_t LLVMFuzzerCustomCrossOver( const uint8_t *data1, std::siz
 namespace fuzz
 {
 
-// Where the message begins in an input of the target, which states it.
+// Where the message begins in an input of a target that mutator.cpp belongs to; the target states it.
 extern const std::size_t messageOffset;
 
 } // namespace fuzz

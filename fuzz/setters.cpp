@@ -146,19 +146,11 @@ void setReceived( Change &change )
     if ( auto address = adopt( rt::textOf( change.text ).as( netAddressTryCreateFromChars ) ) )
         call( change, telsxViaSetReceived, address.get() );
 }
-// A code below 100 is written without zeros in front and is no warning for anyone who reads it.
 void setWarnCode( Change &change )
 {
     int64_t code = change.number();
     if ( telsxWarnCodeOk( code ) )
         call( change, telsxWarningValueSetWarnCode, code, RT_BOOL( code % 2 ) );
-    change.exact &= code >= 100;
-}
-// No coding is written as a star, which is read as a coding.
-void delContentCoding( Change &change )
-{
-    call( change, telsxAcceptEncodingDelContentCoding );
-    change.exact = false;
 }
 void setStarForm( Change &change )
 {
@@ -231,6 +223,21 @@ const Type types[] = {
 #include "setters.def"
 };
 
+// Whether the wire can say what the object holds: no subtype without a type, no coding that is absent (it is
+// written as a star, which is read as a coding), no warning below 100 (it is written without zeros in front,
+// which is read as none).
+bool canBeSaid( RT_OBJ object )
+{
+    RT_SORT sort = rtObjSort( object );
+    if ( sort == telsxAcceptSort() )
+        return telsxAcceptHasMediaType( telsxAcceptFrom( object ) )
+               || !telsxAcceptHasMediaSubtype( telsxAcceptFrom( object ) );
+    if ( sort == telsxAcceptEncodingSort() )
+        return telsxAcceptEncodingHasContentCoding( telsxAcceptEncodingFrom( object ) );
+    return sort != telsxWarningValueSort()
+           || telsxWarningValueWarnCode( telsxWarningValueFrom( object ) ) >= 100;
+}
+
 // The first property that doesn't hold of the changed object, or null.
 const char *broken( const Type &type, const Change &change )
 {
@@ -238,7 +245,7 @@ const char *broken( const Type &type, const Change &change )
            again = adopt( type.tryDecode( encoded.get() ) );
     bool isEmptyList = rtObjSort( encoded.get() ) == telsxMessageHeaderSort()
                        && !telsxMessageHeaderLinesLength( telsxMessageHeaderFrom( encoded.get() ) );
-    if ( !change.exact || isEmptyList )
+    if ( !change.exact || isEmptyList || !canBeSaid( change.object.get() ) )
         return nullptr;
     if ( !again )
         return "what is encoded decodes";
