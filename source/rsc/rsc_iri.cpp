@@ -111,12 +111,17 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
 {
     Found found;
     Text rest = text;
-    if ( !rest.take( skipScheme( rest ) ) || !rest || rest.take( 1 ).chs[0] != ':' )
+    static constexpr RT_CHAR sip[] = { 's', 'i', 'p', ':' };
+    if ( text.length >= std::ssize( sip ) && std::equal( sip, std::end( sip ), text.chs ) )
+        rest.take( std::ssize( sip ) );
+    else if ( !rest.take( skipScheme( rest ) ) || !rest || rest.take( 1 ).chs[0] != ':' )
         return found;
     for ( Place place; rest; place.pass( rest.take( 1 ).chs[0] ) )
     {
-        while ( rest && rest.chs[0] < 0x80 && plainChars[rest.chs[0]] && rest.chs[0] != end )
-            rest.take( 1 );
+        const RT_CHAR *plain = rest.chs, *behind = plain + rest.length;
+        while ( plain != behind && *plain < 0x80 && plainChars[*plain] && *plain != end )
+            ++plain;
+        rest.take( plain - rest.chs );
         if ( !rest )
             break;
         RT_CHAR ch = rest.chs[0];

@@ -174,6 +174,11 @@ int64_t rt___Utf8Length( const unsigned char *bytes, int64_t length )
 
 int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_CHAR *into )
 {
+    if ( isAscii( bytes, length ) )
+    {
+        convert( bytes, length, into );
+        return length;
+    }
     return decode<true>( bytes, length, into );
 }
 

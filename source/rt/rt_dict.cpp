@@ -238,11 +238,11 @@ static RT_STRING toStringFunc( RT_OBJ obj )
 RT_DEFINE_STDFUNCS( rt, nullptr, Dict, RT_DICT, freeFunc, compareFunc, toStringFunc )
 
 // One empty dictionary serves all; the first change makes another.
-static constexpr RT_DICT_ emptyDict = {
+constexpr RT_DICT_ rt___emptyDict = {
     { &rt___sort_RT_DICT, RT_COUNT_IMMORTAL, 0 }, nullptr, 0, 0, 0, nullptr, 0, 0
 };
 
-RT_DICT rtDictCreate( void ) { return const_cast<RT_DICT>( &emptyDict ); }
+RT_DICT rtDictCreate( void ) { return const_cast<RT_DICT>( &rt___emptyDict ); }
 
 // The dictionary behind the handle, made private to it.
 static RT_DICT own( RT_DICT *handle )

@@ -17,6 +17,9 @@ RT_BEGIN
  * ", " between. */
 RT_OBJECT_TYPE( RT_API, rtDict, RT_DICT )
 
+/* For the libraries above: the dictionary without entries, which exists from load on. */
+extern RT_API const struct RT_DICT_ rt___emptyDict;
+
 /* A dictionary without entries, a new reference. */
 RT_API RT_DICT rtDictCreate( void );
 

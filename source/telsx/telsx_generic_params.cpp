@@ -16,11 +16,18 @@ TELSX_DEFINE_FREE_FUNC( GenericParams, params )
 TELSX_DEFINE_COMPARE_FUNC( GenericParams, params )
 TELSX_DEFINE_TO_STRING_FUNC( GenericParams, params )
 
+// One empty set serves all; the first change makes another. It has the shape of the type without its Ref.
+static constexpr struct
+{
+    RT_OBJECT object;
+    const RT_DICT_ *params;
+} emptyParams = { { &telsx___sort_TELSX_GENERIC_PARAMS, RT_COUNT_IMMORTAL, 0 }, &rt___emptyDict };
+static_assert( sizeof emptyParams == sizeof( TELSX_GENERIC_PARAMS_ ) );
+
 TELSX_GENERIC_PARAMS telsxGenericParamsCreate( void )
 {
-    TELSX_GENERIC_PARAMS params = rt::create<TELSX_GENERIC_PARAMS_>( telsxGenericParamsSort() );
-    params->params = adopt( rtDictCreate() );
-    return params;
+    return const_cast<TELSX_GENERIC_PARAMS>(
+        reinterpret_cast<const TELSX_GENERIC_PARAMS_ *>( &emptyParams ) );
 }
 
 // All parameters

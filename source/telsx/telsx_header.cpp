@@ -56,6 +56,19 @@ RT_STRING HeaderLines::last()
     return next();
 }
 
+// Most lines are short, and most decoders keep no part of them that could share a string.
+Text HeaderLines::lastText()
+{
+    Bytes bytes = entry ? lastLineOf( table, *entry ) : Bytes();
+    if ( !entry || bytes.size() > std::size( shortText ) )
+    {
+        RT_STRING line = last();
+        return line ? textOf( line ) : Text();
+    }
+    return { shortText, rt___Utf8Decode( reinterpret_cast<const unsigned char *>( bytes.data() ),
+                                         lengthOf( bytes ), shortText ) };
+}
+
 void HeaderLines::restart() { index = 0; }
 
 bool hasHeader( TELSX_MESSAGE msg, HeaderName name )

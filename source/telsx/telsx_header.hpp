@@ -24,6 +24,7 @@ public:
     bool empty() const;
     RT_STRING next(); // null behind the last one
     RT_STRING last(); // null if there is none
+    Text lastText();  // empty if there is none; borrowed as a string is
     void restart();
 
 private:
@@ -34,6 +35,7 @@ private:
     const HeaderEntry *entry = nullptr;    // and where there
     int64_t index = 0;                     // of the next line
     Ref<RT_STRING> text;                   // of the last line that was read in the table
+    RT_CHAR shortText[256];                // the same without a string
 };
 
 // The raw header with the lines of a store, a new reference, or null if a line of it is none.

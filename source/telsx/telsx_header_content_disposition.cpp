@@ -52,10 +52,7 @@ TELSX_MESSAGE_HEADER telsxHeaderContentDispositionEncode( TELSX_HEADER_CONTENT_D
 
 static TELSX_HEADER_CONTENT_DISPOSITION decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     Text dispositionType = rest.take( telsx___SkipDispositionType );
     if ( !dispositionType )
         return nullptr;

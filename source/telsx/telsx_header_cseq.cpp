@@ -3,7 +3,7 @@
 
 #include "telsx/telsx_cseq.h"
 #include "telsx/telsx_header.hpp"
-#include "telsx/telsx_method.h"
+#include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
 
 using namespace telsx;
@@ -35,11 +35,11 @@ void telsxHeaderCseqSetMethod( TELSX_HEADER_CSEQ *cs, RT_STRING method )
     rt::put( TELSX_OWN( cs )->method, method );
 }
 
-static TELSX_HEADER_CSEQ create( int64_t cseq, RT_STRING method )
+static TELSX_HEADER_CSEQ create( int64_t cseq, Ref<RT_STRING> method )
 {
     TELSX_HEADER_CSEQ hdr = rt::create<TELSX_HEADER_CSEQ_>( telsxHeaderCseqSort() );
     hdr->cseq = cseq;
-    hdr->method = share( method );
+    hdr->method = std::move( method );
     return hdr;
 }
 
@@ -47,7 +47,7 @@ TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
 {
     TELSX_ASSERT( telsxCseqOk( cseq ) );
     TELSX_ASSERT( telsxMethodOk( method ) );
-    return create( cseq, method );
+    return create( cseq, share( method ) );
 }
 
 TELSX_MESSAGE_HEADER telsxHeaderCseqEncode( TELSX_HEADER_CSEQ hdr )
@@ -59,14 +59,11 @@ TELSX_MESSAGE_HEADER telsxHeaderCseqEncode( TELSX_HEADER_CSEQ hdr )
 
 static TELSX_HEADER_CSEQ decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     int64_t cseq = tryDecodeNumber( rest.take( telsx___SkipDigits ), telsxCseqOk );
     if ( cseq == -1 || !rest.take( telsx___SkipLws ) || !covers( telsx___SkipMethod, rest ) )
         return nullptr;
-    return create( cseq, rest.copy().get() );
+    return create( cseq, stringOfMethod( rest ) );
 }
 
 void telsxHeaderCseqSetMethodCstr( TELSX_HEADER_CSEQ *hdr, const char *chars, int64_t length )

@@ -76,10 +76,7 @@ static bool takeName( Text &rest, int64_t ( *skip )( const RT_CHAR *, int64_t, i
 
 static TELSX_HEADER_DATE decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     int64_t weekday, day, month, year, hour, minute, second;
     bool taken = takeName( rest, telsx___SkipWkday, weekday ) && takeLiteral( rest, literal<", ">() )
                  && takeNumber( rest, 2, 1, 31, day ) && takeLiteral( rest, literal<" ">() )

@@ -53,10 +53,7 @@ TELSX_MESSAGE_HEADER telsxHeaderEventEncode( TELSX_HEADER_EVENT hdr )
 
 static TELSX_HEADER_EVENT decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     Text eventType = rest.take( telsx___SkipEventType );
     if ( !eventType )
         return nullptr;

@@ -36,9 +36,6 @@ TELSX_MESSAGE_HEADER telsxHeaderExpiresEncode( TELSX_HEADER_EXPIRES hdr )
 
 static TELSX_HEADER_EXPIRES decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    int64_t deltaSeconds = textOf( line ).as( telsx___DeltaSecondsTryDecode );
+    int64_t deltaSeconds = lines.lastText().as( telsx___DeltaSecondsTryDecode );
     return deltaSeconds == -1 ? nullptr : telsxHeaderExpiresCreate( deltaSeconds );
 }

@@ -51,7 +51,6 @@ TELSX_MESSAGE_HEADER telsxHeaderFromEncode( TELSX_HEADER_FROM hdr )
 
 static TELSX_HEADER_FROM decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
     Ref<TELSX_HEADER_FROM> hdr = adopt( create() );
-    return line && decodeFromTo( *hdr.get(), textOf( line ) ) ? hdr.take() : nullptr;
+    return decodeFromTo( *hdr.get(), lines.lastText() ) ? hdr.take() : nullptr;
 }

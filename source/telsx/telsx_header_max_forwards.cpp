@@ -37,9 +37,6 @@ TELSX_MESSAGE_HEADER telsxHeaderMaxForwardsEncode( TELSX_HEADER_MAX_FORWARDS hdr
 
 static TELSX_HEADER_MAX_FORWARDS decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    int64_t maxForwards = tryDecodeNumber( textOf( line ), telsxMaxForwardsOk );
+    int64_t maxForwards = tryDecodeNumber( lines.lastText(), telsxMaxForwardsOk );
     return maxForwards == -1 ? nullptr : telsxHeaderMaxForwardsCreate( maxForwards );
 }

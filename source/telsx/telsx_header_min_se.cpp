@@ -39,10 +39,7 @@ TELSX_MESSAGE_HEADER telsxHeaderMinSeEncode( TELSX_HEADER_MIN_SE hdr )
 
 static TELSX_HEADER_MIN_SE decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     int64_t deltaSeconds = rest.take( telsx___SkipDeltaSeconds ).as( telsx___DeltaSecondsTryDecode );
     if ( deltaSeconds == -1 )
         return nullptr;

@@ -46,10 +46,7 @@ TELSX_MESSAGE_HEADER telsxHeaderRackEncode( TELSX_HEADER_RACK hdr )
 
 static TELSX_HEADER_RACK decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     int64_t responseNum = tryDecodeNumber( rest.take( telsx___SkipDigits ), telsxResponseNumOk );
     if ( responseNum == -1 || !rest.take( telsx___SkipLws ) )
         return nullptr;

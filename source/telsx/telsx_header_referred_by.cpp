@@ -59,10 +59,7 @@ TELSX_MESSAGE_HEADER telsxHeaderReferredByEncode( TELSX_HEADER_REFERRED_BY hdr )
 
 static TELSX_HEADER_REFERRED_BY decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     Address address;
     if ( !takeAddress( rest, address ) )
         return nullptr;

@@ -39,9 +39,6 @@ TELSX_MESSAGE_HEADER telsxHeaderRemotePartyIdEncode( TELSX_HEADER_REMOTE_PARTY_I
 
 static TELSX_HEADER_REMOTE_PARTY_ID decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
     Ref<TELSX_HEADER_REMOTE_PARTY_ID> hdr = adopt( create() );
-    return decodeParty( *hdr.get(), textOf( line ) ) ? hdr.take() : nullptr;
+    return decodeParty( *hdr.get(), lines.lastText() ) ? hdr.take() : nullptr;
 }

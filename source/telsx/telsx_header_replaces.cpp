@@ -81,10 +81,7 @@ TELSX_MESSAGE_HEADER telsxHeaderReplacesEncode( TELSX_HEADER_REPLACES hdr )
 
 static TELSX_HEADER_REPLACES decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     Text callId = rest.take( telsx___SkipCallId );
     if ( !callId )
         return nullptr;

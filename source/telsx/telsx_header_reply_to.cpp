@@ -39,9 +39,6 @@ TELSX_MESSAGE_HEADER telsxHeaderReplyToEncode( TELSX_HEADER_REPLY_TO hdr )
 
 static TELSX_HEADER_REPLY_TO decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
     Ref<TELSX_HEADER_REPLY_TO> hdr = adopt( create() );
-    return decodeParty( *hdr.get(), textOf( line ) ) ? hdr.take() : nullptr;
+    return decodeParty( *hdr.get(), lines.lastText() ) ? hdr.take() : nullptr;
 }

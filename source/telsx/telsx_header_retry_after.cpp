@@ -56,10 +56,7 @@ TELSX_MESSAGE_HEADER telsxHeaderRetryAfterEncode( TELSX_HEADER_RETRY_AFTER hdr )
 
 static TELSX_HEADER_RETRY_AFTER decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     int64_t deltaSeconds = rest.take( telsx___SkipDeltaSeconds ).as( telsx___DeltaSecondsTryDecode );
     if ( deltaSeconds == -1 )
         return nullptr;

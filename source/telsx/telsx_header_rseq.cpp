@@ -34,9 +34,6 @@ TELSX_MESSAGE_HEADER telsxHeaderRseqEncode( TELSX_HEADER_RSEQ hdr )
 
 static TELSX_HEADER_RSEQ decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    int64_t responseNum = tryDecodeNumber( textOf( line ), telsxResponseNumOk );
+    int64_t responseNum = tryDecodeNumber( lines.lastText(), telsxResponseNumOk );
     return responseNum == -1 ? nullptr : telsxHeaderRseqCreate( responseNum );
 }

@@ -52,10 +52,7 @@ TELSX_MESSAGE_HEADER telsxHeaderSessionExpiresEncode( TELSX_HEADER_SESSION_EXPIR
 
 static TELSX_HEADER_SESSION_EXPIRES decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     int64_t deltaSeconds = rest.take( telsx___SkipDeltaSeconds ).as( telsx___DeltaSecondsTryDecode );
     if ( deltaSeconds == -1 )
         return nullptr;

@@ -82,10 +82,7 @@ TELSX_MESSAGE_HEADER telsxHeaderSubscriptionStateEncode( TELSX_HEADER_SUBSCRIPTI
 
 static TELSX_HEADER_SUBSCRIPTION_STATE decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    if ( !line )
-        return nullptr;
-    Text rest = textOf( line );
+    Text rest = lines.lastText();
     Text substateValue = rest.take( telsx___SkipSubstateValue );
     if ( !substateValue )
         return nullptr;

@@ -51,7 +51,6 @@ TELSX_MESSAGE_HEADER telsxHeaderToEncode( TELSX_HEADER_TO hdr )
 
 static TELSX_HEADER_TO decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
     Ref<TELSX_HEADER_TO> hdr = adopt( create() );
-    return line && decodeFromTo( *hdr.get(), textOf( line ) ) ? hdr.take() : nullptr;
+    return decodeFromTo( *hdr.get(), lines.lastText() ) ? hdr.take() : nullptr;
 }

@@ -7,7 +7,7 @@
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
-#include "telsx/telsx_method.h"
+#include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"
@@ -78,7 +78,7 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
     frag->version = adopt( rest.as( telsx___VersionTryDecode ) );
     if ( length < second.length || !frag->requestIri || !frag->version )
         return StartLine::bad;
-    frag->requestMethod = first.copy();
+    frag->requestMethod = stringOfMethod( first );
     return StartLine::good;
 }
 

@@ -106,7 +106,7 @@ int64_t telsx___SkipCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 int64_t telsx___SkipSwsCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 {
     Text rest = { chs, length };
-    int64_t found = telsx___SkipSwsChar( chs, length, ch );
+    int64_t found = length > 0 && chs[0] == ch ? 1 : telsx___SkipSwsChar( chs, length, ch );
     return found ? found + runOf( rest.behind( found ), classLws ) : 0;
 }
 
@@ -376,6 +376,12 @@ int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipVersion( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
+    RT_STRING usual = literal<"SIP/2.0">();
+    int64_t usualLength = rtStringLength( usual );
+    if ( length > usualLength && std::equal( chs, chs + usualLength, rtStringBacking( usual ) )
+         && !isIn( chs[usualLength], classToken ) )
+        return usualLength;
     return skipAll( { chs, length }, telsx___SkipProtocolName, telsx___SkipSlash,
                     telsx___SkipProtocolVersion );
 }

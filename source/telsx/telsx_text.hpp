@@ -39,6 +39,16 @@ inline RT_STRING upperCase( RT_STRING string )
     return upper.take();
 }
 
+// The string of a text that usually is one of the words, which are constants.
+template <rt::Ascii... WORD>
+Ref<RT_STRING> stringOfWord( Text text )
+{
+    RT_STRING found = nullptr;
+    (void)( ( rtStringEqualsChars( literal<WORD>(), text.chs, text.length ) && ( found = literal<WORD>() ) )
+            || ... );
+    return found ? adopt( found ) : text.copy();
+}
+
 // The length of the word if the text begins with it, its letters in any case, else 0.
 inline int64_t skipWordInAnyCase( Text text, RT_STRING word )
 {

@@ -36,7 +36,7 @@ public:
     template <rt::Ascii NAME>
     bool is( Skipper skipValue )
     {
-        return open && isNamed( { NAME.chs, std::size( NAME.chs ) - 1 }, skipValue );
+        return open && mayBe( NAME.chs[0] ) && isNamed( { NAME.chs, std::size( NAME.chs ) - 1 }, skipValue );
     }
     Text value;
 
@@ -44,7 +44,7 @@ public:
     template <rt::Ascii NAME>
     bool isBare()
     {
-        return open && isBareNamed( { NAME.chs, std::size( NAME.chs ) - 1 } );
+        return open && mayBe( NAME.chs[0] ) && isBareNamed( { NAME.chs, std::size( NAME.chs ) - 1 } );
     }
 
     // Stores what the value decoded to, unless that is null or -1; whether it did.
@@ -69,6 +69,10 @@ public:
     void storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params );
 
 private:
+    bool mayBe( RT_CHAR firstOfName ) const
+    {
+        return rest && ( rest.chs[0] | 0x20 ) == ( firstOfName | 0x20 );
+    }
     bool isNamed( Text name, Skipper skipValue );
     bool isBareNamed( Text name );
     bool take();

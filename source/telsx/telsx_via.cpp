@@ -57,12 +57,12 @@ TELSX_DEFINE_FIELD( Via, via, Branch, branch, telsxBranchOk( branch ) )
 TELSX_DEFINE_OPTION( Via, via, Branch, branch )
 TELSX_DEFINE_FIELD( Via, via, GenericParams, genericParams, genericParams )
 
-static TELSX_VIA create( TELSX_VERSION version, RT_STRING transport, RT_STRING host )
+static TELSX_VIA create( Ref<TELSX_VERSION> version, Ref<RT_STRING> transport, Ref<RT_STRING> host )
 {
     TELSX_VIA via = rt::create<TELSX_VIA_>( telsxViaSort() );
-    via->version = share( version );
-    via->transport = adopt( lowerCase( transport ) );
-    via->host = share( host );
+    via->version = std::move( version );
+    via->transport = std::move( transport );
+    via->host = std::move( host );
     via->genericParams = adopt( telsxGenericParamsCreate() );
     return via;
 }
@@ -72,7 +72,7 @@ TELSX_VIA telsxViaCreate( TELSX_VERSION version, RT_STRING transport, RT_STRING 
     TELSX_ASSERT( version );
     TELSX_ASSERT( telsxTransportOk( transport ) );
     TELSX_ASSERT( telsxHostOk( host ) );
-    return create( version, transport, host );
+    return create( share( version ), adopt( telsxTransportNormalize( transport ) ), share( host ) );
 }
 
 TELSX_VIA telsxViaCreateWithPort( TELSX_VERSION version, RT_STRING transport, RT_STRING host, int64_t port )
@@ -166,6 +166,14 @@ static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
     return v6 ? v6 : telsx___SkipIpV4Address( chs, length );
 }
 
+static Ref<RT_STRING> decodeTransport( Text text )
+{
+    for ( RT_STRING usual : { literal<"udp">(), literal<"tcp">(), literal<"tls">() } )
+        if ( skipWordInAnyCase( text, usual ) == text.length )
+            return adopt( usual );
+    return adopt( lowerCase( text.copy().get() ) );
+}
+
 TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
@@ -179,7 +187,7 @@ TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
     auto host = adopt( rest.take( telsx___SkipHost ).as( telsx___HostTryDecode ) );
     if ( !host )
         return nullptr;
-    auto via = adopt( create( version.get(), transport.copy().get(), host.get() ) );
+    auto via = adopt( create( std::move( version ), decodeTransport( transport ), std::move( host ) ) );
     if ( rest.take( telsx___SkipColon ) )
     {
         via->port = rest.take( telsx___SkipPort ).as( telsx___PortTryDecode );
