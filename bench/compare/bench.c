@@ -347,6 +347,18 @@ static void grow( void )
         }
 }
 
+static void items( const char *name, int n, int64_t times )
+{
+    for ( SHAPE shape = 0; shape < SHAPES; ++shape )
+        if ( strcmp( name, shapes[shape] ) == 0 )
+        {
+            MESSAGE message = shaped( shape, n );
+            while ( times-- > 0 )
+                need( parser.count( shape, message.bytes, message.length ) == n, name );
+            free( message.bytes );
+        }
+}
+
 static void stream( const TIMING *timing )
 {
     enum
@@ -411,13 +423,15 @@ int main( int argc, char **argv )
     }
     else if ( strcmp( mode, "grow" ) == 0 )
         grow();
+    else if ( strcmp( mode, "items" ) == 0 && name )
+        items( job, atoi( name ), number );
     else if ( strcmp( mode, "stream" ) == 0 && parser.stream )
         stream( &timing );
     else
     {
         fprintf( stderr,
                  "usage: %s check | heap | grow | stream RUNS | (time | threads) RUNS [JOB [MESSAGE]] |"
-                 " loop N [JOB [MESSAGE]]\n",
+                 " loop N [JOB [MESSAGE]] | items N SHAPE COUNT\n",
                  argv[0] );
         return 2;
     }

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""tables.py RESULTS MESSAGES CHART: the tables of what scripts/compare has measured, as Markdown, and the chart."""
+"""tables.py RESULTS MESSAGES DOCUMENT CHART: prints what scripts/compare has measured as tables in Markdown, puts them
+into the document between its two comments, and draws the chart."""
 import math
 import os
+import re
 import statistics
 import sys
 
@@ -11,7 +13,8 @@ MESSAGES = {"invite": "INVITE", "ok": "200", "register": "REGISTER", "options": 
 SHAPES = {"same-name": "headers of one name", "distinct": "headers of n names",
           "via-parameters": "parameters of a Via", "contacts": "values of a Contact"}
 
-results, messages, chart = sys.argv[1:]
+results, messages, document, chart = sys.argv[1:]
+output = []
 
 
 def size(message):
@@ -36,12 +39,12 @@ def number(value, digits=0):
 def table(title, header, rows):
     rows = [[str(cell) for cell in row] for row in rows]
     if any(set(row[2:]) - {"–"} for row in rows):
-        print(f"\n### {title}\n")
-        print("| " + " | ".join(header) + " |")
+        output.append(f"\n### {title}\n")
+        output.append("| " + " | ".join(header) + " |")
         texts = 1 if header[1].startswith(("telsx", "bytes")) else 2
-        print("|" + "---|" * texts + "---:|" * (len(header) - texts))
+        output.append("|" + "---|" * texts + "---:|" * (len(header) - texts))
         for row in rows:
-            print("| " + " | ".join(row) + " |")
+            output.append("| " + " | ".join(row) + " |")
 
 
 def jobs_table(title, values, cell):
@@ -59,21 +62,25 @@ def jobs_table(title, values, cell):
 
 def slope(points):
     """The exponent of the growth, by least squares of the logarithms."""
+    if not points:
+        return None
     logs = [(math.log(n), math.log(ns)) for n, ns in points]
     x, y = (statistics.mean(axis) for axis in zip(*logs))
     return sum((a - x) * (b - y) for a, b in logs) / sum((a - x) ** 2 for a, _ in logs)
 
 
-def grow_table(values):
-    counts = sorted({int(key[2]) for key in values})
+def grow_table(times, instructions):
+    counts = sorted({int(key[2]) for key in times})
     rows = []
     for shape in SHAPES:
         for parser in PARSERS:
-            points = [(n, values[parser, shape, str(n)][0]) for n in counts if (parser, shape, str(n)) in values]
+            def points(values):
+                return [(n, values[parser, shape, str(n)][0]) for n in counts if (parser, shape, str(n)) in values]
             row = [SHAPES[shape] if parser == "telsx" else "", PARSERS[parser]]
-            row += [number(ns / 1000) for _, ns in points] or ["–"] * len(counts)
-            rows.append(row + [number(slope(points), 2) if points else "–"])
-    table("Growth: microseconds for n of the same", ["n of", "parser", *(f"{n:,}" for n in counts), "exponent"], rows)
+            row += [number(ns / 1000) for _, ns in points(times)] or ["–"] * len(counts)
+            rows.append(row + [number(slope(points(values)), 2) for values in (times, instructions)])
+    table("Growth: microseconds for n of the same, and the exponents of time and instructions",
+          ["n of", "parser", *(f"{n:,}" for n in counts), "time", "instructions"], rows)
 
 
 STYLE = """
@@ -98,7 +105,7 @@ def draw(values):
             if (parser, job, "invite") in values:
                 ns = values[parser, job, "invite"][0]
                 length = ns / longest * (width - left - right)
-                parts.append(f'<rect class="{parser}" x="{left}" y="{y}" width="{length:.1f}" height="{bar - 4}" rx="2"/>')
+                parts.append(f'<rect class="{parser}" x="{left}" y="{y}" width="{length:.1f}" height="{bar - 4}"/>')
                 parts.append(f'<text x="{left + length + 6:.1f}" y="{y + 13}">{number(ns)}</text>')
                 parts.append(f'<text x="{left - 8}" y="{y + 13}" text-anchor="end">{PARSERS[parser]}</text>')
                 y += bar
@@ -116,12 +123,12 @@ def draw(values):
         out.write("\n".join(parts) + "\n</svg>\n")
 
 
-print(open(f"{results}/machine").read().strip())
+output.append(open(f"{results}/machine").read().strip())
 times = read("time", 3)
 jobs_table("Time: nanoseconds for a message", times, lambda cell: number(cell[0]))
 jobs_table("Work: instructions for a message", read("instructions", 3), lambda cell: number(cell[0]))
 jobs_table("Heap: calls (bytes) for a message", read("heap", 3), lambda cell: f"{number(cell[0])} ({number(cell[1])})")
-grow_table(read("grow", 3))
+grow_table(read("grow", 3), read("growth", 3))
 pairs = read("threads", 3)
 table("Two threads: times the work of one, INVITE", ["job", *PARSERS.values()],
       [[job, *(number(pairs.get((parser, job, "invite"), [None])[0], 2) for parser in PARSERS)] for job in JOBS])
@@ -131,3 +138,9 @@ table("Stream of 10,000 messages", ["message", "bytes", "GB/s"],
        for message, name in MESSAGES.items()])
 if times:
     draw(times)
+
+text = "\n".join(output)
+print(text)
+filled = re.sub(r"(<!-- tables.*?-->\n).*(<!-- end)", lambda part: f"{part[1]}\n{text}\n\n{part[2]}",
+                open(document).read(), flags=re.S)
+open(document, "w").write(filled)
