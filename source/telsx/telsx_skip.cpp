@@ -105,8 +105,10 @@ int64_t telsx___SkipCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 
 int64_t telsx___SkipSwsCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 {
+    TELSX_ASSERT_CHARS( chs, length );
+    TELSX_ASSERT( RT_CHAR_OK( ch ) );
     Text rest = { chs, length };
-    int64_t found = length > 0 && chs[0] == ch ? 1 : telsx___SkipSwsChar( chs, length, ch );
+    int64_t found = length && chs[0] == ch ? 1 : telsx___SkipSwsChar( chs, length, ch );
     return found ? found + runOf( rest.behind( found ), classLws ) : 0;
 }
 
