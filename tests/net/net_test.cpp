@@ -1,31 +1,20 @@
 // IP addresses and internationalised domain names.
 #include <random>
-#include <sstream>
 
 #include "net/net.h"
-#include "support/support.hpp"
+#include "rt/model.hpp"
 
 using namespace support;
 
-// The texts stand between single blanks, and a bar in each where the skipper must stop.
-static void expectMeasured( rt::Skipper skip, const std::string &table )
+static void expectStops( rt::Skipper skip, const std::string &table )
 {
-    std::istringstream rows( table );
-    for ( std::string row; std::getline( rows, row, ' ' ); )
-    {
-        std::size_t bar = row.find( '|' );
-        Ref<RT_STRING> text = str( row.substr( 0, bar ) + row.substr( bar + 1 ) );
-        EXPECT_EQ( rtStringLength( str( row.substr( 0, bar ) ).get() ),
-                   skip( rtStringBacking( text.get() ), rtStringLength( text.get() ) ) )
-            << row;
-    }
+    for ( const std::string &text : words( table ) )
+        expectStop( skip, text );
 }
 
 static Ref<NET_ADDRESS> address( std::string_view utf8 )
 {
-    Ref<RT_STRING> text = str( utf8 );
-    return adopt(
-        netAddressTryCreateFromChars( rtStringBacking( text.get() ), rtStringLength( text.get() ) ) );
+    return adopt( applied( netAddressTryCreateFromChars, utf8 ) );
 }
 
 static std::string shrunk( std::string_view utf8 )
@@ -36,56 +25,42 @@ static std::string shrunk( std::string_view utf8 )
 
 TEST( NetAddress, IpV4IsMeasured )
 {
-    expectMeasured( net___SkipIpV4Address,
-                    "1.2.3.4| 255.255.255.255| 0.0.0.0| 1.2.3.4|x 1.2.3.4|. 1.2.3.45|.6 "
-                    "|1.2.3.256 |1.2.3.2555 |01.2.3.4 |1.2.3.00 |1.2.3 |1.2.3. |1..2.3 "
-                    "|.1.2.3.4 | |a.b.c.d |-1.2.3.4 |\t1.2.3.4 |1.2.3.99999999999999999999 "
-                    "|1.2.3.\xD9\xA4" );
+    expectStops( net___SkipIpV4Address,
+                 "1.2.3.4| 255.255.255.255| 0.0.0.0| 1.2.3.4|x 1.2.3.4|. 1.2.3.45|.6 "
+                 "|1.2.3.256 |1.2.3.2555 |01.2.3.4 |1.2.3.00 |1.2.3 |1.2.3. |1..2.3 "
+                 "|.1.2.3.4 | |a.b.c.d |-1.2.3.4 |\t1.2.3.4 |1.2.3.99999999999999999999 "
+                 "|1.2.3.\xD9\xA4" );
 }
 
 TEST( NetAddress, IpV6IsMeasured )
 {
-    expectMeasured( net___SkipIpV6Address,
-                    "::| |: ::|: ::1| 1::| 1::|: 1::2|: 1::2|::3 |1:2 |1:2:3:4:5:6:7 "
-                    "1:2:3:4:5:6:7:8| 1:2:3:4:5:6:7:8|:9 1:2:3:4:5:6:7:8|:: 1:2:3:4:5:6:7::| "
-                    "1:2:3:4:5:6:7::|8 ::2:3:4:5:6:7:8| ::1:2:3:4:5:6:7|:8 ABCD:ef01::1234|5 "
-                    "|12345:: ::|g ::1.2.3.4| ::1|.2.3.256 ::1.2.3.4|:5 ::ffff:1.2.3.4| "
-                    "1:2:3:4:5:6:1.2.3.4| |1:2:3:4:5:1.2.3.4 1:2:3:4:5:6:7:1|.2.3.4 "
-                    "1:2:3:4:5::1.2.3.4| 1:2:3:4:5:6::1|.2.3.4 |1.2.3.4 |[::1] |" );
+    expectStops( net___SkipIpV6Address,
+                 "::| |: ::|: ::1| 1::| 1::|: 1::2|: 1::2|::3 |1:2 |1:2:3:4:5:6:7 "
+                 "1:2:3:4:5:6:7:8| 1:2:3:4:5:6:7:8|:9 1:2:3:4:5:6:7:8|:: 1:2:3:4:5:6:7::| "
+                 "1:2:3:4:5:6:7::|8 ::2:3:4:5:6:7:8| ::1:2:3:4:5:6:7|:8 ABCD:ef01::1234|5 "
+                 "|12345:: ::|g ::1.2.3.4| ::1|.2.3.256 ::1.2.3.4|:5 ::ffff:1.2.3.4| "
+                 "1:2:3:4:5:6:1.2.3.4| |1:2:3:4:5:1.2.3.4 1:2:3:4:5:6:7:1|.2.3.4 "
+                 "1:2:3:4:5::1.2.3.4| 1:2:3:4:5:6::1|.2.3.4 |1.2.3.4 |[::1] |" );
 }
 
 TEST( NetAddress, TextIsTheShortest )
 {
-    const std::pair<const char *, const char *> table[] = {
-        { "192.0.2.1", "192.0.2.1" },
-        { "2001:0DB8:0:0:0:0:0:1", "2001:db8::1" },
-        { "0:0:0:0:0:0:0:0", "::" },
-        { "0:0:0:0:0:0:0:1", "::1" },
-        { "1:0:0:0:0:0:0:0", "1::" },
-        { "2001:db8:0:1:1:1:1:1", "2001:db8:0:1:1:1:1:1" }, // one zero is not compressed
-        { "2001:db8::1:1:1:1:1", "2001:db8:0:1:1:1:1:1" },
-        { "2001:0:0:1:0:0:0:1", "2001:0:0:1::1" },
-        { "2001:db8:0:0:1:0:0:1", "2001:db8::1:0:0:1" },
-        { "::FFFF:192.0.2.128", "::ffff:192.0.2.128" },
-        { "0:0:0:0:0:ffff:0:0", "::ffff:0.0.0.0" },
-        { "::1.2.3.4", "::102:304" },
-        { "1:2:3:4:5:6:255.254.253.252", "1:2:3:4:5:6:fffe:fdfc" },
-        { "1.2.3.4x", "(null)" },
-        { "", "(null)" },
-        { "host", "(null)" }
-    };
-    for ( auto [text, expected] : table )
-        EXPECT_EQ( expected, shrunk( text ) ) << text;
+    // A single zero is not compressed.
+    for ( const std::string &row : words(
+              "192.0.2.1=192.0.2.1 2001:0DB8:0:0:0:0:0:1=2001:db8::1 0:0:0:0:0:0:0:0=:: 0:0:0:0:0:0:0:1=::1 "
+              "1:0:0:0:0:0:0:0=1:: 2001:db8:0:1:1:1:1:1=2001:db8:0:1:1:1:1:1 "
+              "2001:db8::1:1:1:1:1=2001:db8:0:1:1:1:1:1 2001:0:0:1:0:0:0:1=2001:0:0:1::1 "
+              "2001:db8:0:0:1:0:0:1=2001:db8::1:0:0:1 ::FFFF:192.0.2.128=::ffff:192.0.2.128 "
+              "0:0:0:0:0:ffff:0:0=::ffff:0.0.0.0 ::1.2.3.4=::102:304 "
+              "1:2:3:4:5:6:255.254.253.252=1:2:3:4:5:6:fffe:fdfc 1.2.3.4x=(null) =(null) host=(null)" ) )
+        EXPECT_EQ( halves( row ).second, shrunk( halves( row ).first ) ) << row;
 }
 
 TEST( NetAddress, FamilyThenBytesOrder )
 {
-    const char *ascending[] = { "1.2.3.4", "127.0.0.1", "255.0.0.0", "::", "::1", "1::", "8000::", "ffff::" };
-    for ( std::size_t i = 0; i < std::size( ascending ); ++i )
-        for ( std::size_t j = 0; j < std::size( ascending ); ++j )
-            EXPECT_EQ( i <=> j,
-                       netAddressCompare( address( ascending[i] ).get(), address( ascending[j] ).get() )
-                           <=> 0 );
+    auto make = []( const char *text ) { return netAddressObj( address( text ).take() ); };
+    model::expectAscending( make, "1.2.3.4", "127.0.0.1", "255.0.0.0", "::", "::1",
+                            "1::", "8000::", "ffff::" );
     EXPECT_TRUE( netAddressEquals( address( "1::0" ).get(), address( "1:0::" ).get() ) );
     EXPECT_FALSE( netAddressEquals( address( "::1.2.3.4" ).get(), address( "1.2.3.4" ).get() ) );
 }
@@ -205,10 +180,7 @@ TEST( NetDnsIdna, EveryHostConvertsAndConvertsBack )
 
 TEST( NetDeathTest, ContractsAreKept )
 {
-    EXPECT_ABORT( netDnsIdnaDomainNameOk( nullptr ), "name" );
     EXPECT_ABORT( netDnsIdnaDomainNameToAscii( str( "a b" ).get() ), "netDnsIdnaDomainNameOk( name )" );
-    EXPECT_ABORT( netDnsIdnaDomainNameToUnicode( str( "" ).get() ), "netDnsIdnaDomainNameOk( name )" );
-    EXPECT_ABORT( netAddressToStringShrink( nullptr ), "address" );
     EXPECT_ABORT( net___SkipIpV6Address( nullptr, -1 ), "length >= 0" );
     EXPECT_ABORT( netAddressTryCreateFromChars( nullptr, 1 ), "chs || length == 0" );
 }

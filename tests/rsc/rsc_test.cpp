@@ -1,25 +1,16 @@
 // IRIs and URIs.
 #include <algorithm>
 #include <random>
-#include <sstream>
 
 #include "rsc/rsc.h"
 #include "support/support.hpp"
 
 using namespace support;
 
-// The texts stand between single blanks, and a bar in each where the skipper must stop.
-static void expectMeasured( rt::Skipper skip, const std::string &table )
+static void expectStops( rt::Skipper skip, const std::string &table )
 {
-    std::istringstream rows( table );
-    for ( std::string row; std::getline( rows, row, ' ' ); )
-    {
-        std::size_t bar = row.find( '|' );
-        Ref<RT_STRING> text = str( row.substr( 0, bar ) + row.substr( bar + 1 ) );
-        EXPECT_EQ( rtStringLength( str( row.substr( 0, bar ) ).get() ),
-                   skip( rtStringBacking( text.get() ), rtStringLength( text.get() ) ) )
-            << row;
-    }
+    for ( const std::string &text : words( table ) )
+        expectStop( skip, text );
 }
 
 static Ref<RT_STRING> toUri( const Ref<RT_STRING> &iri ) { return adopt( rscTryConvertToUri( iri.get() ) ); }
@@ -38,14 +29,13 @@ static bool isAscii( const std::string &text )
 
 TEST( RscIri, TheLongestIriIsMeasured )
 {
-    expectMeasured( rsc___SkipIri,
-                    "sip:alice@example.com;transport=tcp?a=b#c| a:| A+b-c.9:x| sip:[2001:db8::1]:5060|>x "
-                    "tel:+1-2;x=[]| |1a:x |+:x |:x |sip |s_p:x |ä:x | sip:a|\tb sip:a|\"b sip:a|\\ "
-                    "sip:a|%4 sip:a|%4g sip:a|% sip:a%4fb| x:a#b|#c x:a#b?c?d| x:ä€𐀀| x:|\u0080 "
-                    "x:|\uFDD0 x:|\uFFFE x:|\U0001FFFE x:|\U000E0001" );
+    expectStops( rsc___SkipIri,
+                 "sip:alice@example.com;transport=tcp?a=b#c| a:| A+b-c.9:x| sip:[2001:db8::1]:5060|>x "
+                 "tel:+1-2;x=[]| |1a:x |+:x |:x |sip |s_p:x |ä:x | sip:a|\tb sip:a|\"b sip:a|\\ "
+                 "sip:a|%4 sip:a|%4g sip:a|% sip:a%4fb| x:a#b|#c x:a#b?c?d| x:ä€𐀀| x:|\u0080 "
+                 "x:|\uFDD0 x:|\uFFFE x:|\U0001FFFE x:|\U000E0001" );
     // Private characters stand in the query only.
-    expectMeasured( rsc___SkipIri,
-                    "x:|\uE000 x:?\uE000\U00100000?\uF8FF#|\uE000 x:#?|\uE000 x:?|\U0010FFFE" );
+    expectStops( rsc___SkipIri, "x:|\uE000 x:?\uE000\U00100000?\uF8FF#|\uE000 x:#?|\uE000 x:?|\U0010FFFE" );
     EXPECT_TRUE( iriOk( str( "sip:ä@b" ) ) );
     EXPECT_FALSE( iriOk( str( "sip:a b" ) ) );
     EXPECT_FALSE( iriOk( str( "" ) ) );
@@ -53,9 +43,9 @@ TEST( RscIri, TheLongestIriIsMeasured )
 
 TEST( RscIri, PortsAndAddressesAreMeasured )
 {
-    expectMeasured( rsc___SkipPort, "5060|;x 99999999999999999999999| |:5060 |" );
-    expectMeasured( rsc___SkipIpV4Address, "1.2.3.4|; |::1" );
-    expectMeasured( rsc___SkipIpV6Address, "::1|] |1.2.3.4" );
+    expectStops( rsc___SkipPort, "5060|;x 99999999999999999999999| |:5060 |" );
+    expectStops( rsc___SkipIpV4Address, "1.2.3.4|; |::1" );
+    expectStops( rsc___SkipIpV6Address, "::1|] |1.2.3.4" );
 }
 
 TEST( RscIri, UrisAndIrisConvert )
@@ -158,7 +148,5 @@ TEST( RscIriDeathTest, ContractsAreKept )
 {
     EXPECT_ABORT( rscGensValidatePart( 1, str( "a:b" ).get() ), "part == RSC_GENS_PART_IRI" );
     EXPECT_ABORT( rscTryConvertToUri( nullptr ), "iri" );
-    EXPECT_ABORT( rscTryConvertFromUri( nullptr ), "uri" );
     EXPECT_ABORT( rsc___SkipIri( nullptr, -1 ), "length >= 0" );
-    EXPECT_ABORT( rsc___SkipPort( nullptr, 1 ), "chs || length == 0" );
 }

@@ -97,9 +97,6 @@ TEST( RtBuffer, AbortsForPartsThatAreNotInside )
     const char *inSource = "inside( source, offset, length )";
     EXPECT_ABORT( rtBufferAppendInner( some.address(), some.get(), 2, 2 ), inSource );
     EXPECT_ABORT( rtBufferAppendOuter( some.address(), some.get(), INT64_MAX, 1 ), inSource );
-    EXPECT_ABORT( rtBufferAppendTrailing( some.address(), some.get(), INT64_MIN ),
-                  "inside( source, 0, length )" );
     EXPECT_ABORT( rtBufferDelLeading( some.address(), 4 ), "inside( *buffer, 0, length )" );
     EXPECT_ABORT( rtBufferRead( some.get(), 0, nullptr, 1 ), "bytes || length == 0" );
-    EXPECT_ABORT( rtBufferAppendBytes( some.address(), "", -1 ), "length >= 0" );
 }

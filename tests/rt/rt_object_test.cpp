@@ -3,63 +3,34 @@
 
 using namespace support;
 
-// The functions of a type under names that are the same for all types.
-#define FUNCTIONS( NAME, HANDLE, TEXT )                                           \
-    static constexpr auto create = rt##NAME##Create;                              \
-    static constexpr auto sort = rt##NAME##Sort;                                  \
-    static constexpr auto retain = rt##NAME##Retain, release = rt##NAME##Release; \
-    static constexpr auto obj = rt##NAME##Obj;                                    \
-    static constexpr auto from = rt##NAME##From;                                  \
-    static constexpr auto toString = rt##NAME##ToString;                          \
-    static constexpr auto compare = rt##NAME##Compare;                            \
-    static constexpr auto equals = rt##NAME##Equals;                              \
-    static constexpr const char *name = #HANDLE, *text = TEXT;
+// The functions of a type under names that are the same for all types, its text when it is filled, how to fill it and
+// how to change it then.
+#define KIND( NAME, HANDLE, TEXT, FILL, CHANGE )                                      \
+    struct NAME                                                                       \
+    {                                                                                 \
+        static constexpr auto create = rt##NAME##Create;                              \
+        static constexpr auto sort = rt##NAME##Sort;                                  \
+        static constexpr auto retain = rt##NAME##Retain, release = rt##NAME##Release; \
+        static constexpr auto obj = rt##NAME##Obj;                                    \
+        static constexpr auto from = rt##NAME##From;                                  \
+        static constexpr auto toString = rt##NAME##ToString;                          \
+        static constexpr auto compare = rt##NAME##Compare;                            \
+        static constexpr auto equals = rt##NAME##Equals;                              \
+        static constexpr const char *name = #HANDLE, *text = TEXT;                    \
+        static void fill( HANDLE *object ) { FILL; }                                  \
+        static void change( HANDLE *object ) { CHANGE; }                              \
+    };
 
-// Each type says how to fill an object, which has the text then, and how to change a filled one.
-struct String
-{
-    FUNCTIONS( String, RT_STRING, "ab" )
-    static void fill( RT_STRING *string ) { rtStringAppendCstr( string, "ab", 2 ); }
-    static void change( RT_STRING *string ) { rtStringAppendChar( string, 'c' ); }
-};
-
-struct Vector
-{
-    FUNCTIONS( Vector, RT_VECTOR, "a" )
-    static void fill( RT_VECTOR *vector ) { rtVectorAppendString( vector, str( "a" ).get() ); }
-    static void change( RT_VECTOR *vector ) { rtVectorDelLeading( vector, 1 ); }
-};
-
-struct Dict
-{
-    FUNCTIONS( Dict, RT_DICT, "a: 1" )
-    static void fill( RT_DICT *dict )
-    {
-        rtDictSetStringKey( dict, str( "a" ).get(), rtStringObj( str( "1" ).get() ) );
-    }
-    static void change( RT_DICT *dict ) { rtDictDelStringKey( dict, str( "a" ).get() ); }
-};
-
-struct Buffer
-{
-    FUNCTIONS( Buffer, RT_BUFFER, "RT_BUFFER" )
-    static void fill( RT_BUFFER *buffer ) { rtBufferAppendBytes( buffer, "ab", 2 ); }
-    static void change( RT_BUFFER *buffer ) { rtBufferDelLeading( buffer, 1 ); }
-};
-
-struct Store
-{
-    FUNCTIONS( Store, RT_STORE, "RT_STORE" )
-    static void fill( RT_STORE *store ) { rtStoreSetValueCstr( store, "name", 4, str( "value" ).get() ); }
-    static void change( RT_STORE *store ) { rtStoreSetValueCstr( store, "name", -1, str( "other" ).get() ); }
-};
-
-struct Time
-{
-    FUNCTIONS( Time, RT_TIME, "2011-01-01 00:00:00" )
-    static void fill( RT_TIME *time ) { rtTimeSetYear( time, 2011 ); }
-    static void change( RT_TIME *time ) { rtTimeSetDay( time, 28 ); }
-};
+KIND( String, RT_STRING, "ab", rtStringAppendCstr( object, "ab", 2 ), rtStringAppendChar( object, 'c' ) )
+KIND( Vector, RT_VECTOR, "a", rtVectorAppendString( object, str( "a" ).get() ),
+      rtVectorDelLeading( object, 1 ) )
+KIND( Dict, RT_DICT, "a: 1", rtDictSetStringKey( object, str( "a" ).get(), rtStringObj( str( "1" ).get() ) ),
+      rtDictDelStringKey( object, str( "a" ).get() ) )
+KIND( Buffer, RT_BUFFER, "RT_BUFFER", rtBufferAppendBytes( object, "ab", 2 ),
+      rtBufferDelLeading( object, 1 ) )
+KIND( Store, RT_STORE, "RT_STORE", rtStoreSetValueCstr( object, "name", 4, str( "value" ).get() ),
+      rtStoreSetValueCstr( object, "name", -1, str( "other" ).get() ) )
+KIND( Time, RT_TIME, "2011-01-01 00:00:00", rtTimeSetYear( object, 2011 ), rtTimeSetDay( object, 28 ) )
 
 template <class KIND>
 struct RtObject : testing::Test
@@ -174,6 +145,7 @@ static void shutdown( void ) { ++stops; }
 
 static RT_MODULE_RECORD record = { 2, "", "", {}, "", "", "", "counting", "", "", "", "" };
 static RT_MODULE module = { RT_STATIC_OBJECT, &record, startup, nullptr, shutdown, {} };
+static RT_MODULE second = { RT_STATIC_OBJECT, &record, startup, nullptr, shutdown, {} };
 
 TEST( RtModule, StartsOnceAndStopsWithTheLast )
 {
@@ -192,4 +164,9 @@ TEST( RtModule, StartsOnceAndStopsWithTheLast )
         rtModuleStop( &module.object );
         EXPECT_EQ( round, stops );
     }
+    for ( RT_MODULE *each : { &module, &second } )
+        EXPECT_TRUE( rtModuleStart( &each->object ) );
+    for ( RT_MODULE *each : { &module, &second } )
+        rtModuleStop( &each->object );
+    EXPECT_EQ( 4, stops );
 }

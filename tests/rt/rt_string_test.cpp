@@ -135,12 +135,9 @@ TEST( RtString, Splits )
         Pieces pieces;
     } cases[] = {
         { "", -1, { "" } },
-        { ";", -1, { "", "" } },
-        { "a", -1, { "a" } },
-        { "a;b;;c;", -1, { "a", "b", "", "c", "" } },
+        { ";a;;b;", -1, { "", "a", "", "b", "" } },
         { "a;b;c", 1, { "a;b;c" } },
         { "a;b;c", 2, { "a", "b;c" } },
-        { "a;b;c", 3, { "a", "b", "c" } },
         { "a;b;c", 4, { "a", "b", "c" } },
     };
     for ( auto &[text, maxParts, pieces] : cases )
@@ -158,15 +155,8 @@ TEST( RtString, MapsCase )
     {
         const char *text, *lower, *upper;
     } cases[] = {
-        { "azAZ09@[`{", "azaz09@[`{", "AZAZ09@[`{" },
-        { "ß", "ß", "ß" },
-        { "İ", "i", "İ" },
-        { "ı", "ı", "I" },
-        { "ΣΑΣ", "σασ", "ΣΑΣ" },
-        { "ς", "ς", "Σ" },
-        { "ǅ", "ǆ", "Ǆ" },
-        { "𐐨𐐀", "𐐨𐐨", "𐐀𐐀" },
-        { "ÿ", "ÿ", "Ÿ" },
+        { "azAZ09@[`{ßİıÿ", "azaz09@[`{ßiıÿ", "AZAZ09@[`{ßİIŸ" },
+        { "ΣΑΣςǅ𐐨𐐀", "σασςǆ𐐨𐐨", "ΣΑΣΣǄ𐐀𐐀" },
     };
     for ( auto &[text, lower, upper] : cases )
     {
@@ -228,13 +218,10 @@ TEST( RtString, ReadsNumbers )
         std::string text;
         int64_t radix, number, digits;
     } cases[] = {
-        { "0", 10, 0, 1 },
         { "12x", 10, 12, 2 },
-        { "1 ", 10, 1, 1 },
         { std::string( 100, '0' ) + "7", 10, 7, 101 },
         { "9223372036854775807", 10, INT64_MAX, 19 },
         { "7fffffffffffffff", 16, INT64_MAX, 16 },
-        { "fFg", 16, 255, 2 },
         { "102", 2, 2, 2 },
         { "zZ", 36, 35 * 36 + 35, 2 },
     };
@@ -265,6 +252,4 @@ TEST( RtString, AbortsForBreaches )
     EXPECT_ABORT( rtStringCharAt( string.get(), 2 ), "index >= 0 && index < string->length" );
     EXPECT_ABORT( rtStringCreateFromInner( string.get(), 1, 2 ),
                   "length >= -1 && length <= string->length - offset" );
-    EXPECT_ABORT( rtStringCreateFromCstr( nullptr, -1 ), "chars || length == 0" );
-    EXPECT_ABORT( rtStringAppendCstr( string.address(), "a", -2 ), "length >= -1" );
 }

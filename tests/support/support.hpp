@@ -4,8 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "rt/rt.h"
 #include "rt/rt_frame.hpp"
@@ -46,6 +49,49 @@ inline std::string utf8( const Ref<RT_STRING> &string )
     return bytes( adopt( rtCharsetStringToBuffer( RT_CHARSET_UTF8, string.get() ) ) );
 }
 inline std::string utf8( RT_STRING string ) { return utf8( adopt( string ) ); }
+
+// The code points of a UTF-8 text, in a heap block of exactly their number.
+inline std::vector<RT_CHAR> codePoints( std::string_view text )
+{
+    Ref<RT_STRING> string = str( text );
+    const RT_CHAR *chs = rtStringBacking( string.get() );
+    return { chs, chs + rtStringLength( string.get() ) };
+}
+
+// What a skipper or a decoder makes of such a text.
+template <class FUNCTION>
+auto applied( FUNCTION *function, std::string_view text )
+{
+    std::vector<RT_CHAR> exact = codePoints( text );
+    return function( exact.data(), std::ssize( exact ) );
+}
+
+// What stands between single blanks.
+inline std::vector<std::string> words( const std::string &text )
+{
+    std::vector<std::string> found;
+    std::istringstream stream( text );
+    for ( std::string word; std::getline( stream, word, ' ' ); )
+        found.push_back( word );
+    return found;
+}
+
+// What stands in front of the first equals sign, and behind it.
+inline std::pair<std::string, std::string> halves( const std::string &text )
+{
+    std::size_t at = text.find( '=' );
+    return { text.substr( 0, at ), text.substr( at + 1 ) };
+}
+
+// The skipper must stop at the bar, or without one at the end.
+inline void expectStop( rt::Skipper skip, std::string_view marked )
+{
+    std::string text( marked.substr( 0, marked.find( '|' ) ) );
+    int64_t count = std::ssize( codePoints( text ) );
+    if ( text.size() < marked.size() )
+        text += marked.substr( text.size() + 1 );
+    EXPECT_EQ( count, applied( skip, text ) ) << marked;
+}
 
 // Every test must leave as many objects behind as it found.
 class LeakCheck : public testing::EmptyTestEventListener

@@ -1,14 +1,14 @@
 // What holds for every element and every text (fuzz/elements.hpp), over generated text.
 #include "../../fuzz/elements.hpp"
 #include "rt/model.hpp"
-#include "telsx/skip_tables.hpp"
+#include "telsx/telsx_support.hpp"
 
 using namespace support;
 using elements::Element;
 using model::Random;
 
 // What the grammar tells apart: whole values and their parts, delimiters, and what may stand nowhere.
-static constexpr auto pieces = texts(
+static constexpr auto pieces = list(
     "a", "Z", "0", "9", "00", "255", "399", ".", "-", "_", "%", "%41", "*", "/", ":", ";", ",", "=", "@", "?",
     "<", ">", "(", ")", "[", "]", "\"", "\\", "\\\"", "&", "|", " ", "  ", "\t", "\r", "\n", "\x01", "\x7F",
     "\u00E9", "\u0130", "\u212A", "\u00A0", "\U0001F600", "\U0010FFFF", "uac", "UAS", "Jan", "Sun", "SIP",

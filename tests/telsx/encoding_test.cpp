@@ -49,5 +49,4 @@ TEST( Encoding, WritesWhatCallersSet )
     Ref<RT_STRING> odd = adopt( rtStringCreateFromCharsCopy( &surrogate, 1 ) );
     telsxMessageFragmentSetResponseReasonPhrase( frag.address(), odd.get() );
     EXPECT_EQ( "SIP/2.0 799 \uFFFD\r\nContent-Length: 0\r\n\r\n", encoded( frag.get() ) );
-    EXPECT_ABORT( telsxMessageFragmentEncode( nullptr ), "frag" );
 }

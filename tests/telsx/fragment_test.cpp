@@ -56,52 +56,41 @@ TYPED_TEST_SUITE( FragmentAndMessage, Kinds, );
 TYPED_TEST( FragmentAndMessage, ChangesBetweenRequestAndResponse )
 {
     using API = TypeParam;
-    Ref<RT_BUFFER> body = buffer( "x" );
     auto object = this->request();
+    auto expectRequest = [&]( const char *method, const char *uri )
+    {
+        EXPECT_TRUE( API::IsRequest( object.get() ) && !API::IsResponse( object.get() ) );
+        EXPECT_EQ( method, utf8( API::RequestMethod( object.get() ) ) );
+        EXPECT_EQ( uri, utf8( API::RequestIri( object.get() ) ) );
+        EXPECT_EQ( TELSX_STATUS_CODE_INVALID, API::ResponseStatusCode( object.get() ) );
+        EXPECT_EQ( nullptr, API::ResponseReasonPhrase( object.get() ) );
+    };
+    auto expectResponse = [&]( int64_t status, const char *phrase )
+    {
+        EXPECT_TRUE( API::IsResponse( object.get() ) && !API::IsRequest( object.get() ) );
+        EXPECT_EQ( nullptr, API::RequestMethod( object.get() ) );
+        EXPECT_EQ( nullptr, API::RequestIri( object.get() ) );
+        EXPECT_EQ( status, API::ResponseStatusCode( object.get() ) );
+        EXPECT_EQ( phrase, utf8( API::ResponseReasonPhrase( object.get() ) ) );
+    };
     API::SetHeader( object.address(), header( "v", { "a" } ).get() );
-    API::SetBody( object.address(), body.get() );
-    EXPECT_TRUE( API::IsRequest( object.get() ) );
-    EXPECT_FALSE( API::IsResponse( object.get() ) );
-    EXPECT_EQ( "INVITE", utf8( API::RequestMethod( object.get() ) ) );
-    EXPECT_EQ( "sip:b", utf8( API::RequestIri( object.get() ) ) );
+    API::SetBody( object.address(), buffer( "x" ).get() );
+    expectRequest( "INVITE", "sip:b" );
     EXPECT_EQ( this->version, adopt( API::Version( object.get() ) ) );
-    EXPECT_EQ( TELSX_STATUS_CODE_INVALID, API::ResponseStatusCode( object.get() ) );
-    EXPECT_EQ( nullptr, API::ResponseReasonPhrase( object.get() ) );
-
     API::SetResponse( object.address(), this->version.get(), 799 );
-    EXPECT_FALSE( API::IsRequest( object.get() ) );
-    EXPECT_TRUE( API::IsResponse( object.get() ) );
-    EXPECT_EQ( nullptr, API::RequestMethod( object.get() ) );
-    EXPECT_EQ( nullptr, API::RequestIri( object.get() ) );
-    EXPECT_EQ( 799, API::ResponseStatusCode( object.get() ) );
-    EXPECT_EQ( "Unknown reason \"799\"", utf8( API::ResponseReasonPhrase( object.get() ) ) );
-    EXPECT_EQ( "SIP/2.0 799 <Unknown reason \"799\"> | Via: <a> | body <x>", dump( object.get() ) );
-
+    expectResponse( 799, "Unknown reason \"799\"" );
     API::SetRequest( object.address(), this->version.get(), str( "bye" ).get(), str( "tel:1" ).get() );
-    EXPECT_EQ( "bye tel:1 SIP/2.0 | Via: <a> | body <x>", dump( object.get() ) );
-    EXPECT_EQ( TELSX_STATUS_CODE_INVALID, API::ResponseStatusCode( object.get() ) );
-    EXPECT_EQ( nullptr, API::ResponseReasonPhrase( object.get() ) );
+    expectRequest( "bye", "tel:1" );
     // An empty phrase is a phrase.
     API::SetResponseWithReasonPhrase( object.address(), this->version.get(), 100, str( "" ).get() );
-    EXPECT_TRUE( API::IsResponse( object.get() ) );
+    expectResponse( 100, "" );
     EXPECT_EQ( "SIP/2.0 100 <> | Via: <a> | body <x>", dump( object.get() ) );
-}
-
-TYPED_TEST( FragmentAndMessage, SetsSingleFieldsOfTheStartLine )
-{
-    using API = TypeParam;
-    auto request = this->request(), response = this->response();
-    API::SetRequestMethod( request.address(), str( "A" ).get() );
-    API::SetRequestIri( request.address(), str( "x:ä" ).get() );
-    API::SetVersion( request.address(), adopt( applied( telsx___VersionTryDecode, "a/B" ) ).get() );
-    EXPECT_EQ( "A x:ä A/b", dump( request.get() ) );
-
-    API::SetResponseStatusCode( response.address(), 404, 0 );
-    EXPECT_EQ( "SIP/2.0 404 <OK>", dump( response.get() ) );
-    API::SetResponseStatusCode( response.address(), 404, 2 );
-    EXPECT_EQ( "SIP/2.0 404 <Not found>", dump( response.get() ) );
-    API::SetResponseReasonPhrase( response.address(), str( "a\r\nb" ).get() );
-    EXPECT_EQ( "SIP/2.0 404 <a\r\nb>", dump( response.get() ) );
+    API::SetResponseStatusCode( object.address(), 404, 0 );
+    expectResponse( 404, "" );
+    API::SetResponseStatusCode( object.address(), 404, 2 );
+    expectResponse( 404, "Not found" );
+    API::SetVersion( object.address(), adopt( applied( telsx___VersionTryDecode, "a/B" ) ).get() );
+    EXPECT_EQ( "A/b 404 <Not found> | Via: <a> | body <x>", dump( object.get() ) );
 }
 
 TYPED_TEST( FragmentAndMessage, TakesTextInThreeForms )
@@ -109,36 +98,34 @@ TYPED_TEST( FragmentAndMessage, TakesTextInThreeForms )
     using API = TypeParam;
     TELSX_VERSION sip20 = this->version.get();
     RT_STRING uri = this->iri.get();
-    auto check = []( const char *expected, Ref<typename API::Handle> object )
-    { EXPECT_EQ( expected, dump( object.get() ) ); };
-    check( "A sip:b SIP/2.0", adopt( API::CreateRequest( sip20, str( "A" ).get(), uri ) ) );
-    check( "A sip:b SIP/2.0", adopt( API::CreateRequestCstr( sip20, "Ax", 1, uri ) ) );
-    check( "A sip:b SIP/2.0", adopt( API::CreateRequestWcstr( sip20, L"A", -1, uri ) ) );
-    check( "A/1 200 <ä>",
-           adopt( API::CreateResponseWithReasonPhrase(
-               adopt( applied( telsx___VersionTryDecode, "A/1" ) ).get(), 200, str( "ä" ).get() ) ) );
-    check( "SIP/2.0 200 <ä>", adopt( API::CreateResponseWithReasonPhraseCstr( sip20, 200, "\xE4y", 1 ) ) );
-    check( "SIP/2.0 200 <ä>", adopt( API::CreateResponseWithReasonPhraseWcstr( sip20, 200, L"ä", -1 ) ) );
-
-    auto object = this->request();
-    API::SetRequestCstr( object.address(), sip20, "Bx", 1, uri );
-    check( "B sip:b SIP/2.0", object );
-    API::SetRequestWcstr( object.address(), sip20, L"Cx", 1, uri );
-    check( "C sip:b SIP/2.0", object );
-    API::SetRequestMethodCstr( object.address(), "Dx", 1 );
-    API::SetRequestIriCstr( object.address(), "a:bx", 3 );
-    check( "D a:b SIP/2.0", object );
-    API::SetRequestMethodWcstr( object.address(), L"Ex", 1 );
-    API::SetRequestIriWcstr( object.address(), L"a:ä", -1 );
-    check( "E a:ä SIP/2.0", object );
-    API::SetResponseWithReasonPhraseCstr( object.address(), sip20, 300, "a", -1 );
-    check( "SIP/2.0 300 <a>", object );
-    API::SetResponseWithReasonPhraseWcstr( object.address(), sip20, 301, L"bx", 1 );
-    check( "SIP/2.0 301 <b>", object );
-    API::SetResponseReasonPhraseCstr( object.address(), "cx", 1 );
-    check( "SIP/2.0 301 <c>", object );
-    API::SetResponseReasonPhraseWcstr( object.address(), L"d", -1 );
-    check( "SIP/2.0 301 <d>", object );
+    Ref<typename API::Handle> object;
+#define EXPECT_MADE( EXPECTED, FUNCTION, ... )             \
+    object = adopt( API::FUNCTION( sip20, __VA_ARGS__ ) ); \
+    EXPECT_EQ( EXPECTED, dump( object.get() ) )
+#define EXPECT_SET( EXPECTED, FUNCTION, ... )       \
+    API::FUNCTION( object.address(), __VA_ARGS__ ); \
+    EXPECT_EQ( EXPECTED, dump( object.get() ) )
+    EXPECT_MADE( "A sip:b SIP/2.0", CreateRequest, str( "A" ).get(), uri );
+    EXPECT_MADE( "B sip:b SIP/2.0", CreateRequestCstr, "Bx", 1, uri );
+    EXPECT_MADE( "C sip:b SIP/2.0", CreateRequestWcstr, L"C", -1, uri );
+    EXPECT_SET( "D sip:b SIP/2.0", SetRequestCstr, sip20, "Dx", 1, uri );
+    EXPECT_SET( "E sip:b SIP/2.0", SetRequestWcstr, sip20, L"Ex", 1, uri );
+    EXPECT_SET( "F sip:b SIP/2.0", SetRequestMethod, str( "F" ).get() );
+    EXPECT_SET( "G sip:b SIP/2.0", SetRequestMethodCstr, "Gx", 1 );
+    EXPECT_SET( "H sip:b SIP/2.0", SetRequestMethodWcstr, L"Hx", 1 );
+    EXPECT_SET( "H a:ä SIP/2.0", SetRequestIri, str( "a:ä" ).get() );
+    EXPECT_SET( "H a:b SIP/2.0", SetRequestIriCstr, "a:bx", 3 );
+    EXPECT_SET( "H a:ö SIP/2.0", SetRequestIriWcstr, L"a:ö", -1 );
+    EXPECT_MADE( "SIP/2.0 200 <ä>", CreateResponseWithReasonPhrase, 200, str( "ä" ).get() );
+    EXPECT_MADE( "SIP/2.0 200 <ä>", CreateResponseWithReasonPhraseCstr, 200, "\xE4y", 1 );
+    EXPECT_MADE( "SIP/2.0 200 <ö>", CreateResponseWithReasonPhraseWcstr, 200, L"ö", -1 );
+    EXPECT_SET( "SIP/2.0 300 <a>", SetResponseWithReasonPhraseCstr, sip20, 300, "a", -1 );
+    EXPECT_SET( "SIP/2.0 301 <b>", SetResponseWithReasonPhraseWcstr, sip20, 301, L"bx", 1 );
+    EXPECT_SET( "SIP/2.0 301 <c\r\n>", SetResponseReasonPhrase, str( "c\r\n" ).get() );
+    EXPECT_SET( "SIP/2.0 301 <d>", SetResponseReasonPhraseCstr, "dx", 1 );
+    EXPECT_SET( "SIP/2.0 301 <e>", SetResponseReasonPhraseWcstr, L"e", -1 );
+#undef EXPECT_MADE
+#undef EXPECT_SET
 }
 
 TYPED_TEST( FragmentAndMessage, KeepsOneHeaderOfAName )
@@ -151,7 +138,6 @@ TYPED_TEST( FragmentAndMessage, KeepsOneHeaderOfAName )
     API::SetHeader( object.address(), header( "t", {} ).get() );
     EXPECT_EQ( "INVITE sip:b SIP/2.0 | Via: <d> | Call-Id: <b> <z> | X-Y: <c> <z> | To:",
                dump( object.get() ) );
-    EXPECT_EQ( 4, rtVectorLength( adopt( API::HeadersVector( object.get() ) ).get() ) );
 
     Ref<TELSX_MESSAGE_HEADER> via = adopt( API::Header( object.get(), str( "vIa" ).get() ) );
     EXPECT_EQ( via.get(), adopt( API::HeaderCstr( object.get(), "vx", 1 ) ).get() );
@@ -166,9 +152,6 @@ TYPED_TEST( FragmentAndMessage, KeepsOneHeaderOfAName )
     telsxMessageHeaderAppendLineCstr( via.address(), "e", -1 );
     EXPECT_EQ( "Via: <d>", dump( adopt( API::HeaderCstr( object.get(), "v", -1 ) ).get() ) );
     API::SetHeader( object.address(), via.get() );
-    telsxMessageHeaderSetNameCstr( via.address(), "Other", -1 );
-    EXPECT_EQ( "Via: <d> <e>", dump( adopt( API::HeaderCstr( object.get(), "v", -1 ) ).get() ) );
-
     API::DelHeader( object.address(), str( "I" ).get() );
     API::DelHeaderCstr( object.address(), "x-yx", 3 );
     API::DelHeaderWcstr( object.address(), L"to", -1 );
@@ -201,18 +184,14 @@ TYPED_TEST( FragmentAndMessage, AbortsForBrokenContracts )
     TELSX_VERSION sip20 = this->version.get();
     Ref<RT_STRING> bad = str( "a b" ), method = str( "A" );
     EXPECT_ABORT( API::IsRequest( nullptr ), self );
-    EXPECT_ABORT( API::Encode( nullptr ), self );
     EXPECT_ABORT( API::DelBody( &none ), "*" + self );
-    EXPECT_ABORT( API::CreateRequest( nullptr, method.get(), this->iri.get() ), "version" );
     EXPECT_ABORT( API::CreateRequest( sip20, bad.get(), this->iri.get() ), "telsxMethodOk( method )" );
     EXPECT_ABORT( API::CreateRequest( sip20, method.get(), bad.get() ), "telsxIriOk( iri )" );
     EXPECT_ABORT( API::SetResponse( request.address(), sip20, 1000 ), "telsxStatusCodeOk( sc )" );
     EXPECT_ABORT( API::SetHeader( request.address(), nullptr ), "header" );
-    EXPECT_ABORT( API::SetBody( request.address(), nullptr ), "body" );
     EXPECT_ABORT( API::HasHeaderCstr( request.get(), "a:", -1 ), "telsxMessageHeaderNameOk( name )" );
     // A field that the kind doesn't have can't be set.
     EXPECT_ABORT( API::SetRequestMethod( response.address(), method.get() ), "(*frag)->requestMethod" );
-    EXPECT_ABORT( API::SetRequestIri( response.address(), this->iri.get() ), "(*frag)->requestMethod" );
     EXPECT_ABORT( API::SetResponseStatusCode( request.address(), 200, 0 ),
                   "(*frag)->responseStatusCode != TELSX_STATUS_CODE_INVALID" );
     EXPECT_ABORT( API::SetResponseReasonPhrase( request.address(), bad.get() ),

@@ -130,45 +130,6 @@ TEST_P( EveryType, AbortsForNullAndForOtherTypes )
     }
 }
 
-// The first change goes to a copy, the second to the same object again.
-template <class HANDLE, class CHANGE, class TEXT>
-static void checkCopyOnWrite( CHANGE change, TEXT text )
-{
-    Ref<HANDLE> original = sample<HANDLE>(), changed = original;
-    std::string before = text( original.get() );
-    change( changed.address(), "first" );
-    EXPECT_NE( original.get(), changed.get() );
-    EXPECT_EQ( 1, rt::asObj( original.get() )->count );
-    EXPECT_EQ( before, text( original.get() ) );
-    std::string afterFirst = text( changed.get() );
-    EXPECT_NE( before, afterFirst );
-
-    HANDLE same = changed.get();
-    change( changed.address(), "second" );
-    EXPECT_EQ( same, changed.get() );
-    EXPECT_NE( afterFirst, text( changed.get() ) );
-    EXPECT_EQ( before, text( original.get() ) );
-}
-
-TEST( CopyOnWrite, LeavesOtherHoldersAlone )
-{
-    auto dumped = []( auto object ) { return dump( object ); };
-    checkCopyOnWrite<TELSX_VERSION>( []( TELSX_VERSION *version, const char *text )
-                                     { telsxVersionSetProtocolVersion( version, str( text ).get() ); },
-                                     []( TELSX_VERSION version )
-                                     { return utf8( telsxVersionToString( version ) ); } );
-    checkCopyOnWrite<TELSX_MESSAGE_HEADER>( []( TELSX_MESSAGE_HEADER *header, const char *text )
-                                            { telsxMessageHeaderAppendLineCstr( header, text, -1 ); },
-                                            dumped );
-    checkCopyOnWrite<TELSX_MESSAGE_FRAGMENT>(
-        []( TELSX_MESSAGE_FRAGMENT *frag, const char *text )
-        { telsxMessageFragmentSetHeader( frag, header( "Via", { text } ).get() ); },
-        dumped );
-    checkCopyOnWrite<TELSX_MESSAGE>( []( TELSX_MESSAGE *msg, const char *text )
-                                     { telsxMessageSetHeader( msg, header( "Via", { text } ).get() ); },
-                                     dumped );
-}
-
 TEST( Module, DescribesItself )
 {
     const RT_MODULE_RECORD *record = rtModuleRecord( telsxModule() );
@@ -200,7 +161,6 @@ TEST( Version, IsDecodedWhole )
         { "SIP/2.0", "SIP/2.0", true, true },      { "sip / 2.0", "SIP/2.0", true, true },
         { "sip\t/ \t2.0", "SIP/2.0", true, true }, { "sIp/2.0A", "SIP/2.0a", true, false },
         { "SIP/3.0", "SIP/3.0", true, false },     { "SIPS/2.0", "SIPS/2.0", false, false },
-        { "~!/`'", "~!/`'", false, false },
     };
     for ( auto &[text, expected, isSip, isSip20] : cases )
     {
@@ -213,38 +173,15 @@ TEST( Version, IsDecodedWhole )
     for ( std::string_view text : list( "", "/", "SIP", "SIP/", "/2.0", "SIP 2.0", "SIP/2.0 ", " SIP/2.0",
                                         "SIP//2.0", "SIP/2.0/", "S\r\nIP/2.0", "SIP/2,0", "SÍP/2.0" ) )
         EXPECT_FALSE( adopt( applied( telsx___VersionTryDecode, text ) ) ) << text;
+    EXPECT_ABORT( telsx___VersionTryDecode( nullptr, 1 ), "chs || length == 0" );
 }
 
-TEST( Version, KeepsNormalFormsAndSortsByNameFirst )
+TEST( Version, SortsByNameFirst )
 {
     auto version = []( const char *name, const char *number )
     { return adopt( telsxVersionCreate( str( name ).get(), str( number ).get() ) ); };
     EXPECT_EQ( version( "sip", "2.0" ), adopt( telsxVersionCreateSip20() ) );
     EXPECT_LT( version( "A", "9" ), version( "b", "1" ) );
     EXPECT_LT( version( "a", "1" ), version( "A", "9" ) );
-
-    // The shared version is never changed.
-    Ref<TELSX_VERSION> changed = adopt( telsxVersionCreateSip20() );
-    telsxVersionSetProtocolName( changed.address(), str( "tls" ).get() );
-    telsxVersionSetProtocolVersion( changed.address(), str( "1.X" ).get() );
-    EXPECT_EQ( "TLS", utf8( telsxVersionProtocolName( changed.get() ) ) );
-    EXPECT_EQ( "1.x", utf8( telsxVersionProtocolVersion( changed.get() ) ) );
-    EXPECT_EQ( "SIP/2.0", utf8( telsxVersionToString( adopt( telsxVersionCreateSip20() ).get() ) ) );
-}
-
-TEST( Version, AbortsForBrokenContracts )
-{
-    Ref<TELSX_VERSION> version = adopt( telsxVersionCreateSip20() );
-    Ref<RT_STRING> good = str( "a" ), bad = str( "a b" );
-    TELSX_VERSION none = nullptr;
-    EXPECT_ABORT( telsxVersionSetProtocolName( nullptr, good.get() ), "version" );
-    EXPECT_ABORT( telsxVersionSetProtocolName( &none, good.get() ), "*version" );
-    EXPECT_ABORT( telsxVersionSetProtocolName( version.address(), bad.get() ),
-                  "telsxProtocolNameOk( protocolName )" );
-    EXPECT_ABORT( telsxVersionCreate( good.get(), bad.get() ), "telsxProtocolVersionOk( protocolVersion )" );
-    EXPECT_ABORT( telsxVersionIsSip20( nullptr ), "version" );
-    EXPECT_ABORT( telsx___VersionCompareFunc( telsxVersionObj( version.get() ), nullptr ), "verB" );
-    EXPECT_ABORT( telsx___VersionTryDecode( nullptr, 1 ), "chs || length == 0" );
-    EXPECT_ABORT( telsx___VersionTryDecode( nullptr, -1 ), "length >= 0" );
-    EXPECT_DEATH( telsxVersionProtocolName( nullptr ), "^source/telsx/telsx_version:[0-9]+: version\n$" );
+    EXPECT_ABORT( telsx___VersionCompareFunc( rt::asObj( version( "a", "1" ).get() ), nullptr ), "verB" );
 }

@@ -6,7 +6,7 @@
 #include <sys/mman.h>
 
 #include "../../fuzz/elements.hpp"
-#include "telsx/skip_tables.hpp"
+#include "telsx/telsx_support.hpp"
 
 using namespace support;
 
@@ -71,7 +71,7 @@ private:
 };
 
 // What stands in front, a bar, what is repeated, and a bar and what stands behind.
-static constexpr auto hostile = texts(
+static constexpr auto hostile = list(
     // What never ends
     "\"|aaaaaaaaaa", "\"|\\\"", "(|aaaaa", "|(", "|( \\)", "<sip:|aaaaa", "a;a=\"|aaaaa", "SIP/2.0/UDP |a-",
     "a;a=[::|0", "SIP/2.0/UDP h;received=::|0", "SIP/2.0/UDP h;received=|1.", "a@|a-", "\"a\"| |sip:a",

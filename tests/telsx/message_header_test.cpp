@@ -1,4 +1,5 @@
 // Raw headers: names in canonical form, lines, stores.
+#include "rt/model.hpp"
 #include "telsx/telsx_known_names.hpp"
 #include "telsx_support.hpp"
 
@@ -13,17 +14,16 @@ TEST( MessageHeaderName, HasOneCanonicalForm )
 {
     // Capitals stand at the start and behind each hyphen, whatever the RFC writes; a single letter that is no
     // compact form is a name like others.
-    for ( std::string_view pair :
-          list( "CSeq=Cseq", "CSEQ=Cseq", "call-ID=Call-Id", "Min-SE=Min-Se", "RAck=Rack",
-                "WWW-Authenticate=Www-Authenticate", "P-Asserted-Identity=P-Asserted-Identity",
-                "x-a_b.c=X-A_b.c", "-abc=-Abc", "a--b=A--B", "a-=A-", "-=-", "1a-2b=1a-2b", "to=To", "ab=Ab",
-                "a=Accept-Contact", "b=Referred-By", "c=Content-Type", "d=Request-Disposition",
-                "e=Content-Encoding", "f=From", "i=Call-Id", "j=Reject-Contact", "k=Supported",
-                "l=Content-Length", "m=Contact", "n=Identity-Info", "o=Event", "r=Refer-To", "s=Subject",
-                "t=To", "u=Allow-Events", "v=Via", "x=Session-Expires", "y=Identity", "I=Call-Id", "g=G",
-                "h=H", "p=P", "q=Q", "w=W", "z=Z" ) )
+    for ( const std::string &pair : words(
+              "CSeq=Cseq CSEQ=Cseq call-ID=Call-Id Min-SE=Min-Se RAck=Rack WWW-Authenticate=Www-Authenticate "
+              "P-Asserted-Identity=P-Asserted-Identity x-a_b.c=X-A_b.c -abc=-Abc a--b=A--B a-=A- -=- "
+              "1a-2b=1a-2b "
+              "to=To ab=Ab a=Accept-Contact b=Referred-By c=Content-Type d=Request-Disposition "
+              "e=Content-Encoding f=From i=Call-Id j=Reject-Contact k=Supported l=Content-Length m=Contact "
+              "n=Identity-Info o=Event r=Refer-To s=Subject t=To u=Allow-Events v=Via x=Session-Expires "
+              "y=Identity I=Call-Id g=G h=H p=P q=Q w=W z=Z" ) )
     {
-        std::string name( pair.substr( 0, pair.find( '=' ) ) ), expected( pair.substr( name.size() + 1 ) );
+        auto [name, expected] = halves( pair );
         EXPECT_EQ( expected, canonical( name ) );
         EXPECT_EQ( expected, canonical( expected ) );
         Ref<TELSX_MESSAGE_HEADER> made = header( name.c_str(), {} );
@@ -61,13 +61,16 @@ TEST( MessageHeaderName, IsSetInThreeForms )
     EXPECT_EQ( "To:", dump( made.get() ) );
     telsxMessageHeaderSetNameWcstr( made.address(), L"x-y", -1 );
     EXPECT_EQ( "X-Y:", dump( made.get() ) );
+    for ( auto bad : { "", " ", "a b", " a", "a:b", "a/b", "ä", "a\r\n" } )
+        EXPECT_FALSE( telsxMessageHeaderNameOk( str( bad ).get() ) ) << bad;
+    EXPECT_FALSE( telsxMessageHeaderNameOk( str( { "a\0", 2 } ).get() ) );
 }
 
 TEST( MessageHeaderLine, HoldsNoLineEnd )
 {
-    for ( std::string_view line : list( "", "a\rb", "a\nb", "\n\r", "\r", "ä, b" ) )
+    for ( auto line : { "", "a\rb", "a\nb", "\n\r", "ä, b" } )
         EXPECT_TRUE( telsxMessageHeaderLineOk( str( line ).get() ) ) << line;
-    for ( std::string_view line : list( "a\r\nb", "\r\n", "a\r\r\n", "\n\r\n" ) )
+    for ( auto line : { "a\r\nb", "\r\n", "a\r\r\n", "\n\r\n" } )
         EXPECT_FALSE( telsxMessageHeaderLineOk( str( line ).get() ) ) << line;
 }
 
@@ -114,12 +117,9 @@ TEST( MessageHeaderLine, VectorIsPrivateToItsHolder )
 
 TEST( MessageHeader, SortsByNameThenLines )
 {
-    const Ref<TELSX_MESSAGE_HEADER> ascending[] = { header( "To", { "z" } ), header( "v", {} ),
-                                                    header( "Via", { "a" } ), header( "VIA", { "a", "" } ),
-                                                    header( "via", { "b" } ) };
-    for ( std::size_t i = 0; i < std::size( ascending ); ++i )
-        for ( std::size_t j = 0; j < std::size( ascending ); ++j )
-            EXPECT_EQ( i <=> j, ascending[i] <=> ascending[j] );
+    auto make = []( const Ref<TELSX_MESSAGE_HEADER> &made ) { return rt::asObj( made.retained() ); };
+    model::expectAscending( make, header( "To", { "z" } ), header( "v", {} ), header( "Via", { "a" } ),
+                            header( "VIA", { "a", "" } ), header( "via", { "b" } ) );
 }
 
 TEST( MessageHeaderStore, RestoresTheSameHeader )
@@ -152,25 +152,20 @@ TEST( MessageHeaderStore, FailsWhereItIsDamaged )
         Ref<RT_STORE> store = adopt( rtStoreCreate() ), lines = adopt( rtStoreCreate() );
         // A store among the lines is passed over.
         rtStoreSetStoreCstr( lines.address(), "0", -1, store.get() );
-        if ( line )
-            rtStoreSetValueCstr( lines.address(), "1", -1, str( line ).get() );
+        rtStoreSetValueCstr( lines.address(), "1", -1, str( line ).get() );
         if ( name )
             rtStoreSetValueCstr( store.address(), "name", -1, str( name ).get() );
+        EXPECT_FALSE( adopt( telsxMessageHeaderTryRestore( store.get() ) ) ) << "no lines";
         rtStoreSetStoreCstr( store.address(), "lines", -1, lines.get() );
         Ref<TELSX_MESSAGE_HEADER> header = adopt( telsxMessageHeaderTryRestore( store.get() ) );
         return header ? dump( header.get() ) : "(null)";
     };
     EXPECT_EQ( "Via: <a>", restored( "v", "a" ) );
-    EXPECT_EQ( "Via:", restored( "v", nullptr ) );
-    EXPECT_EQ( "(null)", restored( nullptr, "a" ) );
-    EXPECT_EQ( "(null)", restored( "", "a" ) );
-    EXPECT_EQ( "(null)", restored( "a b", "a" ) );
-    EXPECT_EQ( "(null)", restored( "v", "a\r\nb" ) );
-    Ref<RT_STORE> store = adopt( rtStoreCreate() );
-    rtStoreSetValueCstr( store.address(), "name", -1, str( "v" ).get() );
-    EXPECT_FALSE( adopt( telsxMessageHeaderTryRestore( store.get() ) ) );
-    rtStoreSetValueCstr( store.address(), "lines", -1, str( "a" ).get() );
-    EXPECT_FALSE( adopt( telsxMessageHeaderTryRestore( store.get() ) ) );
+    for ( auto [name, line] : { std::pair<const char *, const char *>( nullptr, "a" ),
+                                { "", "a" },
+                                { "a b", "a" },
+                                { "v", "a\r\nb" } } )
+        EXPECT_EQ( "(null)", restored( name, line ) );
 }
 
 TEST( MessageHeader, AbortsForBrokenContracts )
@@ -192,11 +187,6 @@ TEST( MessageHeader, AbortsForBrokenContracts )
                   "rtVectorContainsOnly( lines, rtStringSort() )" );
     EXPECT_DEATH( telsxMessageHeaderSetLinesVector( via.address(), badLines.get() ), "LineOk" );
     EXPECT_DEATH( telsxMessageHeaderLineAt( via.get(), 1 ), "source/rt/rt_vector" );
-    EXPECT_ABORT( telsxMessageHeaderRestoreLines( good.get(), nullptr ), "store" );
     EXPECT_ABORT( telsxMessageHeaderTryRestore( nullptr ), "store" );
-    EXPECT_ABORT( telsxMessageHeaderStore( nullptr ), "header" );
-    EXPECT_ABORT( telsxMessageHeaderAppendLine( nullptr, good.get() ), "header" );
     EXPECT_ABORT( telsxMessageHeaderDelLineAt( &none, 0 ), "*header" );
-    EXPECT_ABORT( telsx___MessageHeaderCompFunc( nullptr, telsxMessageHeaderObj( via.get() ) ), "thisObj" );
-    EXPECT_ABORT( telsx___MessageHeaderCompFunc( telsxMessageHeaderObj( via.get() ), nullptr ), "thatObj" );
 }

@@ -21,7 +21,15 @@ struct Texts
     std::vector<const char *> kept;
     std::vector<std::pair<const char *, const char *>> changed;
     std::vector<const char *> bad;
+
+    bool areFor( std::string_view name ) const
+    {
+        std::vector<std::string> all = words( names );
+        return std::find( all.begin(), all.end(), name ) != all.end();
+    }
 };
+extern const std::vector<Texts> valueTexts, headerTexts;
+
 using OptionalText = std::optional<std::string>;
 
 template <class LIST>
@@ -99,17 +107,15 @@ void forEach( const Texts &texts, TEST test )
 
 // Each type of the list must have good texts and bad ones. No text does harm to a type that it isn't meant
 // for.
-template <class LIST, class TABLES>
-void expectTexts( const LIST &list, const TABLES &tables )
+template <class LIST>
+void expectTexts( const LIST &list, const std::vector<Texts> &tables )
 {
     for ( auto &type : list )
     {
         int good = 0, bad = 0;
         for ( const Texts &texts : tables )
         {
-            bool isMeant =
-                ( " " + std::string( texts.names ) + " " ).find( " " + std::string( type.name ) + " " )
-                != std::string::npos;
+            bool isMeant = texts.areFor( type.name );
             forEach( texts,
                      [&]( const OptionalText &text, const OptionalText &written )
                      {
@@ -140,79 +146,11 @@ void expectAscending( const TYPE &type, const std::vector<const char *> &texts )
         }
 }
 
-// A field of an object: its functions, what the getter gives when it is set, what the object is written as
-// then, and what the setter says to a bad value.
-template <class HANDLE>
-struct Field
-{
-    const char *word;
-    std::function<void( HANDLE *object )> set;
-    std::string ( *get )( HANDLE object );
-    std::string got, written;
-    std::function<void( HANDLE *object )> setBad;
-    std::string condition;
-    RT_BOOL ( *has )( HANDLE object ) = nullptr; // the field may be absent
-    void ( *del )( HANDLE *object ) = nullptr;
-};
-
 inline std::string shown( int64_t number ) { return std::to_string( number ); }
 template <class HANDLE>
 std::string shown( HANDLE object )
 {
     return object ? utf8( rtObjToString( adopt( rt::asObj( object ) ).get() ) ) : "(null)";
-}
-
-// clang-format off
-#define FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, ... )     \
-    { #WORD,                                                             \
-      [&]( auto *object ) { telsx##NAME##Set##WORD( object, GOOD ); },   \
-      []( auto object ) { return shown( telsx##NAME##WORD( object ) ); }, GOT, WRITTEN, \
-      [&]( auto *object ) { telsx##NAME##Set##WORD( object, BAD ); }, CONDITION __VA_ARGS__ }
-#define OPTION( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION ) \
-    FIELD( NAME, WORD, GOOD, GOT, WRITTEN, BAD, CONDITION, , telsx##NAME##Has##WORD, telsx##NAME##Del##WORD )
-// clang-format on
-
-// The object is one without optional fields. Setters are told null as self and *self.
-template <class HANDLE, class WRITE>
-void expectFields( const Ref<HANDLE> &object, WRITE write, const std::string &self,
-                   std::initializer_list<Field<HANDLE>> fields )
-{
-    std::string before = write( object.get() );
-    for ( const Field<HANDLE> &field : fields )
-    {
-        SCOPED_TRACE( field.word );
-        Ref<HANDLE> changed = object;
-        std::string without = field.get( object.get() );
-        field.set( changed.address() );
-        EXPECT_EQ( field.written, write( changed.get() ) );
-        EXPECT_EQ( field.got, field.get( changed.get() ) );
-        EXPECT_EQ( before, write( object.get() ) ) << "the other holder sees nothing";
-        HANDLE held = changed.get();
-        field.set( changed.address() );
-        EXPECT_EQ( held, changed.get() ) << "the only holder's object is changed in place";
-
-        HANDLE none = nullptr;
-        EXPECT_ABORT( field.get( nullptr ), self );
-        EXPECT_ABORT( field.set( nullptr ), self );
-        EXPECT_ABORT( field.set( &none ), "*" + self );
-        EXPECT_ABORT( field.setBad( changed.address() ), field.condition );
-        if ( !field.has )
-            continue;
-        EXPECT_FALSE( field.has( object.get() ) );
-        EXPECT_TRUE( field.has( changed.get() ) );
-        Ref<HANDLE> other = changed;
-        for ( int i = 0; i < 2; ++i )
-        {
-            field.del( changed.address() );
-            EXPECT_EQ( field.written, write( other.get() ) );
-            EXPECT_FALSE( field.has( changed.get() ) );
-            EXPECT_EQ( without, field.get( changed.get() ) );
-            EXPECT_EQ( before, write( changed.get() ) );
-        }
-        EXPECT_ABORT( field.has( nullptr ), self );
-        EXPECT_ABORT( field.del( nullptr ), self );
-        EXPECT_ABORT( field.del( &none ), "*" + self );
-    }
 }
 
 } // namespace support

@@ -125,19 +125,8 @@ TEST( Stream, TakesPartsOfBuffers )
     EXPECT_EQ( "A b:c D/1 | Content-Length: <1> | body <x>\n0", reader.outcome() );
 }
 
-TEST( Stream, MessagesOutliveTheDecoder )
-{
-    Reader reader;
-    telsxMessageStreamDecoderWrite( reader.decoder.get(), buffer( "A b:c D/1\r\nl: 1\r\n\r\nx" ).get() );
-    Ref<TELSX_MESSAGE> msg = adopt( telsxMessageStreamDecoderRead( reader.decoder.get() ) );
-    reader.read( "A b:c D/1\r\nl: 5\r\n\r\n" );
-    reader.decoder = {};
-    EXPECT_EQ( "A b:c D/1 | Content-Length: <1> | body <x>", dump( msg.get() ) );
-}
-
 TEST( Stream, AbortsForNull )
 {
     EXPECT_ABORT( telsxMessageStreamDecoderRead( nullptr ), "decoder" );
-    EXPECT_ABORT( telsxMessageStreamDecoderError( nullptr ), "decoder" );
     EXPECT_ABORT( telsxMessageStreamDecoderWrite( nullptr, buffer( "" ).get() ), "decoder" );
 }

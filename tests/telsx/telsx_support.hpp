@@ -3,29 +3,12 @@
 
 #include <array>
 #include <utility>
-#include <vector>
 
 #include "support/support.hpp"
 #include "telsx/telsx.h"
 
 namespace support
 {
-
-// The code points of a UTF-8 text, in a heap block of exactly their number.
-inline std::vector<RT_CHAR> codePoints( std::string_view utf8 )
-{
-    Ref<RT_STRING> string = str( utf8 );
-    const RT_CHAR *chs = rtStringBacking( string.get() );
-    return { chs, chs + rtStringLength( string.get() ) };
-}
-
-// What a skipper or a decoder makes of such a text.
-template <class FUNCTION>
-auto applied( FUNCTION *function, std::string_view utf8 )
-{
-    std::vector<RT_CHAR> exact = codePoints( utf8 );
-    return function( exact.data(), std::ssize( exact ) );
-}
 
 // Texts to go through.
 template <class... TEXT>
