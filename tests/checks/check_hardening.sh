@@ -10,13 +10,13 @@ declare -A variables=(
     [rt]="\
 (anonymous namespace)::hasEnded
 (anonymous namespace)::hashOf(rt::Text)::seed
-(anonymous namespace)::lists
 (anonymous namespace)::makeLists()::atThreadEnd
 (anonymous namespace)::makeLists()::ofThread
 first
 guard variable for (anonymous namespace)::hashOf(rt::Text)::seed
 guard variable for (anonymous namespace)::makeLists()::atThreadEnd
-mutex"
+mutex
+rt::blockLists"
     [net]="" [rsc]=""
     [telsx]="\
 shortToLongDict
