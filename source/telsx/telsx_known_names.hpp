@@ -154,7 +154,7 @@ consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
     std::array<KnownNameSlot, knownNameSlots> table = {};
     for ( int16_t i = 0, number = 0; std::size_t( i ) < std::size( knownNames ); ++i )
     {
-        if ( knownNames[i].name != knownNames[number].name )
+        if ( knownNames[i].bytes != knownNames[number].bytes )
             number = i;
         KnownNameSlot &slot =
             table[knownNameSlot( knownNames[i].spelling.data(), knownNames[i].spelling.size() )];
