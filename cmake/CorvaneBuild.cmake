@@ -1,4 +1,6 @@
-# How everything of the project is compiled, and the function that makes one of its libraries.
+# How everything of the project is compiled, and the function that makes one of its libraries and installs it.
+
+include( GNUInstallDirs )
 
 set( CMAKE_CXX_STANDARD 20 )
 set( CMAKE_CXX_STANDARD_REQUIRED ON )
@@ -27,6 +29,7 @@ if( NOT CORVANE_SANITIZE )
     target_link_options( corvane-flags INTERFACE "$<${optimised}:-Wl,-z,relro;-Wl,-z,now;-Wl,-z,noexecstack>" )
 endif()
 
+set( CMAKE_INSTALL_RPATH "$ORIGIN" )
 if( CORVANE_SANITIZE )
     target_compile_options( corvane-flags INTERFACE
         "-fsanitize=${CORVANE_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer )
@@ -37,10 +40,13 @@ if( CORVANE_SANITIZE )
     target_link_options( corvane-flags INTERFACE "-fsanitize=${CORVANE_SANITIZE}" )
 endif()
 
-# corvane_library( rt NEEDS ... PRIVATE_NEEDS ... OUTPUT name ) makes the shared library of source/rt, which exports
-# only what begins with the folder's name. NEEDS are libraries that its public headers include.
+# Headers stand below a folder of ours, because <net/...> is the system's too.
+set( CORVANE_INCLUDE "${CMAKE_INSTALL_INCLUDEDIR}/corvane" )
+
+# corvane_library( rt OUTPUT name SUMMARY text NEEDS ... PRIVATE_NEEDS ... ) makes the shared library of source/rt, which
+# exports only what begins with the folder's name. NEEDS are libraries that its public headers include.
 function( corvane_library NAME )
-    cmake_parse_arguments( ARG "" "OUTPUT" "NEEDS;PRIVATE_NEEDS" ${ARGN} )
+    cmake_parse_arguments( ARG "" "OUTPUT;SUMMARY" "NEEDS;PRIVATE_NEEDS" ${ARGN} )
     file( GLOB units CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp" )
     add_library( ${NAME} SHARED ${units} )
     add_library( corvane::${NAME} ALIAS ${NAME} )
@@ -61,4 +67,16 @@ function( corvane_library NAME )
         VERSION "${PROJECT_VERSION}" SOVERSION "${PROJECT_VERSION_MAJOR}"
         CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
         LINK_DEPENDS "${map}" )
+
+    install( TARGETS ${NAME} EXPORT telsx
+        LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+        INCLUDES DESTINATION "${CORVANE_INCLUDE}" )
+    install( DIRECTORY ${NAME} DESTINATION "${CORVANE_INCLUDE}" COMPONENT development
+        FILES_MATCHING PATTERN *.h PATTERN *.def PATTERN telsx.hpp )
+    set( pc "${CMAKE_INSTALL_LIBDIR}/pkgconfig" )
+    file( RELATIVE_PATH PC_INCLUDE "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_FULL_INCLUDEDIR}/corvane" )
+    list( TRANSFORM ARG_NEEDS PREPEND corvane- OUTPUT_VARIABLE PC_NEEDS )
+    list( JOIN PC_NEEDS " " PC_NEEDS )
+    configure_file( "${CMAKE_SOURCE_DIR}/cmake/library.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/${ARG_OUTPUT}.pc" @ONLY )
+    install( FILES "${CMAKE_CURRENT_BINARY_DIR}/${ARG_OUTPUT}.pc" DESTINATION "${pc}" COMPONENT development )
 endfunction()
