@@ -73,11 +73,11 @@ static void expectSet( const Set<HANDLE> &set, bool isCaseKept )
 
     // Whatever has a text can stand in the vector.
     Ref<RT_VECTOR> vector = strings( { "X", "x" } ), badVector = vector;
-    rtVectorAppend( vector.address(), rt::asObj( adopt( telsxHeaderMaxForwardsCreate( 70 ) ).get() ) );
+    rtVectorAppend( vector.address(), rt::asObj( sample<TELSX_HEADER_PRIORITY>().get() ) );
     rtVectorAppend( badVector.address(), rt::asObj( sample<TELSX_HEADER_CSEQ>().get() ) );
     EXPECT_ABORT( set.setVector( hdr.address(), badVector.get() ), set.condition );
     set.setVector( hdr.address(), vector.get() );
-    EXPECT_EQ( isCaseKept ? "X,x,70," : "x,70,", elements( set, hdr ) );
+    EXPECT_EQ( isCaseKept ? "X,x,urgent," : "x,urgent,", elements( set, hdr ) );
     set.clear( hdr.address() );
     EXPECT_EQ( "", elements( set, hdr ) );
 
