@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# The libraries export what their public headers declare, no more and no less.
+# The libraries export what their public headers declare, no more and no less, and that is what the lists in abi/ say.
 # usage: check_exports.sh CC SOURCE LIBRARY=FILE...     such as rt=build/debug/lib/libcorvane-rt.so
 set -euo pipefail
+export LC_ALL=C # which is how the lists are sorted
 
 # The functions and variables that the headers of a library declare. The compiler takes out comments, macros and
 # attributes; of what is left, declarations end in semicolons, and a name stands in front of the first parenthesis.
@@ -16,9 +17,15 @@ declared()
 }
 
 cc=$1 source=$2 failed=0
+scratch=$( mktemp -d )
+trap 'rm -rf "$scratch"' EXIT
 for library in "${@:3}"; do
-    name=${library%%=*}
+    name=${library%%=*} file=${library#*=}
+    list=$( basename "${file%%.so*}" ).names
+    nm -D --defined-only "$file" | awk '{ print $NF }' | sort -u >"$scratch/exported"
     diff -U 0 --label "declared by source/$name/*.h" <( declared "$name" ) \
-        --label "exported by $name" <( nm -D --defined-only "${library#*=}" | awk '{ print $NF }' | sort -u ) || failed=1
+        --label "exported by $name" "$scratch/exported" || failed=1
+    diff -U 0 --label "abi/$list" "$source/../abi/$list" --label "exported by $name" "$scratch/exported" ||
+        { echo "The interface has changed. If it is meant to, 'scripts/abi names' renews the lists in abi/."; failed=1; }
 done
 exit $failed
