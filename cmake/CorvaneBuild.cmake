@@ -20,13 +20,17 @@ target_compile_options( corvane-flags INTERFACE
     "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." "-ffile-prefix-map=${CMAKE_BINARY_DIR}=build" )
 set( CMAKE_BUILD_RPATH_USE_ORIGIN ON )
 
+# A target with this property is compiled without optimisation in every build.
+set( unoptimised "$<BOOL:$<TARGET_PROPERTY:CORVANE_UNOPTIMISED>>" )
+target_compile_options( corvane-flags INTERFACE "$<${unoptimised}:-O0>" )
+
 # What hardens a build that is optimised. Where all functions of other libraries are looked up on load, calls need not go
 # through a table of stubs, which makes up for most of the cost. The sanitizers bring their own versions of what is checked.
-set( optimised "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>" )
+set( optimised "$<AND:$<CONFIG:Release,RelWithDebInfo,MinSizeRel>,$<NOT:${unoptimised}>>" )
 if( NOT CORVANE_SANITIZE )
     target_compile_options( corvane-flags INTERFACE
         "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong;-fno-plt>" )
-    target_link_options( corvane-flags INTERFACE "$<${optimised}:-Wl,-z,relro;-Wl,-z,now;-Wl,-z,noexecstack>" )
+    target_link_options( corvane-flags INTERFACE "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-Wl,-z,relro;-Wl,-z,now;-Wl,-z,noexecstack>" )
 endif()
 
 set( CMAKE_INSTALL_RPATH "$ORIGIN" )

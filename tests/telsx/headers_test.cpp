@@ -29,17 +29,6 @@ TEST( Headers, AbortForNullAndForOtherNames )
     }
 }
 
-TEST( Headers, RefuseDamagedStores )
-{
-    for ( const headers::Kind &kind : headers::all )
-        for ( const char *line : { "1 A\r\nB: c", "\r\n" } )
-        {
-            Ref<RT_STORE> store = adopt( rtStoreCreate() );
-            rtStoreSetValueCstr( store.address(), "0", -1, str( line ).get() );
-            EXPECT_FALSE( adopt( kind.tryRestore( store.get() ) ) ) << kind.name;
-        }
-}
-
 // Headers of a message that came over the wire, with folds, compact names and repeats.
 TEST( Headers, AreReadFromTheWire )
 {

@@ -1,5 +1,4 @@
 // Lists of values as they change, what they share with the raw header, and the star.
-#include <random>
 
 #include "telsx/object_tables.hpp"
 #include "telsx/samples.hpp"
@@ -104,67 +103,6 @@ static const List lists[] = {
 #include "telsx/telsx_headers.def"
 };
 #undef TELSX_KIND
-
-static std::string joined( const std::vector<std::string> &lines )
-{
-    std::string text;
-    for ( const std::string &line : lines )
-        text += ( text.empty() ? "" : "\n" ) + line;
-    return text;
-}
-
-// Random changes beside the same changes of a vector; every other time somebody else holds the header too.
-TEST( Lists, ChangeByIndex )
-{
-    std::minstd_rand random( 1 );
-    for ( const List &list : lists )
-    {
-        SCOPED_TRACE( list.name );
-        Ref<RT_OBJ> hdr = adopt( list.create() );
-        std::vector<std::string> model;
-        for ( int step = 0; step < 100; ++step )
-        {
-            Ref<RT_OBJ> other = step % 2 ? hdr : Ref<RT_OBJ>();
-            RT_OBJ before = hdr.get();
-            std::string text = formOf( list ).text( static_cast<char>( 'a' + random() % 26 ) ),
-                        linesBefore = list.lines( hdr );
-            Ref<RT_OBJ> value = list.value( text );
-            ASSERT_TRUE( value ) << text;
-            auto length = std::ssize( model ),
-                 index = static_cast<std::ptrdiff_t>( random() ) % ( length + 1 );
-            switch ( step == 60 ? 5 : random() % ( index < length ? 5 : 3 ) )
-            {
-                case 0:
-                    list.prepend( hdr.address(), value.get() );
-                    model.insert( model.begin(), text );
-                    break;
-                case 1:
-                    list.append( hdr.address(), value.get() );
-                    model.push_back( text );
-                    break;
-                case 2:
-                    list.insert( hdr.address(), index, value.get() );
-                    model.insert( model.begin() + index, text );
-                    break;
-                case 3:
-                    list.del( hdr.address(), index );
-                    model.erase( model.begin() + index );
-                    break;
-                case 4:
-                    list.set( hdr.address(), index, value.get() );
-                    model[static_cast<std::size_t>( index )] = text;
-                    break;
-                default: list.clear( hdr.address() ); model.clear();
-            }
-            EXPECT_EQ( bool( other ), before != hdr.get() );
-            EXPECT_TRUE( !other || linesBefore == list.lines( other ) );
-            ASSERT_EQ( std::ssize( model ), list.length( hdr.get() ) );
-            ASSERT_EQ( joined( model ), list.lines( hdr ) );
-            for ( int64_t i = 0; i < std::ssize( model ); ++i )
-                EXPECT_EQ( model[static_cast<std::size_t>( i )], list.at( hdr.get(), i ) );
-        }
-    }
-}
 
 TEST( Lists, AbortForNullAndForIndicesOutside )
 {

@@ -145,29 +145,6 @@ TEST( MessageHeaderStore, RestoresTheSameHeader )
     EXPECT_EQ( headers[3], adopt( telsxMessageHeaderRestoreLinesWcstr( L"v", -1, lines.get() ) ) );
 }
 
-TEST( MessageHeaderStore, FailsWhereItIsDamaged )
-{
-    auto restored = []( const char *name, const char *line )
-    {
-        Ref<RT_STORE> store = adopt( rtStoreCreate() ), lines = adopt( rtStoreCreate() );
-        // A store among the lines is passed over.
-        rtStoreSetStoreCstr( lines.address(), "0", -1, store.get() );
-        rtStoreSetValueCstr( lines.address(), "1", -1, str( line ).get() );
-        if ( name )
-            rtStoreSetValueCstr( store.address(), "name", -1, str( name ).get() );
-        EXPECT_FALSE( adopt( telsxMessageHeaderTryRestore( store.get() ) ) ) << "no lines";
-        rtStoreSetStoreCstr( store.address(), "lines", -1, lines.get() );
-        Ref<TELSX_MESSAGE_HEADER> header = adopt( telsxMessageHeaderTryRestore( store.get() ) );
-        return header ? dump( header.get() ) : "(null)";
-    };
-    EXPECT_EQ( "Via: <a>", restored( "v", "a" ) );
-    for ( auto [name, line] : { std::pair<const char *, const char *>( nullptr, "a" ),
-                                { "", "a" },
-                                { "a b", "a" },
-                                { "v", "a\r\nb" } } )
-        EXPECT_EQ( "(null)", restored( name, line ) );
-}
-
 TEST( MessageHeader, AbortsForBrokenContracts )
 {
     Ref<TELSX_MESSAGE_HEADER> via = header( "Via", { "a" } );
