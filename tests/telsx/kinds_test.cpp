@@ -77,7 +77,7 @@ static void expectSet( const Set<HANDLE> &set, bool isCaseKept )
     rtVectorAppend( badVector.address(), rt::asObj( sample<TELSX_HEADER_CSEQ>().get() ) );
     EXPECT_ABORT( set.setVector( hdr.address(), badVector.get() ), set.condition );
     set.setVector( hdr.address(), vector.get() );
-    EXPECT_EQ( isCaseKept ? "X,x,urgent," : "x,urgent,", elements( set, hdr ) );
+    EXPECT_EQ( isCaseKept ? "X,x,non-urgent," : "x,non-urgent,", elements( set, hdr ) );
     set.clear( hdr.address() );
     EXPECT_EQ( "", elements( set, hdr ) );
 
