@@ -74,6 +74,13 @@ static Text takeLabel( Text *name )
     return name->take( std::find_if( name->chs, name->chs + name->length, isDot ) - name->chs );
 }
 
+// Whether libidn2 could convert a text. Who runs out of memory can't go on.
+static bool hasConverted( int result )
+{
+    RT_CHECK( result != IDN2_MALLOC, "out of memory", "result" );
+    return result == IDN2_OK;
+}
+
 // The label as UTS 46 writes it in ASCII, or null where that is no label of letters, digits and hyphens.
 // Libidn2's flag for that rule won't do: it drops the other characters.
 static Ref<RT_STRING> tryConvertToAscii( Text label )
@@ -83,7 +90,7 @@ static Ref<RT_STRING> tryConvertToAscii( Text label )
         return {};
     std::copy_n( label.chs, label.length, input.begin() );
     char *output = nullptr;
-    if ( idn2_to_ascii_4z( input.data(), &output, IDN2_NFC_INPUT | IDN2_NONTRANSITIONAL ) != IDN2_OK )
+    if ( !hasConverted( idn2_to_ascii_4z( input.data(), &output, IDN2_NFC_INPUT | IDN2_NONTRANSITIONAL ) ) )
         return {};
     Ref<RT_STRING> ascii = adopt( rtStringCreateFromCstr( output, -1 ) );
     idn2_free( output );
@@ -104,7 +111,7 @@ static Ref<RT_STRING> tryConvertToUnicode( Text label )
                     []( RT_CHAR ch ) { return isLetter( ch, 'z' ) ? ch | 0x20 : ch; } );
     uint32_t *output = nullptr;
     if ( !std::equal( prefix.begin(), prefix.end(), input.begin() )
-         || idn2_to_unicode_4z4z( input.data(), &output, 0 ) != IDN2_OK )
+         || !hasConverted( idn2_to_unicode_4z4z( input.data(), &output, 0 ) ) )
         return {};
     Ref<RT_STRING> unicode = adopt( rtStringCreateFromCharsCopy( output, -1 ) );
     idn2_free( output );

@@ -177,7 +177,7 @@ static RT_CHAR *own( RT_STRING *handle, int64_t capacity )
     if ( isPrivate )
     {
         capacity = rt::grown( string->capacity, capacity );
-        RT_CHECK( capacity <= ( PTRDIFF_MAX - 64 ) / 4, "out of memory", "capacity" );
+        RT_CHECK( capacity <= rt::mostChars, "out of memory", "capacity" );
         string = reinterpret_cast<RT_STRING>( rt::growBlock(
             rt::asObj( string ), static_cast<int64_t>( sizeof( RT_STRING_ ) ) + capacity * 4 ) );
         string->chs = string->inner();
@@ -200,7 +200,7 @@ static RT_CHAR *extend( RT_STRING *string, int64_t count )
     RT_ASSERT( string );
     RT_ASSERT( *string );
     int64_t length = ( *string )->length;
-    RT_CHECK( count <= ( PTRDIFF_MAX - 64 ) / 4 - length, "out of memory", "count" );
+    RT_CHECK( count <= rt::mostChars - length, "out of memory", "count" );
     RT_CHAR *chs = own( string, length + count );
     ( *string )->length = length + count;
     return chs + length;
@@ -412,7 +412,7 @@ template <class CHAR>
 static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, va_list args )
 {
     Format<CHAR> format = { chars, chars + lengthOf( chars, length ) };
-    static constexpr int64_t usualArguments = 32;
+    static constexpr int64_t usualArguments = 16;
     own( string, ( *string )->length + ( format.end - format.at ) + usualArguments );
     ArgList list;
     va_copy( list.args, args );

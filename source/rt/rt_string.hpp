@@ -18,6 +18,9 @@ struct RT_STRING_
 namespace rt
 {
 
+// The length of the longest string: the size of its block, rounded up, is still a number.
+inline constexpr int64_t mostChars = ( PTRDIFF_MAX - 128 ) / 4;
+
 // How many code points fit into the string's block.
 inline int64_t innerCapacity( RT_STRING string )
 {
@@ -28,7 +31,7 @@ inline int64_t innerCapacity( RT_STRING string )
 // A string of that length, a new reference in the second argument. The caller writes its code points at once.
 inline RT_CHAR *newString( int64_t length, RT_STRING *string )
 {
-    RT_CHECK( length >= 0 && length <= ( PTRDIFF_MAX - 64 ) / 4, "out of memory", "length" );
+    RT_CHECK( length >= 0 && length <= mostChars, "out of memory", "length" );
     auto *made = reinterpret_cast<RT_STRING>(
         rt___ObjCreate( static_cast<int64_t>( sizeof( RT_STRING_ ) ) + length * 4, &rt___sort_RT_STRING ) );
     made->chs = made->inner();

@@ -134,3 +134,19 @@ TEST( RtTime, OrdersTheEarlierFirst )
     EXPECT_LT( rtTimeCompare( time( "2020-1-1 0:0:0" ).get(), now.get() ), 0 );
     EXPECT_EQ( "0000-01-01 00:00:00", utf8( rtTimeToString( adopt( rtTimeCreate() ).get() ) ) );
 }
+
+TEST( RtMemory, WhatNoMemoryHoldsAborts )
+{
+    auto expectAbort = []( auto create ) { EXPECT_DEATH( create(), ": out of memory: " ); };
+    str( "a" ); // whose block, freed, makes later ones look for one of their size
+    Ref<RT_STRING> string = str( "a" );
+    Ref<RT_BUFFER> bytes = buffer( "a" );
+    for ( int64_t length : { INT64_MAX, INT64_MAX / 4, INT64_MAX / 4 - 16 } )
+    {
+        expectAbort( [=] { rtStringCreateFromCstr( "", length ); } );
+        expectAbort( [&] { rtStringAppendCstr( string.address(), "", length ); } );
+    }
+    expectAbort( [&] { rtBufferAppendBytes( bytes.address(), "", INT64_MAX ); } );
+    expectAbort( [] { rtVectorCreateWithCapacity( INT64_MAX ); } );
+    expectAbort( [] { rtVectorCreateWithCapacity( INT64_MAX / 8 + 1 ); } );
+}

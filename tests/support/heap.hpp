@@ -5,12 +5,11 @@
 
 #include <malloc.h>
 
-#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
+#include <thread>
 
 namespace heap
 {
@@ -43,6 +42,23 @@ inline bool hasRunOut()
         return false;
     errno = ENOMEM;
     return true;
+}
+
+// How many bytes what the function makes holds alive. It is made in a thread of its own, so that the blocks
+// that are freed on the way go when the thread does; what the first such thread leaves behind doesn't count.
+template <class MAKE>
+int64_t heldBy( MAKE make )
+{
+    auto madeInThread = [make]
+    {
+        decltype( make() ) made;
+        std::thread( [&] { made = make(); } ).join();
+        return made;
+    };
+    madeInThread();
+    int64_t before = used;
+    auto made = madeInThread();
+    return used - before;
 }
 
 #if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ )
