@@ -412,8 +412,6 @@ template <class CHAR>
 static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, va_list args )
 {
     Format<CHAR> format = { chars, chars + lengthOf( chars, length ) };
-    static constexpr int64_t usualArguments = 16;
-    own( string, ( *string )->length + ( format.end - format.at ) + usualArguments );
     ArgList list;
     va_copy( list.args, args );
     while ( format.at != format.end )
@@ -430,7 +428,10 @@ static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, 
 template <class CHAR>
 static RT_STRING createFromFormat( const CHAR *format, int64_t length, va_list args )
 {
-    RT_STRING string = rtStringCreate();
+    static constexpr int64_t usualArguments = 16;
+    RT_STRING string;
+    rt::newString( lengthOf( format, length ) + usualArguments, &string );
+    string->length = 0;
     appendFormat( &string, format, length, args );
     return string;
 }

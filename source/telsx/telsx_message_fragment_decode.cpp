@@ -185,7 +185,8 @@ Ref<TELSX_MESSAGE_FRAGMENT> telsx::tryDecodeHead( Bytes head, int64_t *contentLe
 
     Ref<RT_BUFFER> copy = adopt( rtBufferCreate() );
     unsigned char *bytes = rt___BufferExtend( copy.address(), lengthOf( lines ) );
-    std::memcpy( bytes, lines.data(), lines.size() );
+    if ( !lines.empty() )
+        std::memcpy( bytes, lines.data(), lines.size() );
     frag->headers = createHeaderTable( copy );
     if ( !decodeHeaders( frag->headers.get(), bytes ) )
         return {};
