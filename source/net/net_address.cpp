@@ -83,7 +83,7 @@ static Found findIpV4( Text text )
                 return {};
         }
         uint16_t &group = found.groups[6 + i / 2];
-        group = static_cast<uint16_t>( group << 8 | value );
+        group = static_cast<uint16_t>( RT_CHAR{ group } << 8 | value );
     }
     found.length = text.length - rest.length;
     return found;
