@@ -111,9 +111,13 @@ Ref<TELSX_GENERIC_PARAM> param( Change &change )
     Ref<RT_STRING> value = text( rest.substr( 1 ) );
     if ( !telsxGenericParamValueOk( type, value.get() ) )
         return {};
-    if ( type == TELSX_GENERIC_PARAM_VALUE_TYPE_HOST )
-        change.exact &= !telsxTokenOk( value.get() ) && isSameHost( value.get() );
-    return adopt( telsxGenericParamCreateWithValue( nameText.get(), type, value.get() ) );
+    auto made = adopt( telsxGenericParamCreateWithValue( nameText.get(), type, value.get() ) );
+    if ( type == TELSX_GENERIC_PARAM_VALUE_TYPE_HOST ) // on the wire it may be a token
+    {
+        Ref<RT_STRING> encoded = adopt( telsx___GenericParamEncode( made.get() ) );
+        change.exact &= made == adopt( rt::textOf( encoded ).as( telsx___GenericParamTryDecode ) );
+    }
+    return made;
 }
 
 template <class HANDLE>
