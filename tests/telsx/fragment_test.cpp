@@ -236,3 +236,25 @@ TEST( Message, IsAFragmentWithAStartLine )
     EXPECT_EQ( "A b:c D/1 | body <x>", dump( copy.get() ) );
     EXPECT_EQ( "A b:c D/1 | body <y>", dump( msg.get() ) );
 }
+
+// Of known and of other names, taken out and put in again, while others hold what was before.
+TEST( Fragment, HeadersKeepTheirOrderThroughDeletions )
+{
+    std::string wire = "BYE sip:a SIP/2.0\r\n", expected = "BYE sip:a SIP/2.0";
+    for ( int i = 0; i < 40; ++i )
+        wire += "X-" + std::to_string( i ) + ": 1\r\n" + ( i == 20 ? "Via: v\r\n" : "" );
+    const Ref<TELSX_MESSAGE> before = message( wire + "\r\n" );
+    Ref<TELSX_MESSAGE> msg = before;
+    for ( int i = 0; i < 40; ++i )
+        if ( i % 10 )
+            telsxMessageDelHeader( msg.address(), str( "x-" + std::to_string( i ) ).get() );
+    EXPECT_EQ( expected + " | X-0: <1> | X-10: <1> | X-20: <1> | Via: <v> | X-30: <1>", dump( msg.get() ) );
+
+    telsxMessageDelHeaderCstr( msg.address(), "X-0", -1 );
+    for ( const char *name : { "X-0", "X-5" } )
+        telsxMessageSetHeader( msg.address(),
+                               adopt( telsxMessageHeaderCstr( before.get(), name, -1 ) ).get() );
+    telsxMessageDelHeaderCstr( msg.address(), "v", -1 );
+    EXPECT_EQ( expected + " | X-10: <1> | X-20: <1> | X-30: <1> | X-0: <1> | X-5: <1>", dump( msg.get() ) );
+    EXPECT_EQ( 41, rtVectorLength( adopt( telsxMessageHeadersVector( before.get() ) ).get() ) );
+}
