@@ -63,7 +63,7 @@ struct Array
     T *append( const T &item )
     {
         if ( length == capacity )
-            reserve( grown( capacity, length + 8 ) );
+            reserve( length ? 2 * length : 8 );
         return &( items[length++] = item );
     }
     void append( const Array &other )
