@@ -140,10 +140,9 @@ static Ref<HeaderTable *> copyOf( HeaderTable *table )
     for ( HeaderEntry &entry : table->entries )
         if ( entry.name )
         {
-            HeaderEntry same = entry;
-            same.header = knownHeader( entry );
-            if ( same.header )
-                rt::retain( rt::asObj( same.header ) );
+            // The header alone may be put there by another thread meanwhile.
+            Ref<TELSX_MESSAGE_HEADER> header = share( knownHeader( entry ) );
+            HeaderEntry same = { entry.name, header.take(), entry.first, entry.last, entry.number };
             HeaderName name = { entry.name, entry.number };
             append( copy.get(), name, placeOf( copy.get(), name ), same );
         }
