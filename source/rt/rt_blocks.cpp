@@ -5,7 +5,7 @@
 
 #include "rt/rt_memory.hpp"
 
-[[gnu::tls_model( "initial-exec" )]] constinit thread_local rt::BlockLists *rt::blockLists = nullptr;
+__thread RT_BLOCK_LISTS_ *rt___blockLists = nullptr;
 
 namespace
 {
@@ -20,7 +20,7 @@ struct AtThreadEnd
     ~AtThreadEnd()
     {
         hasEnded = true;
-        for ( rt::BlockList &list : std::exchange( rt::blockLists, nullptr )->of )
+        for ( rt::BlockList &list : std::exchange( rt___blockLists, nullptr )->of )
             while ( list.first )
                 std::free( std::exchange( list.first, *static_cast<void **>( list.first ) ) );
     }
@@ -32,9 +32,9 @@ bool makeLists()
     if ( hasEnded )
         return false;
     static thread_local AtThreadEnd atThreadEnd;
-    static thread_local rt::BlockLists ofThread = {};
+    static thread_local RT_BLOCK_LISTS_ ofThread = {};
     atThreadEnd.isSet = true;
-    rt::blockLists = &ofThread;
+    rt___blockLists = &ofThread;
     return true;
 }
 
@@ -44,7 +44,7 @@ RT_OBJ rt::allocateNewBlock( int64_t size ) { return reinterpret_cast<RT_OBJ>( a
 
 void rt::freeUnlistedBlock( RT_OBJ obj )
 {
-    if ( listsBlocks && !blockLists && obj->size <= mostListed && makeLists() )
+    if ( listsBlocks && !rt___blockLists && obj->size <= mostListed && makeLists() )
         freeBlock( obj );
     else
         std::free( obj );

@@ -20,7 +20,7 @@ inline constexpr bool listsBlocks = true;
 namespace rt
 {
 
-inline constexpr int64_t blockStep = 16, mostListed = 512, mostBytesInList = 16384;
+inline constexpr int64_t blockStep = 16, mostListed = 2048, mostBytesInList = 16384;
 
 // Freed blocks, the first eight bytes of each leading to the next, by size.
 struct BlockList
@@ -28,46 +28,74 @@ struct BlockList
     void *first;
     int64_t bytes;
 };
-struct BlockLists
+} // namespace rt
+
+struct RT_BLOCK_LISTS_
 {
-    BlockList of[mostListed / blockStep + 1];
+    rt::BlockList of[rt::mostListed / rt::blockStep + 1];
 };
 
-// The lists of the thread: null until it frees its first block, and again once it has ended.
-[[gnu::tls_model( "initial-exec" )]] extern constinit thread_local BlockLists *blockLists;
+namespace rt
+{
 
 RT_OBJ allocateNewBlock( int64_t size );
 void freeUnlistedBlock( RT_OBJ obj );
 
+// The list of blocks of that size.
+inline BlockList &blockListOf( int64_t size )
+{
+    return rt___blockLists->of[static_cast<uint64_t>( size ) / static_cast<uint64_t>( blockStep )];
+}
+
 // Without lists a block has exactly its size, so that sanitizers see each byte behind it.
 inline int64_t roundedToBlock( int64_t size )
 {
-    return listsBlocks ? ( size + blockStep - 1 ) / blockStep * blockStep : size;
+    return listsBlocks ? ( size + blockStep - 1 ) & -blockStep : size;
+}
+
+// A block of that many bytes, rounded, out of the lists, or null.
+inline RT_OBJ takeListedBlock( int64_t size )
+{
+    if ( !rt___blockLists || size > mostListed )
+        return nullptr;
+    BlockList &list = blockListOf( size );
+    void *block = list.first;
+    if ( block )
+    {
+        list.first = *static_cast<void **>( block );
+        list.bytes -= size;
+    }
+    return static_cast<RT_OBJ>( block );
 }
 
 // A block of at least that many bytes; the size becomes the block's own.
 inline RT_OBJ allocateBlock( int64_t *size )
 {
     *size = roundedToBlock( *size );
-    if ( blockLists && *size <= mostListed )
+    RT_OBJ block = takeListedBlock( *size );
+    return block ? block : allocateNewBlock( *size );
+}
+
+// What rt___ObjCreate does, in place where a block is at hand.
+inline RT_OBJ createObject( int64_t size, RT_SORT sort )
+{
+#ifndef RT_COUNT_OBJECTS
+    int64_t rounded = roundedToBlock( size );
+    if ( RT_OBJ obj = takeListedBlock( rounded ) )
     {
-        BlockList &list = blockLists->of[*size / blockStep];
-        if ( void *block = list.first )
-        {
-            list.first = *static_cast<void **>( block );
-            list.bytes -= *size;
-            return static_cast<RT_OBJ>( block );
-        }
+        *obj = { sort, 1, rounded };
+        return obj;
     }
-    return allocateNewBlock( *size );
+#endif
+    return rt___ObjCreate( size, sort );
 }
 
 inline void freeBlock( RT_OBJ obj )
 {
     int64_t size = obj->size;
-    if ( blockLists && size <= mostListed )
+    if ( rt___blockLists && size <= mostListed )
     {
-        BlockList &list = blockLists->of[size / blockStep];
+        BlockList &list = blockListOf( size );
         if ( list.bytes < mostBytesInList )
         {
             void *block = obj;

@@ -1,9 +1,11 @@
-// Buffers: one block whose bytes begin at an offset, so that taking out the first ones moves nothing.
+// Buffers: one block whose bytes begin at an offset, so that taking out the first ones moves nothing. A buffer that
+// is small when it is made has it behind its structure.
 #include "rt/rt_buffer.h"
 
 #include <algorithm>
 
 #include "rt/rt_memory.hpp"
+#include "rt/rt_scan.hpp"
 
 struct RT_BUFFER_
 {
@@ -12,9 +14,16 @@ struct RT_BUFFER_
     int64_t capacity;     // of the block
     int64_t offset;       // where the bytes begin in it
     int64_t length;
+
+    unsigned char *inner() { return reinterpret_cast<unsigned char *>( this + 1 ); }
 };
 
-static void freeFunc( RT_OBJ obj ) { std::free( rtBufferFrom( obj )->block ); }
+static void freeFunc( RT_OBJ obj )
+{
+    RT_BUFFER buffer = rtBufferFrom( obj );
+    if ( buffer->block != buffer->inner() )
+        std::free( buffer->block );
+}
 
 // Never null, so that an empty buffer needs no care.
 static const unsigned char *bytesOf( RT_BUFFER buffer )
@@ -56,7 +65,11 @@ static void makeRoom( RT_BUFFER buffer, int64_t more )
     if ( !fits )
     {
         buffer->capacity = rt::grown( buffer->length, buffer->length + more );
-        buffer->block = rt::reallocate( buffer->block, buffer->capacity );
+        bool isInner = buffer->block == buffer->inner();
+        unsigned char *block = rt::reallocate( isInner ? nullptr : buffer->block, buffer->capacity );
+        if ( isInner )
+            rt::copyItems( block, buffer->block, buffer->length );
+        buffer->block = block;
     }
 }
 
@@ -108,16 +121,34 @@ static void append( RT_BUFFER *buffer, RT_BUFFER &source, int64_t offset, int64_
 
 RT_BUFFER rtBufferCreate( void )
 {
-    auto *buffer = reinterpret_cast<RT_BUFFER>( rt___ObjCreate( sizeof( RT_BUFFER_ ), rtBufferSort() ) );
+    auto *buffer = reinterpret_cast<RT_BUFFER>( rt::createObject( sizeof( RT_BUFFER_ ), rtBufferSort() ) );
     buffer->block = nullptr;
     buffer->capacity = buffer->offset = buffer->length = 0;
     return buffer;
 }
 
+RT_BUFFER rt___BufferCreateWithLength( int64_t length, unsigned char **bytes )
+{
+    constexpr auto own = static_cast<int64_t>( sizeof( RT_BUFFER_ ) );
+    RT_CHECK( length <= PTRDIFF_MAX - rt::scanSlack, "out of memory", "length" );
+    int64_t size = length + rt::scanSlack;
+    bool isInner = size <= rt::mostListed - own;
+    auto *buffer =
+        reinterpret_cast<RT_BUFFER>( rt::createObject( isInner ? own + size : own, rtBufferSort() ) );
+    buffer->block = isInner ? buffer->inner() : rt::allocate<unsigned char>( size );
+    buffer->capacity = buffer->length = length;
+    buffer->offset = 0;
+    *bytes = buffer->block;
+    return buffer;
+}
+
 RT_BUFFER rtBufferCreateFromBytesCopy( const void *bytes, int64_t length )
 {
-    RT_BUFFER buffer = rtBufferCreate();
-    rtBufferAppendBytes( &buffer, bytes, length );
+    RT_ASSERT( length >= 0 );
+    RT_ASSERT( bytes || length == 0 );
+    unsigned char *into;
+    RT_BUFFER buffer = rt___BufferCreateWithLength( length, &into );
+    rt::copyItems( into, static_cast<const unsigned char *>( bytes ), length );
     return buffer;
 }
 

@@ -37,6 +37,10 @@ RT_API void rtBufferAppendTrailing( RT_BUFFER *buffer, RT_BUFFER source, int64_t
 RT_API void rtBufferDelLeading( RT_BUFFER *buffer, int64_t length );
 RT_API void rtBufferDelOuter( RT_BUFFER *buffer, int64_t offset, int64_t length );
 
+/* For the libraries above: a buffer of that many bytes, which the caller writes at once at the place that goes
+ * to the second argument. Behind them is room for rt::scanSlack more that do not count. */
+RT_API RT_BUFFER rt___BufferCreateWithLength( int64_t length, unsigned char **bytes );
+
 /* For the libraries above: makes room for that many bytes more, counts them in, and returns where the caller
  * writes them at once. */
 RT_API unsigned char *rt___BufferExtend( RT_BUFFER *buffer, int64_t length );

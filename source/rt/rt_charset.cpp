@@ -1,33 +1,28 @@
-// UTF-8 (RFC 3629). Most text is ASCII, which goes in blocks that compilers turn into vector instructions.
+// UTF-8 (RFC 3629). Most text is ASCII, which goes in blocks.
 #include "rt/rt_charset.h"
 
 #include "rt/rt_buffer.h"
 #include "rt/rt_frame.hpp"
+#include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
 
 static constexpr int64_t blockLength = 16;
 
-template <int64_t LENGTH = blockLength, class FROM>
-static bool isAsciiBlock( const FROM *from )
+template <int64_t LENGTH = blockLength>
+static bool isAsciiBlock( const unsigned char *from )
 {
-    constexpr uint64_t beyond = sizeof( FROM ) == 1 ? 0x8080808080808080 : 0xFFFFFF80FFFFFF80;
-    uint64_t words[LENGTH * sizeof( FROM ) / sizeof( uint64_t )], all = 0;
-    std::memcpy( words, from, sizeof words );
-    for ( uint64_t word : words )
-        all |= word;
-    return ( all & beyond ) == 0;
+    auto block = rt::ByteBlock::at( from );
+    for ( int64_t at = blockLength; at < LENGTH; at += blockLength )
+        block = block | rt::ByteBlock::at( from + at );
+    return block.mask() == 0;
 }
-
-// By way of copies, since bytes might be part of anything.
-template <class FROM, class TO>
-static void convertBlock( const FROM *from, TO *to )
+template <int64_t LENGTH = blockLength>
+static bool isAsciiBlock( const RT_CHAR *from )
 {
-    FROM read[blockLength];
-    TO written[blockLength];
-    std::memcpy( read, from, sizeof read );
-    for ( int64_t i = 0; i < blockLength; ++i )
-        written[i] = static_cast<TO>( read[i] );
-    std::memcpy( to, written, sizeof written );
+    rt::FourChars chs = rt::FourChars::at( from );
+    for ( int64_t at = 4; at < LENGTH; at += 4 )
+        chs = chs | rt::FourChars::at( from + at );
+    return chs.areAscii();
 }
 
 template <class FROM>
@@ -48,19 +43,37 @@ static bool isAscii( const FROM *from, int64_t length )
     return all < 0x80;
 }
 
-// Of ASCII, each way.
-template <class FROM, class TO>
-static void convert( const FROM *from, int64_t length, TO *to )
+// Of ASCII.
+static void widen( const unsigned char *from, int64_t length, RT_CHAR *to )
 {
     int64_t at = 0;
     for ( ; length - at >= blockLength; at += blockLength )
-        convertBlock( from + at, to + at );
+        rt::ByteBlock::at( from + at ).widen( to + at );
     // What is left is done with some of what is done.
     if ( at && at < length )
-        convertBlock( from + length - blockLength, to + length - blockLength );
+        rt::ByteBlock::at( from + length - blockLength ).widen( to + length - blockLength );
     else
         for ( ; at < length; ++at )
-            to[at] = static_cast<TO>( from[at] );
+            to[at] = from[at];
+}
+
+// Whether it is ASCII; what stands there if it isn't, is to be written again.
+static bool tryNarrow( const RT_CHAR *from, int64_t length, unsigned char *to )
+{
+    int64_t at = 0;
+    rt::FourChars all = {};
+    for ( ; length - at >= blockLength; at += blockLength )
+        all = all | rt::narrow( from + at, to + at );
+    if ( at && at < length )
+        all = all | rt::narrow( from + length - blockLength, to + length - blockLength );
+    else
+        for ( ; at < length; ++at )
+        {
+            if ( from[at] >= 0x80 )
+                return false;
+            to[at] = static_cast<unsigned char>( from[at] );
+        }
+    return all.areAscii();
 }
 
 static bool isContinuation( unsigned char byte ) { return ( byte & 0xC0 ) == 0x80; }
@@ -109,7 +122,7 @@ static int64_t decode( const unsigned char *bytes, int64_t length, RT_CHAR *into
         if ( length - at >= blockLength && isAsciiBlock( bytes + at ) )
         {
             if constexpr ( WRITES )
-                convertBlock( bytes + at, into + count );
+                rt::ByteBlock::at( bytes + at ).widen( into + count );
             at += blockLength;
             count += blockLength;
             continue;
@@ -136,7 +149,7 @@ static int64_t encode( const RT_CHAR *chs, int64_t length, unsigned char *into )
         if ( length - at >= blockLength && isAsciiBlock( chs + at ) )
         {
             if constexpr ( WRITES )
-                convertBlock( chs + at, into + count );
+                rt::narrow( chs + at, into + count );
             at += blockLength;
             count += blockLength;
             continue;
@@ -149,6 +162,20 @@ static int64_t encode( const RT_CHAR *chs, int64_t length, unsigned char *into )
         count += size;
     }
     return count;
+}
+
+RT_BOOL rt___AsciiOk( const char *bytes, int64_t length )
+{
+    return isAscii( reinterpret_cast<const unsigned char *>( bytes ), length );
+}
+
+RT_STRING rt___StringCreateFromAscii( const char *bytes, int64_t length )
+{
+    if ( length == 0 )
+        return rtStringCreate();
+    RT_STRING string;
+    widen( reinterpret_cast<const unsigned char *>( bytes ), length, rt::newString( length, &string ) );
+    return string;
 }
 
 RT_BOOL rt___Utf8Ok( const unsigned char *bytes, int64_t length )
@@ -176,7 +203,7 @@ int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_CHAR *in
 {
     if ( isAscii( bytes, length ) )
     {
-        convert( bytes, length, into );
+        widen( bytes, length, into );
         return length;
     }
     return decode<true>( bytes, length, into );
@@ -189,12 +216,9 @@ RT_STRING rtStringTryCreateFromUtf8( const char *bytes, int64_t length )
     if ( length == 0 )
         return rtStringCreate();
     auto *from = reinterpret_cast<const unsigned char *>( bytes );
-    rt::Ref<RT_STRING> string;
     if ( isAscii( from, length ) )
-    {
-        convert( from, length, rt::newString( length, string.address() ) );
-        return string.take();
-    }
+        return rt___StringCreateFromAscii( bytes, length );
+    rt::Ref<RT_STRING> string;
     RT_CHAR *chs = rt::newString( rt___Utf8Length( from, length ), string.address() );
     return rt___Utf8Decode( from, length, chs ) == -1 ? nullptr : string.take();
 }
@@ -207,12 +231,8 @@ int64_t rt___StringUtf8Length( RT_STRING string )
 
 int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into )
 {
-    if ( isAscii( string->chs, string->length ) )
-    {
-        convert( string->chs, string->length, into );
-        return string->length;
-    }
-    return encode<true>( string->chs, string->length, into );
+    return tryNarrow( string->chs, string->length, into ) ? string->length
+                                                          : encode<true>( string->chs, string->length, into );
 }
 
 void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string )

@@ -27,6 +27,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "rt/rt_blocks.hpp"
 #include "rt/rt_object.h"
 
 // Ends the process if a condition that the caller owes doesn't hold. The text must be taken by # in the macro
@@ -205,7 +206,7 @@ consteval bool listsAllFields()
 template <class T>
 T *create( RT_SORT sort )
 {
-    T *object = reinterpret_cast<T *>( rt___ObjCreate( sizeof( T ), sort ) );
+    T *object = reinterpret_cast<T *>( createObject( sizeof( T ), sort ) );
     std::apply( []( auto &...field ) { ( ( std::construct_at( &field ), clear( field ) ), ... ); },
                 T::fields( *object ) );
     return object;

@@ -44,12 +44,16 @@ void copyItems( T *to, const T *from, int64_t count )
         std::memcpy( static_cast<void *>( to ), from, static_cast<std::size_t>( count ) * sizeof( T ) );
 }
 
-// Items without a destructor in one block that grows at its end. Zeroed bytes are an empty one.
+// Items without a destructor in one block that grows at its end. Zeroed bytes are an empty one; one that starts
+// with a block that is somebody else's leaves that when it grows.
 template <class T>
 struct Array
 {
     T *items;
     int64_t length, capacity;
+    bool isBorrowed;
+
+    void start( T *block, int64_t count ) { *this = { block, 0, count, true }; }
 
     T *begin() { return items; }
     T *end() { return items + length; }
@@ -57,8 +61,12 @@ struct Array
 
     void reserve( int64_t count )
     {
-        if ( count > capacity )
-            items = reallocate( items, capacity = count );
+        if ( count <= capacity )
+            return;
+        T *block = items && !isBorrowed ? reallocate( items, count ) : allocate<T>( count );
+        if ( isBorrowed )
+            copyItems( block, items, length );
+        *this = { block, length, count, false };
     }
     T *append( const T &item )
     {
@@ -74,7 +82,8 @@ struct Array
     }
     void clear()
     {
-        std::free( items );
+        if ( !isBorrowed )
+            std::free( items );
         *this = {};
     }
 };

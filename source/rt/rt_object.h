@@ -108,6 +108,11 @@ RT_API int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB );
 RT_API RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort );
 RT_API void rt___ObjFree( RT_OBJ obj );
 
+/* For the libraries above: the free blocks of the thread; null until it frees its first one, and again once it has
+ * ended. */
+extern RT_API __thread struct RT_BLOCK_LISTS_ *rt___blockLists
+    __attribute__( ( tls_model( "initial-exec" ) ) );
+
 /* For tests: how many objects exist that were made at run time, in all threads. -1 where the library does not
  * count, which is so in release builds. */
 RT_API int64_t rtObjsAlive( void );

@@ -12,6 +12,7 @@
 #include "rt/rt_blocks.hpp"
 #include "rt/rt_format.h"
 #include "rt/rt_memory.hpp"
+#include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "rt/rt_vector.h"
@@ -46,9 +47,12 @@ static int64_t lengthOf( const CHAR *chars, int64_t length )
 {
     RT_ASSERT( length >= -1 );
     RT_ASSERT( chars || length == 0 );
-    if ( length == -1 )
-        while ( chars[++length] )
-            ;
+    if ( length != -1 )
+        return length;
+    if constexpr ( std::is_same_v<CHAR, char> )
+        return static_cast<int64_t>( std::strlen( chars ) );
+    while ( chars[++length] )
+        ;
     return length;
 }
 
@@ -56,6 +60,14 @@ template <class CHAR>
 static RT_CHAR widened( CHAR ch )
 {
     return static_cast<std::make_unsigned_t<CHAR>>( ch );
+}
+
+static void widen( const char *chars, int64_t length, RT_CHAR *into )
+{
+    int64_t at = 0;
+    for ( ; length - at >= 16; at += 16 )
+        rt::ByteBlock::at( chars + at ).widen( into + at );
+    std::transform( chars + at, chars + length, into + at, widened<char> );
 }
 
 template <class CHAR>
@@ -68,6 +80,8 @@ static RT_STRING createFrom( const CHAR *chars, int64_t length )
     RT_CHAR *into = rt::newString( length, &string );
     if constexpr ( std::is_same_v<CHAR, RT_CHAR> )
         std::memcpy( into, chars, static_cast<std::size_t>( length ) * sizeof( RT_CHAR ) );
+    else if constexpr ( std::is_same_v<CHAR, char> )
+        widen( chars, length, into );
     else
         std::transform( chars, chars + length, into, widened<CHAR> );
     return string;
@@ -84,7 +98,12 @@ RT_STRING rtStringCreateFromWcstr( const wchar_t *chars, int64_t length )
 
 RT_STRING rtStringCreateFromCharsCopy( const RT_CHAR *chs, int64_t length )
 {
-    return createFrom( chs, length );
+    if ( !chs || length <= 0 )
+        return createFrom( chs, length );
+    RT_STRING string;
+    std::memcpy( rt::newString( length, &string ), chs,
+                 static_cast<std::size_t>( length ) * sizeof( RT_CHAR ) );
+    return string;
 }
 
 // A part shares the text unless it is so small that a copy is as cheap, or would keep alive more than it
@@ -104,7 +123,8 @@ RT_STRING rtStringCreateFromInner( RT_STRING string, int64_t offset, int64_t len
     bool worthIt = length >= leastShared && std::max( holder->length, holder->capacity ) / mostHeld <= length;
     if ( !worthIt && !( isLiteral && length ) )
         return createFrom( string->chs + offset, length );
-    auto *part = reinterpret_cast<RT_STRING>( rt___ObjCreate( sizeof( RT_STRING_ ), &rt___sort_RT_STRING ) );
+    auto *part =
+        reinterpret_cast<RT_STRING>( rt::createObject( sizeof( RT_STRING_ ), &rt___sort_RT_STRING ) );
     part->chs = string->chs + offset;
     part->length = length;
     part->capacity = 0;
@@ -194,14 +214,15 @@ static RT_CHAR *own( RT_STRING *handle, int64_t capacity )
     return chs;
 }
 
-// Makes room for that many code points more, counts them in, and returns where they are to be written.
-static RT_CHAR *extend( RT_STRING *string, int64_t count )
+RT_CHAR *rt___StringExtend( RT_STRING *string, int64_t count )
 {
     RT_ASSERT( string );
     RT_ASSERT( *string );
     int64_t length = ( *string )->length;
     RT_CHECK( count <= rt::mostChars - length, "out of memory", "count" );
-    RT_CHAR *chs = own( string, length + count );
+    // A text that begins goes on, most times.
+    static constexpr int64_t usual = 48;
+    RT_CHAR *chs = own( string, length == 0 && count < usual ? usual : length + count );
     ( *string )->length = length + count;
     return chs + length;
 }
@@ -219,7 +240,7 @@ void rtStringAppend( RT_STRING *string, RT_STRING other )
     rtStringAppendChars( string, other->chs, other->length );
 }
 
-void rtStringAppendChar( RT_STRING *string, RT_CHAR ch ) { *extend( string, 1 ) = ch; }
+void rtStringAppendChar( RT_STRING *string, RT_CHAR ch ) { *rt___StringExtend( string, 1 ) = ch; }
 
 void rtStringAppendChars( RT_STRING *string, const RT_CHAR *chs, int64_t length )
 {
@@ -229,13 +250,13 @@ void rtStringAppendChars( RT_STRING *string, const RT_CHAR *chs, int64_t length 
     // A part of the string itself must outlive the string's move.
     bool isOwnPart = chs >= ( *string )->chs && chs < ( *string )->chs + ( *string )->length;
     Ref<RT_STRING> source = isOwnPart ? rt::share( *string ) : Ref<RT_STRING>();
-    rt::copyItems( extend( string, length ), chs, length );
+    rt::copyItems( rt___StringExtend( string, length ), chs, length );
 }
 
 void rtStringAppendCstr( RT_STRING *string, const char *chars, int64_t length )
 {
     length = lengthOf( chars, length );
-    std::transform( chars, chars + length, extend( string, length ), widened<char> );
+    std::transform( chars, chars + length, rt___StringExtend( string, length ), widened<char> );
 }
 
 void rtStringDelimitedAppendCharDelimiter( RT_STRING *string, RT_STRING item, RT_CHAR ch )
@@ -417,7 +438,7 @@ static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, 
     while ( format.at != format.end )
     {
         const CHAR *percent = std::find( format.at, format.end, CHAR( '%' ) );
-        std::transform( format.at, percent, extend( string, percent - format.at ), widened<CHAR> );
+        std::transform( format.at, percent, rt___StringExtend( string, percent - format.at ), widened<CHAR> );
         format.at = percent;
         if ( format.takes( "%" ) )
             appendDirective( string, format, list );

@@ -63,6 +63,10 @@ RT_API int64_t rtStringFindChars( RT_STRING string, int64_t offset, const RT_CHA
 RT_API RT_BOOL rtStringScanInt( RT_STRING string, int64_t offset, int64_t length, int64_t radix,
                                 int64_t *value, int64_t *consumed );
 
+/* For the libraries above: makes room for that many code points more, counts them in, and returns where the caller
+ * writes them at once. */
+RT_API RT_CHAR *rt___StringExtend( RT_STRING *string, int64_t count );
+
 /* Appends; amortised O(1) for each code point. AppendFormat takes formats as above. */
 RT_API void rtStringAppend( RT_STRING *string, RT_STRING other );
 RT_API void rtStringAppendChar( RT_STRING *string, RT_CHAR ch );

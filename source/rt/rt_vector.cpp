@@ -71,7 +71,7 @@ RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity )
     bool isInner = capacity <= mostInner;
     int64_t inner = isInner ? capacity * static_cast<int64_t>( sizeof( RT_OBJ ) ) : 0;
     auto *vector = reinterpret_cast<RT_VECTOR>(
-        rt___ObjCreate( static_cast<int64_t>( sizeof( RT_VECTOR_ ) ) + inner, rtVectorSort() ) );
+        rt::createObject( static_cast<int64_t>( sizeof( RT_VECTOR_ ) ) + inner, rtVectorSort() ) );
     vector->block = isInner ? vector->inner() : rt::allocate<RT_OBJ>( capacity );
     vector->capacity = capacity;
     vector->first = 0;
@@ -143,6 +143,12 @@ RT_BOOL rtVectorContainsOnly( RT_VECTOR vector, RT_SORT sort )
 {
     RT_ASSERT( vector );
     return std::all_of( vector->begin(), vector->end(), [sort]( RT_OBJ obj ) { return obj->sort == sort; } );
+}
+
+void rt___VectorAppendTaken( RT_VECTOR *vector, RT_OBJ obj )
+{
+    RT_VECTOR changed = own( vector, 1 );
+    *openGap( changed, changed->length ) = obj;
 }
 
 static void insert( RT_VECTOR *vector, int64_t index, RT_OBJ obj )

@@ -38,7 +38,9 @@ RT_API void rtVectorDelAt( RT_VECTOR *vector, int64_t index );
 RT_API void rtVectorDelLeading( RT_VECTOR *vector, int64_t count );
 RT_API void rtVectorClear( RT_VECTOR *vector );
 
-/* For the libraries above: the element at the index, borrowed. */
+/* For the libraries above: rtVectorAppend that takes over the caller's reference; the element at the index,
+ * borrowed. */
+RT_API void rt___VectorAppendTaken( RT_VECTOR *vector, RT_OBJ obj );
 RT_API RT_OBJ rt___VectorObjBorrowed( RT_VECTOR vector, int64_t index );
 
 RT_END

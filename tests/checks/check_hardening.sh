@@ -6,7 +6,8 @@ set -euo pipefail
 
 # All that a library may write to and that outlives a call.
 declare -A variables=(
-    # Free blocks of each thread, the modules that run and their lock, and the seed of the dictionaries.
+    # Free blocks of each thread, the modules that run and their lock, the seed of the dictionaries, and whether the
+    # processor has vectors.
     [rt]="\
 (anonymous namespace)::hasEnded
 (anonymous namespace)::hashOf(rt::Text)::seed
@@ -15,8 +16,9 @@ declare -A variables=(
 first
 guard variable for (anonymous namespace)::hashOf(rt::Text)::seed
 guard variable for (anonymous namespace)::makeLists()::atThreadEnd
+hasVectors()::answer
 mutex
-rt::blockLists"
+rt___blockLists"
     [net]="" [rsc]=""
     [telsx]="\
 shortToLongDict

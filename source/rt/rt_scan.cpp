@@ -1,0 +1,106 @@
+// Runs of characters of a set, as many at a time as the processor can.
+#include "rt/rt_scan.hpp"
+
+#include <algorithm>
+
+#ifdef __SSE2__
+#include <cpuid.h>
+#include <tmmintrin.h>
+
+#include <atomic>
+
+#define TARGET __attribute__( ( target( "ssse3" ) ) )
+
+// Code points as bytes; larger ones become NUL or a byte from 0x80 on, which are in no set.
+TARGET static inline __m128i load4( const RT_CHAR *chs )
+{
+    __m128i words = _mm_loadu_si128( reinterpret_cast<const __m128i *>( chs ) );
+    words = _mm_packs_epi32( words, words );
+    return _mm_packus_epi16( words, words );
+}
+TARGET static inline __m128i load8( const RT_CHAR *chs )
+{
+    auto *four = reinterpret_cast<const __m128i *>( chs );
+    __m128i words = _mm_packs_epi32( _mm_loadu_si128( four ), _mm_loadu_si128( four + 1 ) );
+    return _mm_packus_epi16( words, words );
+}
+TARGET static inline __m128i load16( const RT_CHAR *chs )
+{
+    auto *four = reinterpret_cast<const __m128i *>( chs );
+    return _mm_packus_epi16( _mm_packs_epi32( _mm_loadu_si128( four ), _mm_loadu_si128( four + 1 ) ),
+                             _mm_packs_epi32( _mm_loadu_si128( four + 2 ), _mm_loadu_si128( four + 3 ) ) );
+}
+
+// A bit for each byte, the lowest for the first one: whether it is not in the set of these rows.
+TARGET static inline uint32_t othersOf( __m128i rows, __m128i bytes )
+{
+    // Nothing in the places of the upper half, which stand for bytes from 0x80 on.
+    const __m128i columns = _mm_setr_epi8( 1, 2, 4, 8, 16, 32, 64, -128, 0, 0, 0, 0, 0, 0, 0, 0 );
+    __m128i high = _mm_and_si128( _mm_srli_epi16( bytes, 4 ), _mm_set1_epi8( 0x0F ) );
+    __m128i found = _mm_and_si128( _mm_shuffle_epi8( rows, bytes ), _mm_shuffle_epi8( columns, high ) );
+    return static_cast<uint32_t>( _mm_movemask_epi8( _mm_cmpeq_epi8( found, _mm_setzero_si128() ) ) );
+}
+
+// What is left behind whole blocks is looked at in a block that ends with the text, and has some characters again.
+TARGET static int64_t vectorRunOf( const rt::CharSet &set, const RT_CHAR *chs, int64_t length )
+{
+    const __m128i rows = _mm_loadu_si128( reinterpret_cast<const __m128i *>( set.rows ) );
+    if ( length >= 16 )
+    {
+        int64_t at = 0;
+        for ( ; length - at >= 16; at += 16 )
+            if ( uint32_t others = othersOf( rows, load16( chs + at ) ) )
+                return at + std::countr_zero( others );
+        uint32_t others = othersOf( rows, load16( chs + length - 16 ) );
+        return others ? length - 16 + std::countr_zero( others ) : length;
+    }
+    if ( length >= 8 )
+    {
+        uint32_t others = ( othersOf( rows, load8( chs ) ) & 0xFF )
+                          | othersOf( rows, load8( chs + length - 8 ) ) << ( length - 8 );
+        return std::min<int64_t>( std::countr_zero( others ), length );
+    }
+    if ( length >= 4 )
+    {
+        uint32_t others = ( othersOf( rows, load4( chs ) ) & 0xF )
+                          | othersOf( rows, load4( chs + length - 4 ) ) << ( length - 4 );
+        return std::min<int64_t>( std::countr_zero( others ), length );
+    }
+    return rt::plainRunOf( set, chs, length );
+}
+
+// Asks the processor once.
+static bool hasVectors()
+{
+    enum : int
+    {
+        unknown,
+        no,
+        yes
+    };
+    static constinit std::atomic<int> answer = unknown;
+    int known = answer.load( std::memory_order_relaxed );
+    if ( known == unknown )
+    {
+        unsigned a, b, c = 0, d;
+        known = __get_cpuid( 1, &a, &b, &c, &d ) && ( c & bit_SSSE3 ) ? yes : no;
+        answer.store( known, std::memory_order_relaxed );
+    }
+    return known == yes;
+}
+
+static int64_t runOf( const rt::CharSet &set, const RT_CHAR *chs, int64_t length )
+{
+    return hasVectors() ? vectorRunOf( set, chs, length ) : rt::plainRunOf( set, chs, length );
+}
+#else
+static int64_t runOf( const rt::CharSet &set, const RT_CHAR *chs, int64_t length )
+{
+    return rt::plainRunOf( set, chs, length );
+}
+#endif
+
+int64_t rt___RunOf( const uint8_t *set, const RT_CHAR *chs, int64_t length )
+{
+    return runOf( *reinterpret_cast<const rt::CharSet *>( set ), chs, length );
+}
