@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "net/net.h"
+#include "rt/rt_scan.hpp"
 #include "rt/rt_text.hpp"
 
 using rt::adopt;
@@ -41,9 +42,11 @@ static constexpr auto uriChars = []
 // Those of them that a reader of an IRI needs not look at.
 static constexpr auto plainChars = []
 {
-    std::array<bool, 0x80> chars = uriChars;
-    for ( char ch : std::string_view( "#?-" ) )
-        chars[static_cast<std::size_t>( ch )] = false;
+    rt::CharSet chars;
+    for ( unsigned char ch = 0; ch < 0x80; ++ch )
+        if ( uriChars[ch]
+             && std::string_view( "#?-" ).find( static_cast<char>( ch ) ) == std::string_view::npos )
+            chars.add( ch );
     return chars;
 }();
 
@@ -116,12 +119,12 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
         rest.take( std::ssize( sip ) );
     else if ( !rest.take( skipScheme( rest ) ) || !rest || rest.take( 1 ).chs[0] != ':' )
         return found;
+    rt::CharSet plain = plainChars;
+    if ( end < 0x80 )
+        plain.remove( static_cast<unsigned char>( end ) );
     for ( Place place; rest; place.pass( rest.take( 1 ).chs[0] ) )
     {
-        const RT_CHAR *plain = rest.chs, *behind = plain + rest.length;
-        while ( plain != behind && *plain < 0x80 && plainChars[*plain] && *plain != end )
-            ++plain;
-        rest.take( plain - rest.chs );
+        rest.take( plain.runOf( rest.chs, rest.length ) );
         if ( !rest )
             break;
         RT_CHAR ch = rest.chs[0];

@@ -52,11 +52,10 @@ RT_STRING telsx___AcceptEncode( TELSX_ACCEPT accept )
 {
     TELSX_ASSERT( accept );
     Ref<RT_STRING> text = accept->mediaType ? accept->mediaType : adopt( literal<"*">() );
-    rtStringAppendFormatCstr( text.address(), "/%s", -1,
-                              accept->mediaType && accept->mediaSubtype ? accept->mediaSubtype.get()
-                                                                        : literal<"*">() );
+    append( text, '/',
+            accept->mediaType && accept->mediaSubtype ? accept->mediaSubtype.get() : literal<"*">() );
     if ( rt::present( accept->qvalue ) )
-        rtStringAppendFormatCstr( text.address(), ";q=%~s", -1, telsx___QvalueEncode( accept->qvalue ) );
+        append( text, ";q=", adopt( telsx___QvalueEncode( accept->qvalue ) ) );
     appendGenericParams( text, accept->genericParams.get(),
                          { { literal<"q">(), rt::present( accept->qvalue ) } } );
     return text.take();

@@ -57,8 +57,7 @@ RT_STRING telsx___AcceptEncodingEncode( TELSX_ACCEPT_ENCODING acceptEncoding )
     Ref<RT_STRING> text =
         acceptEncoding->contentCoding ? acceptEncoding->contentCoding : adopt( literal<"*">() );
     if ( rt::present( acceptEncoding->qvalue ) )
-        rtStringAppendFormatCstr( text.address(), ";q=%~s", -1,
-                                  telsx___QvalueEncode( acceptEncoding->qvalue ) );
+        append( text, ";q=", adopt( telsx___QvalueEncode( acceptEncoding->qvalue ) ) );
     appendGenericParams( text, acceptEncoding->genericParams.get(),
                          { { literal<"q">(), rt::present( acceptEncoding->qvalue ) } } );
     return text.take();

@@ -48,7 +48,7 @@ RT_STRING telsx___CallInfoEncode( TELSX_CALL_INFO callInfo )
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, callInfo->iri );
     if ( callInfo->purpose )
-        rtStringAppendFormatCstr( text.address(), ";purpose=%s", -1, callInfo->purpose.get() );
+        append( text, ";purpose=", callInfo->purpose );
     appendGenericParams( text, callInfo->genericParams.get(),
                          { { literal<"purpose">(), rt::present( callInfo->purpose ) } } );
     return text.take();

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "rt/rt_scan.hpp"
 #include "rt/rt_text.hpp"
 
 namespace telsx
@@ -55,18 +56,26 @@ consteval std::array<uint32_t, 0x80> makeCharClasses()
 inline constexpr std::array<uint32_t, 0x80> charClasses = makeCharClasses();
 
 // Whether the code point is in any of the classes.
-inline bool isIn( RT_CHAR ch, uint32_t members )
+constexpr bool isIn( RT_CHAR ch, uint32_t members )
 {
     return ch < charClasses.size() && ( charClasses[ch] & members );
 }
 
-// How many code points at the start are in any of the classes.
-inline int64_t runOf( rt::Text text, uint32_t members )
+template <uint32_t MEMBERS>
+inline constexpr rt::CharSet charSet = []
 {
-    int64_t at = 0;
-    while ( at < text.length && isIn( text.chs[at], members ) )
-        ++at;
-    return at;
+    rt::CharSet set;
+    for ( unsigned char ch = 0; ch < 0x80; ++ch )
+        if ( isIn( ch, MEMBERS ) )
+            set.add( ch );
+    return set;
+}();
+
+// How many code points at the start are in any of the classes.
+template <uint32_t MEMBERS>
+int64_t runOf( rt::Text text )
+{
+    return charSet<MEMBERS>.runOf( text.chs, text.length );
 }
 
 // Whether the text begins with a percent sign and two hex digits.

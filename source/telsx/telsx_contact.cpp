@@ -79,18 +79,17 @@ RT_STRING telsx___ContactEncode( TELSX_CONTACT contact )
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, contact->iri, contact->displayName );
     if ( rt::present( contact->qvalue ) )
-        rtStringAppendFormatCstr( text.address(), ";q=%~s", -1, telsx___QvalueEncode( contact->qvalue ) );
+        append( text, ";q=", adopt( telsx___QvalueEncode( contact->qvalue ) ) );
     if ( rt::present( contact->expires ) )
-        rtStringAppendFormatCstr( text.address(), ";expires=%~s", -1,
-                                  telsx___DeltaSecondsEncode( contact->expires ) );
+        append( text, ";expires=", adopt( telsx___DeltaSecondsEncode( contact->expires ) ) );
     if ( contact->rc )
-        rtStringAppendFormatCstr( text.address(), ";rc=%s", -1, contact->rc.get() );
+        append( text, ";rc=", contact->rc );
     if ( contact->mp )
-        rtStringAppendFormatCstr( text.address(), ";mp=%s", -1, contact->mp.get() );
+        append( text, ";mp=", contact->mp );
     if ( contact->np )
-        rtStringAppendFormatCstr( text.address(), ";np=%s", -1, contact->np.get() );
+        append( text, ";np=", contact->np );
     if ( contact->sipInstance )
-        rtStringAppendFormatCstr( text.address(), ";+sip.instance=\"%s\"", -1, contact->sipInstance.get() );
+        append( text, ";+sip.instance=\"", contact->sipInstance, '"' );
     appendGenericParams( text, contact->genericParams.get(),
                          { { literal<"q">(), rt::present( contact->qvalue ) },
                            { literal<"expires">(), rt::present( contact->expires ) },

@@ -76,20 +76,15 @@ RT_STRING telsx___DiversionEncode( TELSX_DIVERSION diversion )
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, diversion->iri, diversion->displayName );
     if ( diversion->reason )
-        rtStringAppendFormatCstr( text.address(), ";reason=%~s", -1,
-                                  telsx___DiversionReasonEncode( diversion->reason.get() ) );
+        append( text, ";reason=", adopt( telsx___DiversionReasonEncode( diversion->reason.get() ) ) );
     if ( rt::present( diversion->counter ) )
-        rtStringAppendFormatCstr( text.address(), ";counter=%~s", -1,
-                                  telsx___DiversionCounterEncode( diversion->counter ) );
+        append( text, ";counter=", adopt( telsx___DiversionCounterEncode( diversion->counter ) ) );
     if ( rt::present( diversion->limit ) )
-        rtStringAppendFormatCstr( text.address(), ";limit=%~s", -1,
-                                  telsx___DiversionLimitEncode( diversion->limit ) );
+        append( text, ";limit=", adopt( telsx___DiversionLimitEncode( diversion->limit ) ) );
     if ( diversion->privacy )
-        rtStringAppendFormatCstr( text.address(), ";privacy=%~s", -1,
-                                  telsx___DiversionPrivacyEncode( diversion->privacy.get() ) );
+        append( text, ";privacy=", adopt( telsx___DiversionPrivacyEncode( diversion->privacy.get() ) ) );
     if ( diversion->screen )
-        rtStringAppendFormatCstr( text.address(), ";screen=%~s", -1,
-                                  telsx___DiversionScreenEncode( diversion->screen.get() ) );
+        append( text, ";screen=", adopt( telsx___DiversionScreenEncode( diversion->screen.get() ) ) );
     appendGenericParams( text, diversion->genericParams.get(),
                          { { literal<"reason">(), rt::present( diversion->reason ) },
                            { literal<"counter">(), rt::present( diversion->counter ) },

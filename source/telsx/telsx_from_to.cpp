@@ -12,9 +12,9 @@ Ref<RT_STRING> encodeFromTo( const FromTo &hdr )
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, hdr.iri, hdr.displayName );
     if ( hdr.tag )
-        rtStringAppendFormatCstr( text.address(), ";tag=%s", -1, hdr.tag.get() );
+        append( text, ";tag=", hdr.tag );
     if ( hdr.epid )
-        rtStringAppendFormatCstr( text.address(), ";epid=%s", -1, hdr.epid.get() );
+        append( text, ";epid=", hdr.epid );
     appendGenericParams(
         text, hdr.genericParams.get(),
         { { literal<"tag">(), rt::present( hdr.tag ) }, { literal<"epid">(), rt::present( hdr.epid ) } } );

@@ -90,12 +90,11 @@ RT_STRING telsx___GenericParamEncode( TELSX_GENERIC_PARAM param )
         return share( name ).take();
     switch ( param->valueType )
     {
-        case TELSX_GENERIC_PARAM_VALUE_TYPE_TOKEN:
-            return rtStringCreateFromFormatCstr( "%s=%s", -1, name, value );
+        case TELSX_GENERIC_PARAM_VALUE_TYPE_TOKEN: return joined( name, '=', value ).take();
         case TELSX_GENERIC_PARAM_VALUE_TYPE_HOST:
-            return rtStringCreateFromFormatCstr( "%s=%~s", -1, name, telsx___HostEncode( value ) );
+            return joined( name, '=', adopt( telsx___HostEncode( value ) ) ).take();
         case TELSX_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING:
-            return rtStringCreateFromFormatCstr( "%s=%~s", -1, name, telsx___QuotableStringEncode( value ) );
+            return joined( name, '=', adopt( telsx___QuotableStringEncode( value ) ) ).take();
     }
     TELSX_CHECK( false, "TELSX_GENERIC_PARAM_VALUE_TYPE not implemented", "param->valueType" );
     return nullptr;

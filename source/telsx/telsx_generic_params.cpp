@@ -169,7 +169,7 @@ void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS para
                          [&]( const FieldParam &field )
                          { return field.isPresent && rtStringEquals( field.name, param->name.get() ); } );
         if ( !standsInField )
-            rtStringAppendFormatCstr( text.address(), ";%~s", -1, telsx___GenericParamEncode( param.get() ) );
+            append( text, ';', adopt( telsx___GenericParamEncode( param.get() ) ) );
     }
 }
 

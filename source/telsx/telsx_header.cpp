@@ -13,26 +13,6 @@ bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name )
     return header && rtStringEquals( header->name.get(), name );
 }
 
-HeaderLines::HeaderLines( TELSX_MESSAGE msg, HeaderName name ) : table( msg->fragment->headers.get() )
-{
-    if ( HeaderEntry *found = findHeader( table, name ) )
-    {
-        header = knownHeader( *found );
-        entry = header ? nullptr : found;
-    }
-}
-
-bool HeaderLines::empty() const
-{
-    return !entry && ( !header || rtVectorLength( header->lines.get() ) == 0 );
-}
-
-RT_STRING HeaderLines::string( const HeaderLine &line )
-{
-    text = stringOf( table->lineOf( line ) );
-    return text.get();
-}
-
 // In the table the number of a line is its place in moreLines plus 1, and that of the first is 0.
 RT_STRING HeaderLines::next()
 {
@@ -44,7 +24,8 @@ RT_STRING HeaderLines::next()
         return nullptr;
     const HeaderLine &line = index == 0 ? entry->first : table->moreLines[index - 1];
     index = line.next == -1 ? -1 : line.next + 1;
-    return string( line );
+    text = table->stringOf( line );
+    return text.get();
 }
 
 RT_STRING HeaderLines::last()
@@ -56,17 +37,13 @@ RT_STRING HeaderLines::last()
     return next();
 }
 
-// Most lines are short, and most decoders keep no part of them that could share a string.
+// Most decoders keep no part of a line that could share a string.
 Text HeaderLines::lastText()
 {
-    Bytes bytes = entry ? lastLineOf( table, *entry ) : Bytes();
-    if ( !entry || bytes.size() > std::size( shortText ) )
-    {
-        RT_STRING line = last();
-        return line ? textOf( line ) : Text();
-    }
-    return { shortText, rt___Utf8Decode( reinterpret_cast<const unsigned char *>( bytes.data() ),
-                                         lengthOf( bytes ), shortText ) };
+    if ( entry )
+        return wideText.read( lastLineOf( table, *entry ), table->isAscii );
+    RT_STRING line = last();
+    return line ? textOf( line ) : Text();
 }
 
 void HeaderLines::restart() { index = 0; }
@@ -74,6 +51,11 @@ void HeaderLines::restart() { index = 0; }
 bool hasHeader( TELSX_MESSAGE msg, HeaderName name )
 {
     return findHeader( msg->fragment->headers.get(), name ) != nullptr;
+}
+
+void putHeader( TELSX_MESSAGE *msg, Ref<TELSX_MESSAGE_HEADER> header )
+{
+    setHeader( TELSX_OWN( TELSX_OWN( msg )->fragment.address() )->headers, std::move( header ) );
 }
 
 void removeHeader( TELSX_MESSAGE *msg, HeaderName name )

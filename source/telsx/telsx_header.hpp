@@ -5,6 +5,8 @@
 
 #include "telsx/telsx_header.h"
 #include "telsx/telsx_header_table.hpp"
+#include "telsx/telsx_message.hpp"
+#include "telsx/telsx_message_fragment.hpp"
 #include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_text.hpp"
 
@@ -19,29 +21,35 @@ class HeaderLines
 {
 public:
     explicit HeaderLines( TELSX_MESSAGE_HEADER rawHeader ) : header( rawHeader ) {}
-    HeaderLines( TELSX_MESSAGE msg, HeaderName name );
+    HeaderLines( TELSX_MESSAGE msg, HeaderName name ) : table( msg->fragment->headers.get() )
+    {
+        if ( HeaderEntry *found = findHeader( table, name ) )
+        {
+            header = knownHeader( *found );
+            entry = header ? nullptr : found;
+        }
+    }
 
-    bool empty() const;
+    bool empty() const { return !entry && ( !header || rtVectorLength( header->lines.get() ) == 0 ); }
     RT_STRING next(); // null behind the last one
     RT_STRING last(); // null if there is none
     Text lastText();  // empty if there is none; borrowed as a string is
     void restart();
 
 private:
-    RT_STRING string( const HeaderLine &line );
-
     TELSX_MESSAGE_HEADER header = nullptr; // or, where nobody has asked for it yet,
     HeaderTable *table = nullptr;          // the table that it stands in,
     const HeaderEntry *entry = nullptr;    // and where there
     int64_t index = 0;                     // of the next line
     Ref<RT_STRING> text;                   // of the last line that was read in the table
-    RT_CHAR shortText[256];                // the same without a string
+    WideText wideText;                     // the same without a string
 };
 
 // The raw header with the lines of a store, a new reference, or null if a line of it is none.
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store );
 
 bool hasHeader( TELSX_MESSAGE msg, HeaderName name );
+void putHeader( TELSX_MESSAGE *msg, Ref<TELSX_MESSAGE_HEADER> header );
 void removeHeader( TELSX_MESSAGE *msg, HeaderName name );
 
 // The lines alone: none is an empty text, one is itself, more are as the runtime shows a vector.
@@ -88,7 +96,7 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
     {                                                                                               \
         TELSX_ASSERT( hdr );                                                                        \
         TELSX_ASSERT_HANDLE( msg );                                                                 \
-        telsxMessageSetHeader( msg, telsx::adopt( telsx##NAME##Encode( hdr ) ).get() );             \
+        telsx::putHeader( msg, telsx::adopt( telsx##NAME##Encode( hdr ) ) );                        \
     }                                                                                               \
     TELSX_HANDLE( NAME ) telsx##NAME##TryDecodeFromMessage( TELSX_MESSAGE msg )                     \
     {                                                                                               \

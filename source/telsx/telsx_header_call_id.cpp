@@ -17,17 +17,17 @@ struct TELSX_HEADER_CALL_ID_
 TELSX_DEFINE_HEADER_OBJECT( HeaderCallId, HEADER_CALL_ID, id, "Call-Id" )
 TELSX_DEFINE_FIELD( HeaderCallId, hdr, CallId, callId, telsxCallIdOk( callId ) )
 
-static TELSX_HEADER_CALL_ID create( RT_STRING callId )
+static TELSX_HEADER_CALL_ID create( Ref<RT_STRING> callId )
 {
     TELSX_HEADER_CALL_ID hdr = rt::create<TELSX_HEADER_CALL_ID_>( telsxHeaderCallIdSort() );
-    hdr->callId = share( callId );
+    hdr->callId = std::move( callId );
     return hdr;
 }
 
 TELSX_HEADER_CALL_ID telsxHeaderCallIdCreate( RT_STRING callId )
 {
     TELSX_ASSERT( telsxCallIdOk( callId ) );
-    return create( callId );
+    return create( share( callId ) );
 }
 
 TELSX_MESSAGE_HEADER telsxHeaderCallIdEncode( TELSX_HEADER_CALL_ID hdr )
@@ -38,6 +38,6 @@ TELSX_MESSAGE_HEADER telsxHeaderCallIdEncode( TELSX_HEADER_CALL_ID hdr )
 
 static TELSX_HEADER_CALL_ID decode( HeaderLines &lines )
 {
-    RT_STRING line = lines.last();
-    return line && telsxCallIdOk( line ) ? create( line ) : nullptr;
+    Text line = lines.lastText();
+    return covers( telsx___SkipCallId, line ) ? create( line.copy() ) : nullptr;
 }

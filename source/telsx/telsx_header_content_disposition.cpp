@@ -44,7 +44,7 @@ TELSX_MESSAGE_HEADER telsxHeaderContentDispositionEncode( TELSX_HEADER_CONTENT_D
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->dispositionType;
     if ( hdr->handling )
-        rtStringAppendFormatCstr( line.address(), ";handling=%s", -1, hdr->handling.get() );
+        append( line, ";handling=", hdr->handling );
     appendGenericParams( line, hdr->genericParams.get(),
                          { { literal<"handling">(), rt::present( hdr->handling ) } } );
     return createHeader( literal<"Content-Disposition">(), line );

@@ -53,17 +53,17 @@ TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
 TELSX_MESSAGE_HEADER telsxHeaderCseqEncode( TELSX_HEADER_CSEQ hdr )
 {
     TELSX_ASSERT( hdr );
-    return createHeader( literal<"Cseq">(),
-                         adopt( rtStringCreateFromFormatCstr( "%i %s", -1, hdr->cseq, hdr->method.get() ) ) );
+    return createHeader( literal<"Cseq">(), joined( Decimal( hdr->cseq ), ' ', hdr->method ) );
 }
 
 static TELSX_HEADER_CSEQ decode( HeaderLines &lines )
 {
     Text rest = lines.lastText();
     int64_t cseq = tryDecodeNumber( rest.take( telsx___SkipDigits ), telsxCseqOk );
-    if ( cseq == -1 || !rest.take( telsx___SkipLws ) || !covers( telsx___SkipMethod, rest ) )
+    if ( cseq == -1 || !rest.take( telsx___SkipLws ) )
         return nullptr;
-    return create( cseq, stringOfMethod( rest ) );
+    Ref<RT_STRING> method = tryDecodeMethod( rest );
+    return method ? create( cseq, std::move( method ) ) : nullptr;
 }
 
 void telsxHeaderCseqSetMethodCstr( TELSX_HEADER_CSEQ *hdr, const char *chars, int64_t length )

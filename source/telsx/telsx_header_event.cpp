@@ -46,7 +46,7 @@ TELSX_MESSAGE_HEADER telsxHeaderEventEncode( TELSX_HEADER_EVENT hdr )
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->eventType;
     if ( hdr->id )
-        rtStringAppendFormatCstr( line.address(), ";id=%s", -1, hdr->id.get() );
+        append( line, ";id=", hdr->id );
     appendGenericParams( line, hdr->genericParams.get(), { { literal<"id">(), rt::present( hdr->id ) } } );
     return createHeader( literal<"Event">(), line );
 }

@@ -40,8 +40,7 @@ TELSX_MESSAGE_HEADER telsxHeaderRackEncode( TELSX_HEADER_RACK hdr )
 {
     TELSX_ASSERT( hdr );
     return createHeader( literal<"Rack">(),
-                         adopt( rtStringCreateFromFormatCstr( "%i %i %s", -1, hdr->responseNum, hdr->cseq,
-                                                              hdr->method.get() ) ) );
+                         joined( Decimal( hdr->responseNum ), ' ', Decimal( hdr->cseq ), ' ', hdr->method ) );
 }
 
 static TELSX_HEADER_RACK decode( HeaderLines &lines )

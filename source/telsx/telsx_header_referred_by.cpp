@@ -52,7 +52,7 @@ TELSX_MESSAGE_HEADER telsxHeaderReferredByEncode( TELSX_HEADER_REFERRED_BY hdr )
     Ref<RT_STRING> line = adopt( rtStringCreate() );
     appendAddress( line, hdr->iri, hdr->displayName );
     if ( hdr->cid )
-        rtStringAppendFormatCstr( line.address(), ";cid=\"%s\"", -1, hdr->cid.get() );
+        append( line, ";cid=\"", hdr->cid, '"' );
     appendGenericParams( line, hdr->genericParams.get(), { { literal<"cid">(), rt::present( hdr->cid ) } } );
     return createHeader( literal<"Referred-By">(), line );
 }

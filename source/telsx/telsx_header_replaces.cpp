@@ -67,11 +67,11 @@ TELSX_MESSAGE_HEADER telsxHeaderReplacesEncode( TELSX_HEADER_REPLACES hdr )
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->callId;
     if ( hdr->fromTag )
-        rtStringAppendFormatCstr( line.address(), ";from-tag=%s", -1, hdr->fromTag.get() );
+        append( line, ";from-tag=", hdr->fromTag );
     if ( hdr->toTag )
-        rtStringAppendFormatCstr( line.address(), ";to-tag=%s", -1, hdr->toTag.get() );
+        append( line, ";to-tag=", hdr->toTag );
     if ( hdr->earlyOnly )
-        rtStringAppendCstr( line.address(), ";early-only", -1 );
+        append( line, ";early-only" );
     appendGenericParams( line, hdr->genericParams.get(),
                          { { literal<"from-tag">(), rt::present( hdr->fromTag ) },
                            { literal<"to-tag">(), rt::present( hdr->toTag ) },

@@ -48,7 +48,7 @@ TELSX_MESSAGE_HEADER telsxHeaderRetryAfterEncode( TELSX_HEADER_RETRY_AFTER hdr )
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) );
     if ( rt::present( hdr->duration ) )
-        rtStringAppendFormatCstr( line.address(), ";duration=%i", -1, hdr->duration );
+        append( line, ";duration=", Decimal( hdr->duration ) );
     appendGenericParams( line, hdr->genericParams.get(),
                          { { literal<"duration">(), rt::present( hdr->duration ) } } );
     return createHeader( literal<"Retry-After">(), line );

@@ -44,7 +44,7 @@ TELSX_MESSAGE_HEADER telsxHeaderSessionExpiresEncode( TELSX_HEADER_SESSION_EXPIR
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) );
     if ( hdr->refresher )
-        rtStringAppendFormatCstr( line.address(), ";refresher=%s", -1, hdr->refresher.get() );
+        append( line, ";refresher=", hdr->refresher );
     appendGenericParams( line, hdr->genericParams.get(),
                          { { literal<"refresher">(), rt::present( hdr->refresher ) } } );
     return createHeader( literal<"Session-Expires">(), line );

@@ -68,11 +68,11 @@ TELSX_MESSAGE_HEADER telsxHeaderSubscriptionStateEncode( TELSX_HEADER_SUBSCRIPTI
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->substateValue;
     if ( hdr->reason )
-        rtStringAppendFormatCstr( line.address(), ";reason=%s", -1, hdr->reason.get() );
+        append( line, ";reason=", hdr->reason );
     if ( rt::present( hdr->expires ) )
-        rtStringAppendFormatCstr( line.address(), ";expires=%i", -1, hdr->expires );
+        append( line, ";expires=", Decimal( hdr->expires ) );
     if ( rt::present( hdr->retryAfter ) )
-        rtStringAppendFormatCstr( line.address(), ";retry-after=%i", -1, hdr->retryAfter );
+        append( line, ";retry-after=", Decimal( hdr->retryAfter ) );
     appendGenericParams( line, hdr->genericParams.get(),
                          { { literal<"reason">(), rt::present( hdr->reason ) },
                            { literal<"expires">(), rt::present( hdr->expires ) },

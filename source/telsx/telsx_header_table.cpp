@@ -14,8 +14,6 @@ static void freeFunc( RT_OBJ obj )
     auto *table = reinterpret_cast<HeaderTable *>( obj );
     for ( HeaderEntry &entry : table->entries )
     {
-        if ( entry.name )
-            rt::release( rt::asObj( entry.name ) );
         if ( entry.header )
             rt::release( rt::asObj( entry.header ) );
     }
@@ -30,62 +28,78 @@ static constexpr RT_SORT_ sort = {
     RT_STATIC_OBJECT, &telsx___module, "TELSX_HEADER_TABLE", freeFunc, nullptr, nullptr, {}
 };
 
-Ref<HeaderTable *> createHeaderTable( const Ref<RT_BUFFER> &bytes )
+Ref<HeaderTable *> createHeaderTable( Ref<RT_BUFFER> bytes, bool isAscii )
 {
-    auto *table = reinterpret_cast<HeaderTable *>( rt___ObjCreate( sizeof( HeaderTable ), &sort ) );
-    std::construct_at( &table->bytes, bytes );
-    table->entries = {};
+    auto *table = reinterpret_cast<HeaderTable *>( rt::createObject( sizeof( HeaderTable ), &sort ) );
+    table->begin = bytes ? bytesOf( bytes.get() ).data() : nullptr;
+    std::construct_at( &table->bytes, std::move( bytes ) );
+    table->isAscii = isAscii;
+    table->entries.start( table->firstEntries, std::ssize( table->firstEntries ) );
     table->moreLines = {};
     table->length = 0;
-    std::fill( std::begin( table->known ), std::end( table->known ), -1 );
+    table->is = {};
     std::construct_at( &table->others, adopt( rtDictCreate() ) );
     table->otherEntries = {};
     return adopt( table );
 }
 
-// Where the place of the name's entry is kept, or null for another name that never came.
-static int64_t *placeOf( HeaderTable *table, HeaderName name )
+HeaderEntry *findOtherHeader( HeaderTable *table, RT_STRING name )
 {
-    if ( name.number != -1 )
-        return &table->known[name.number];
-    int64_t other = rt___DictIndex( table->others.get(), name.name );
-    return other == -1 ? nullptr : &table->otherEntries[other];
+    int64_t other = rt___DictIndex( table->others.get(), name );
+    bool isThere = other != -1 && table->otherEntries[other] != -1;
+    return isThere ? &table->entries[table->otherEntries[other]] : nullptr;
 }
 
-HeaderEntry *findHeader( HeaderTable *table, HeaderName name )
+// An entry behind all others, of a name that has none. Known names are constants, and the others are held where they
+// are found.
+static void append( HeaderTable *table, const HeaderEntry &entry )
 {
-    int64_t *place = placeOf( table, name );
-    return place && *place != -1 ? &table->entries[*place] : nullptr;
-}
-
-// An entry behind all others, of a name that has none, whose place it may already have.
-static void append( HeaderTable *table, HeaderName name, int64_t *place, const HeaderEntry &entry )
-{
-    if ( place )
-        *place = table->entries.length;
+    int64_t place = table->entries.length;
+    if ( entry.number != -1 )
+    {
+        table->is[std::size_t( entry.number )] = true;
+        table->known[entry.number] = place;
+    }
     else
     {
-        rtDictSetStringKey( table->others.address(), name.name, rt::asObj( name.name ) );
-        table->otherEntries.append( table->entries.length );
+        int64_t other = rt___DictIndex( table->others.get(), entry.name );
+        rtDictSetStringKey( table->others.address(), entry.name, rt::asObj( entry.name ) );
+        if ( other == -1 )
+            table->otherEntries.append( place );
+        else
+            table->otherEntries[other] = place;
     }
-    if ( table->entries.capacity == 0 )
-        table->entries.reserve( 18 );
-    rt::retain( rt::asObj( name.name ) );
     table->entries.append( entry );
     ++table->length;
 }
 
-void addLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length )
+void addAnyLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length )
 {
     HeaderLine line = { begin, length, -1 };
-    int64_t *place = placeOf( table, name );
-    if ( !place || *place == -1 )
-        return append( table, name, place, { name.name, nullptr, line, -1, name.number } );
-    HeaderEntry &entry = table->entries[*place];
+    HeaderEntry *entry = findHeader( table, name );
+    if ( !entry )
+        return append( table, { name.name, nullptr, line, -1, name.number } );
     int64_t number = table->moreLines.length;
     table->moreLines.append( line );
-    ( entry.last == -1 ? entry.first : table->moreLines[entry.last] ).next = number;
-    entry.last = number;
+    ( entry->last == -1 ? entry->first : table->moreLines[entry->last] ).next = number;
+    entry->last = number;
+}
+
+Ref<RT_STRING> HeaderTable::stringOf( const HeaderLine &line ) const
+{
+    return adopt( isAscii ? rt___StringCreateFromAscii( begin + line.begin, line.length )
+                          : rtStringTryCreateFromUtf8( begin + line.begin, line.length ) );
+}
+
+Text WideText::readOther( Bytes bytes )
+{
+    if ( lengthOf( bytes ) > mostChars )
+    {
+        string = adopt( rtStringTryCreateFromUtf8( bytes.data(), lengthOf( bytes ) ) );
+        return textOf( string );
+    }
+    return { chs, rt___Utf8Decode( reinterpret_cast<const unsigned char *>( bytes.data() ), lengthOf( bytes ),
+                                   chs ) };
 }
 
 Bytes lastLineOf( HeaderTable *table, const HeaderEntry &entry )
@@ -95,19 +109,14 @@ Bytes lastLineOf( HeaderTable *table, const HeaderEntry &entry )
 
 static Ref<TELSX_MESSAGE_HEADER> makeHeader( HeaderTable *table, const HeaderEntry &entry )
 {
-    Ref<RT_STRING> first = stringOf( table->lineOf( entry.first ) );
-    auto header = adopt( createHeader( entry.name, first ) );
+    Ref<RT_STRING> first = table->stringOf( entry.first );
+    auto header = adopt( createHeader( entry.name, std::move( first ) ) );
     for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
     {
-        Ref<RT_STRING> line = stringOf( table->lineOf( table->moreLines[next] ) );
+        Ref<RT_STRING> line = table->stringOf( table->moreLines[next] );
         rtVectorAppendString( header->lines.address(), line.get() );
     }
     return header;
-}
-
-TELSX_MESSAGE_HEADER knownHeader( HeaderEntry &entry )
-{
-    return std::atomic_ref( entry.header ).load( std::memory_order_acquire );
 }
 
 // Several threads may ask at once; the header that comes first stays.
@@ -134,7 +143,7 @@ RT_VECTOR headersVector( HeaderTable *table )
 // A table with the headers of another, without the gaps that taking out has left.
 static Ref<HeaderTable *> copyOf( HeaderTable *table )
 {
-    Ref<HeaderTable *> copy = createHeaderTable( table->bytes );
+    Ref<HeaderTable *> copy = createHeaderTable( table->bytes, table->isAscii );
     copy->moreLines.append( table->moreLines );
     copy->entries.reserve( table->length + 1 );
     for ( HeaderEntry &entry : table->entries )
@@ -142,9 +151,7 @@ static Ref<HeaderTable *> copyOf( HeaderTable *table )
         {
             // The header alone may be put there by another thread meanwhile.
             Ref<TELSX_MESSAGE_HEADER> header = share( knownHeader( entry ) );
-            HeaderEntry same = { entry.name, header.take(), entry.first, entry.last, entry.number };
-            HeaderName name = { entry.name, entry.number };
-            append( copy.get(), name, placeOf( copy.get(), name ), same );
+            append( copy.get(), { entry.name, header.take(), entry.first, entry.last, entry.number } );
         }
     return copy;
 }
@@ -155,17 +162,14 @@ static void own( Ref<HeaderTable *> &table )
         table = copyOf( table.get() );
 }
 
-void setHeader( Ref<HeaderTable *> &table, TELSX_MESSAGE_HEADER header )
+void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header )
 {
-    Ref<TELSX_MESSAGE_HEADER> given = share( header );
     own( table );
     HeaderName name = headerName( header->name.get() );
-    int64_t *place = placeOf( table.get(), name );
-    if ( !place || *place == -1 )
-        return append( table.get(), name, place,
-                       { name.name, given.take(), { -1, 0, -1 }, -1, name.number } );
-    HeaderEntry *entry = &table->entries[*place];
-    auto old = adopt( std::exchange( entry->header, given.take() ) );
+    HeaderEntry *entry = findHeader( table.get(), name );
+    if ( !entry )
+        return append( table.get(), { name.name, header.take(), { -1, 0, -1 }, -1, name.number } );
+    auto old = adopt( std::exchange( entry->header, header.take() ) );
     entry->first.begin = -1;
 }
 
@@ -175,9 +179,12 @@ void delHeader( Ref<HeaderTable *> &table, HeaderName name )
         return;
     own( table );
     HeaderEntry *entry = findHeader( table.get(), name );
-    *placeOf( table.get(), name ) = -1;
+    if ( name.number != -1 )
+        table->is[std::size_t( name.number )] = false;
+    else
+        table->otherEntries[rt___DictIndex( table->others.get(), name.name )] = -1;
+    entry->name = nullptr;
     --table->length;
-    auto oldName = adopt( std::exchange( entry->name, nullptr ) );
     auto oldHeader = adopt( std::exchange( entry->header, nullptr ) );
     if ( table->entries.length > 2 * table->length + 8 )
         table = copyOf( table.get() );

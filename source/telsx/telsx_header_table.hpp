@@ -2,6 +2,8 @@
 // of its lines until somebody asks for it: most never are, and go out as they came in.
 #pragma once
 
+#include <atomic>
+#include <bitset>
 #include <string_view>
 
 #include "rt/rt_memory.hpp"
@@ -22,22 +24,35 @@ inline Bytes bytesOf( RT_BUFFER buffer )
              static_cast<std::size_t>( rtBufferLength( buffer ) ) };
 }
 
-inline int64_t lengthOf( Bytes bytes ) { return static_cast<int64_t>( bytes.size() ); }
-
 inline Ref<RT_BUFFER> bufferOf( Bytes bytes )
 {
     return adopt( rtBufferCreateFromBytesCopy( bytes.data(), lengthOf( bytes ) ) );
 }
 
-// The string of bytes that are known to be UTF-8.
-inline Ref<RT_STRING> stringOf( Bytes bytes )
+// The text of bytes that are known to be UTF-8, or even ASCII. A short one stands in the object.
+class WideText
 {
-    return adopt( rtStringTryCreateFromUtf8( bytes.data(), lengthOf( bytes ) ) );
-}
+public:
+    Text read( Bytes bytes, bool isAscii )
+    {
+        if ( !isAscii || lengthOf( bytes ) > mostChars )
+            return readOther( bytes );
+        rt::widen( bytes.data(), lengthOf( bytes ), chs );
+        return { chs, lengthOf( bytes ) };
+    }
+
+private:
+    static constexpr int64_t mostChars = 256;
+
+    Text readOther( Bytes bytes );
+
+    Ref<RT_STRING> string;
+    RT_CHAR chs[mostChars + rt::scanSlack];
+};
 
 constexpr Bytes lineEnd = "\r\n", headEnd = "\r\n\r\n";
 
-// A canonical name, and its number among the known names, or -1.
+// A canonical name and its number among the known names, whose name is a constant then, or -1.
 struct HeaderName
 {
     RT_STRING name;
@@ -47,7 +62,11 @@ struct HeaderName
 inline HeaderName headerName( RT_STRING canonical )
 {
     Text text = textOf( canonical );
-    return { canonical, knownNameNumber( text.chs, static_cast<std::size_t>( text.length ) ) };
+    auto size = static_cast<std::size_t>( text.length );
+    int64_t number = size ? knownNameTable[knownNameSlot( text.chs, size )].number : -1;
+    if ( number == -1 || knownNames[number].name != canonical )
+        number = knownNameNumber( text.chs, size );
+    return { number == -1 ? canonical : const_cast<RT_STRING>( knownNames[number].name ), number };
 }
 
 // The number of a name that must be known.
@@ -84,37 +103,61 @@ struct HeaderEntry
 struct HeaderTable
 {
     RT_OBJECT object;
-    Ref<RT_BUFFER> bytes; // where the lines stand, folds undone, never null
+    Ref<RT_BUFFER> bytes; // where the lines stand, folds undone, and rt::scanSlack more; null without lines
+    const char *begin;    // of the bytes
+    bool isAscii;         // all of them are
     rt::Array<HeaderEntry> entries;
     rt::Array<HeaderLine> moreLines;
-    int64_t length;                         // headers that are there
-    int64_t known[std::size( knownNames )]; // the entry of each known name, or -1
+    int64_t length;                  // headers that are there
+    std::bitset<knownCount> is;      // which known names have an entry,
+    int64_t known[knownCount];       // and which it is
     Ref<RT_DICT> others;             // of other names the n-th has its entry in otherEntries; never null
     rt::Array<int64_t> otherEntries; // -1 once it was taken out
+    HeaderEntry firstEntries[16];    // where entries begins
 
     Bytes lineOf( const HeaderLine &line ) const
     {
-        return bytesOf( bytes.get() )
-            .substr( static_cast<std::size_t>( line.begin ), static_cast<std::size_t>( line.length ) );
+        return { begin + line.begin, static_cast<std::size_t>( line.length ) };
     }
+    Ref<RT_STRING> stringOf( const HeaderLine &line ) const;
 };
 
 // An empty table whose lines will stand in the bytes.
-Ref<HeaderTable *> createHeaderTable( const Ref<RT_BUFFER> &bytes );
+Ref<HeaderTable *> createHeaderTable( Ref<RT_BUFFER> bytes = {}, bool isAscii = true );
 
-// A line more of the header, while nobody else has the table.
-void addLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length );
+// A line more of the header, while nobody else has the table. Most are the first of a known name.
+void addAnyLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length );
+inline void addLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length )
+{
+    int64_t place = table->entries.length;
+    if ( name.number == -1 || table->is[std::size_t( name.number )] || place == table->entries.capacity )
+        return addAnyLine( table, name, begin, length );
+    table->is[std::size_t( name.number )] = true;
+    table->known[name.number] = place;
+    table->entries.items[place] = { name.name, nullptr, { begin, length, -1 }, -1, name.number };
+    ++table->entries.length;
+    ++table->length;
+}
 
 // The entry of the name, or null; its last line if it was decoded; its header, borrowed.
-HeaderEntry *findHeader( HeaderTable *table, HeaderName name );
+HeaderEntry *findOtherHeader( HeaderTable *table, RT_STRING name );
+inline HeaderEntry *findHeader( HeaderTable *table, HeaderName name )
+{
+    if ( name.number == -1 )
+        return findOtherHeader( table, name.name );
+    return table->is[std::size_t( name.number )] ? &table->entries[table->known[name.number]] : nullptr;
+}
 Bytes lastLineOf( HeaderTable *table, const HeaderEntry &entry );
-TELSX_MESSAGE_HEADER knownHeader( HeaderEntry &entry ); // null if nobody has asked yet
+inline TELSX_MESSAGE_HEADER knownHeader( HeaderEntry &entry ) // null if nobody has asked yet
+{
+    return std::atomic_ref( entry.header ).load( std::memory_order_acquire );
+}
 TELSX_MESSAGE_HEADER headerAt( HeaderTable *table, HeaderEntry &entry );
 
 RT_VECTOR headersVector( HeaderTable *table );
 
 // Change the table, a private copy of it if somebody else has it too.
-void setHeader( Ref<HeaderTable *> &table, TELSX_MESSAGE_HEADER header );
+void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header );
 void delHeader( Ref<HeaderTable *> &table, HeaderName name );
 
 } // namespace telsx

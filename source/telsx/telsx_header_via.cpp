@@ -2,15 +2,18 @@
 #include "telsx/telsx_header_via.h"
 
 #include "telsx/telsx_value_list.hpp"
+#include "telsx/telsx_via.hpp"
 
 using namespace telsx;
 
 struct TELSX_HEADER_VIA_
 {
     RT_OBJECT object;
-    Ref<RT_VECTOR> values; // texts, never null
+    Ref<RT_VECTOR> values;     // texts, never null
+    Ref<TELSX_VIA> firstValue; // the top Via, for which most readers ask, decoded; or null
 
-    static auto fields( auto &self ) { return std::tie( self.values ); }
+    static auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
+    static auto order( auto &self ) { return std::tie( self.values ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderVia, HEADER_VIA, hdr, "Via" )
@@ -30,5 +33,14 @@ TELSX_MESSAGE_HEADER telsxHeaderViaEncode( TELSX_HEADER_VIA hdr )
 static TELSX_HEADER_VIA decode( HeaderLines &lines )
 {
     Ref<TELSX_HEADER_VIA> hdr = adopt( telsxHeaderViaCreate() );
-    return decodeValues( hdr->values, lines, telsx___SkipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
+    auto skipVia = [&hdr, isFirst = true]( const RT_CHAR *chs, int64_t length ) mutable
+    {
+        Text rest = { chs, length };
+        Ref<TELSX_VIA> via = std::exchange( isFirst, false ) ? takeVia( rest ) : Ref<TELSX_VIA>();
+        if ( !via || ( rest && !telsx___SkipComma( rest.chs, rest.length ) ) )
+            return telsx___SkipVia( chs, length );
+        hdr->firstValue = std::move( via );
+        return length - rest.length;
+    };
+    return decodeValues( hdr->values, lines, skipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
 }

@@ -65,13 +65,13 @@ RT_STRING telsx___HistoryInfoEncode( TELSX_HISTORY_INFO hi )
     TELSX_ASSERT( hi );
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, hi->iri, hi->displayName );
-    rtStringAppendFormatCstr( text.address(), ";index=%s", -1, hi->index.get() );
+    append( text, ";index=", hi->index );
     if ( hi->rc )
-        rtStringAppendFormatCstr( text.address(), ";rc=%s", -1, hi->rc.get() );
+        append( text, ";rc=", hi->rc );
     if ( hi->mp )
-        rtStringAppendFormatCstr( text.address(), ";mp=%s", -1, hi->mp.get() );
+        append( text, ";mp=", hi->mp );
     if ( hi->np )
-        rtStringAppendFormatCstr( text.address(), ";np=%s", -1, hi->np.get() );
+        append( text, ";np=", hi->np );
     appendGenericParams( text, hi->genericParams.get(),
                          { { literal<"index">(), true },
                            { literal<"rc">(), rt::present( hi->rc ) },

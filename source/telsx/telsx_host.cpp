@@ -6,36 +6,46 @@
 #include "net/net.h"
 #include "rsc/rsc.h"
 #include "telsx/telsx_char.hpp"
+#include "telsx/telsx_host.hpp"
 #include "telsx/telsx_port.h"
 #include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;
 
+// A label, or labels with single dots between them and perhaps one behind the last. A label ends with a letter, a
+// digit or an escape, and does not begin with a hyphen.
+template <bool HAS_DOTS>
+static int64_t skipLabels( Text text )
+{
+    int64_t at = 0, label = 0, end = 0; // where the label begins, and where what was found ends
+    while ( at < text.length )
+    {
+        RT_CHAR ch = text.chs[at];
+        if ( isIn( ch, classAlphanum ) )
+            end = ++at;
+        else if ( HAS_DOTS && ch == '.' && at > label && end == at )
+            label = end = ++at;
+        else if ( ch == '-' && at > label )
+            ++at;
+        else if ( isEscape( text.behind( at ) ) )
+            end = at += 3;
+        else
+            break;
+    }
+    return end;
+}
+
 int64_t telsx___SkipDomainLabel( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    int64_t at = 0, end = 0;
-    for ( ;; )
-    {
-        Text rest = { chs + at, length - at };
-        if ( int64_t run = runOf( rest, classAlphanum ) )
-            end = at += run;
-        else if ( isEscape( rest ) )
-            end = at += 3;
-        else if ( rest && rest.chs[0] == '-' && at > 0 )
-            ++at;
-        else
-            return end;
-    }
+    return skipLabels<false>( { chs, length } );
 }
 
 int64_t telsx___SkipHostname( const RT_CHAR *chs, int64_t length )
 {
-    Text rest = { chs, length };
-    while ( rest.take( telsx___SkipDomainLabel ) && rest && rest.chs[0] == '.' )
-        rest.take( 1 );
-    return length - rest.length;
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipLabels<true>( { chs, length } );
 }
 
 int64_t telsx___SkipIpV4Address( const RT_CHAR *chs, int64_t length )
@@ -93,14 +103,20 @@ RT_STRING telsx___HostEncode( RT_STRING host )
     return result;
 }
 
+Ref<RT_STRING> telsx::hostOf( Text text )
+{
+    Ref<RT_STRING> copy = text.copy();
+    const RT_CHAR *end = text.chs + text.length;
+    if ( std::adjacent_find( text.chs, end, []( RT_CHAR a, RT_CHAR b ) { return a == '-' && b == '-'; } )
+         == end )
+        return copy; // no label in it is encoded
+    return adopt( netDnsIdnaDomainNameOk( copy.get() ) ? netDnsIdnaDomainNameToUnicode( copy.get() )
+                                                       : nullptr );
+}
+
 RT_STRING telsx___HostTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    if ( length == 0 || telsx___SkipHost( chs, length ) != length )
-        return nullptr;
-    Ref<RT_STRING> copy = Text{ chs, length }.copy();
-    static constexpr RT_CHAR hyphens[] = { '-', '-' };
-    if ( std::search( chs, chs + length, hyphens, std::end( hyphens ) ) == chs + length )
-        return copy.take(); // no label in it is encoded
-    return netDnsIdnaDomainNameOk( copy.get() ) ? netDnsIdnaDomainNameToUnicode( copy.get() ) : nullptr;
+    Text text = { chs, length };
+    return covers( telsx___SkipHost, text ) ? hostOf( text ).take() : nullptr;
 }

@@ -26,7 +26,7 @@ int64_t telsx___SkipUric( const RT_CHAR *chs, int64_t length )
     int64_t at = 0;
     for ( ;; )
     {
-        at += runOf( { chs + at, length - at }, classReserved | classUnreserved );
+        at += runOf<classReserved | classUnreserved>( { chs + at, length - at } );
         if ( !isEscape( { chs + at, length - at } ) )
             return at;
         at += 3;

@@ -4,25 +4,6 @@
 namespace telsx
 {
 
-bool ItemReader::next()
-{
-    if ( rest )
-        bad = !rest.take( skipSeparator );
-    else
-        while ( !rest )
-        {
-            line = lines.next();
-            if ( !line )
-                return false;
-            rest = textOf( line );
-        }
-    if ( bad )
-        return false;
-    text = rest.take( skipItem );
-    bad = !text;
-    return !bad;
-}
-
 TELSX_MESSAGE_HEADER createHeaderOfItems( RT_STRING name, const Ref<RT_VECTOR> &items, RT_CHAR separator )
 {
     Ref<RT_STRING> line = adopt( rtStringCreate() );

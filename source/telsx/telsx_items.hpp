@@ -12,28 +12,50 @@ namespace telsx
 //     ItemReader items( lines, telsx___SkipMethod, telsx___SkipComma );
 //     while ( items.next() )
 //         use( items.item() );
+template <class SKIP>
 class ItemReader
 {
 public:
-    ItemReader( HeaderLines &listLines, Skipper itemSkipper, Skipper separatorSkipper )
+    ItemReader( HeaderLines &listLines, SKIP itemSkipper, Skipper separatorSkipper )
         : lines( listLines ), skipItem( itemSkipper ), skipSeparator( separatorSkipper )
     {
         lines.restart();
     }
 
     // Whether there is another item. False at the end, and at bad text, which failed tells apart.
-    bool next();
+    bool next()
+    {
+        if ( rest )
+            bad = !rest.take( skipSeparator );
+        else
+            while ( !rest )
+            {
+                line = lines.next();
+                if ( !line )
+                    return false;
+                rest = textOf( line );
+            }
+        if ( bad )
+            return false;
+        text = rest.take( skipItem( rest.chs, rest.length ) );
+        bad = !text;
+        return !bad;
+    }
     bool failed() const { return bad; }
 
     // The item's text; it shares the line's where that saves a copy.
     Ref<RT_STRING> item() const
     {
-        return adopt( rtStringCreateFromInner( line, text.chs - rtStringBacking( line ), text.length ) );
+        Text all = textOf( line );
+        return text.length == all.length
+                   ? share( line )
+                   : adopt( rtStringCreateFromInner( line, text.chs - all.chs, text.length ) );
     }
 
 private:
     HeaderLines &lines;
-    Skipper skipItem, skipSeparator;
+    SKIP skipItem;
+    Skipper skipSeparator;
     RT_STRING line = nullptr;
     Text text; // the item
     Text rest; // of the line

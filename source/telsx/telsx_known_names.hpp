@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
 
 namespace telsx
@@ -20,11 +21,12 @@ struct KnownName
     std::string_view bytes;
 };
 
+// The name's bytes, with slack.
 template <rt::Ascii NAME>
 inline constexpr auto asciiBytes = []
 {
-    std::array<char, std::size( NAME.chs )> bytes = {};
-    for ( std::size_t i = 0; i < bytes.size(); ++i )
+    std::array<char, std::size( NAME.chs ) + rt::scanSlack> bytes = {};
+    for ( std::size_t i = 0; i < std::size( NAME.chs ); ++i )
         bytes[i] = static_cast<char>( NAME.chs[i] );
     return bytes;
 }();
@@ -35,44 +37,33 @@ constexpr KnownName known( std::string_view spelling )
     return { spelling, &rt::literalObject<NAME>, asciiBytes<NAME>.data() };
 }
 
-// Compact forms stand beside their long names.
+// Compact forms (RFC 3261, 7.3.3) stand behind all long names.
 inline constexpr KnownName knownNames[] = {
     known<"Accept">( "accept" ),
     known<"Accept-Contact">( "accept-contact" ),
-    known<"Accept-Contact">( "a" ),
     known<"Accept-Encoding">( "accept-encoding" ),
     known<"Accept-Language">( "accept-language" ),
     known<"Alert-Info">( "alert-info" ),
     known<"Allow">( "allow" ),
     known<"Allow-Events">( "allow-events" ),
-    known<"Allow-Events">( "u" ),
     known<"Authorization">( "authorization" ),
     known<"Call-Id">( "call-id" ),
-    known<"Call-Id">( "i" ),
     known<"Call-Info">( "call-info" ),
     known<"Contact">( "contact" ),
-    known<"Contact">( "m" ),
     known<"Content-Disposition">( "content-disposition" ),
     known<"Content-Encoding">( "content-encoding" ),
-    known<"Content-Encoding">( "e" ),
     known<"Content-Length">( "content-length" ),
-    known<"Content-Length">( "l" ),
     known<"Content-Type">( "content-type" ),
-    known<"Content-Type">( "c" ),
     known<"Cseq">( "cseq" ),
     known<"Date">( "date" ),
     known<"Diversion">( "diversion" ),
     known<"Error-Info">( "error-info" ),
     known<"Event">( "event" ),
-    known<"Event">( "o" ),
     known<"Expires">( "expires" ),
     known<"From">( "from" ),
-    known<"From">( "f" ),
     known<"History-Info">( "history-info" ),
     known<"Identity">( "identity" ),
-    known<"Identity">( "y" ),
     known<"Identity-Info">( "identity-info" ),
-    known<"Identity-Info">( "n" ),
     known<"In-Reply-To">( "in-reply-to" ),
     known<"Max-Forwards">( "max-forwards" ),
     known<"Mime-Version">( "mime-version" ),
@@ -94,16 +85,12 @@ inline constexpr KnownName knownNames[] = {
     known<"Reason">( "reason" ),
     known<"Record-Route">( "record-route" ),
     known<"Refer-To">( "refer-to" ),
-    known<"Refer-To">( "r" ),
     known<"Referred-By">( "referred-by" ),
-    known<"Referred-By">( "b" ),
     known<"Reject-Contact">( "reject-contact" ),
-    known<"Reject-Contact">( "j" ),
     known<"Remote-Party-Id">( "remote-party-id" ),
     known<"Replaces">( "replaces" ),
     known<"Reply-To">( "reply-to" ),
     known<"Request-Disposition">( "request-disposition" ),
-    known<"Request-Disposition">( "d" ),
     known<"Require">( "require" ),
     known<"Retry-After">( "retry-after" ),
     known<"Route">( "route" ),
@@ -111,36 +98,74 @@ inline constexpr KnownName knownNames[] = {
     known<"Server">( "server" ),
     known<"Service-Route">( "service-route" ),
     known<"Session-Expires">( "session-expires" ),
-    known<"Session-Expires">( "x" ),
     known<"Session-Id">( "session-id" ),
     known<"Sip-Etag">( "sip-etag" ),
     known<"Sip-If-Match">( "sip-if-match" ),
     known<"Subject">( "subject" ),
-    known<"Subject">( "s" ),
     known<"Subscription-State">( "subscription-state" ),
     known<"Supported">( "supported" ),
-    known<"Supported">( "k" ),
     known<"Timestamp">( "timestamp" ),
     known<"To">( "to" ),
-    known<"To">( "t" ),
     known<"Unsupported">( "unsupported" ),
     known<"User-Agent">( "user-agent" ),
     known<"Via">( "via" ),
-    known<"Via">( "v" ),
     known<"Warning">( "warning" ),
     known<"Www-Authenticate">( "www-authenticate" ),
+
+    known<"Accept-Contact">( "a" ),
+    known<"Allow-Events">( "u" ),
+    known<"Call-Id">( "i" ),
+    known<"Contact">( "m" ),
+    known<"Content-Encoding">( "e" ),
+    known<"Content-Length">( "l" ),
+    known<"Content-Type">( "c" ),
+    known<"Event">( "o" ),
+    known<"From">( "f" ),
+    known<"Identity">( "y" ),
+    known<"Identity-Info">( "n" ),
+    known<"Refer-To">( "r" ),
+    known<"Referred-By">( "b" ),
+    known<"Reject-Contact">( "j" ),
+    known<"Request-Disposition">( "d" ),
+    known<"Session-Expires">( "x" ),
+    known<"Subject">( "s" ),
+    known<"Supported">( "k" ),
+    known<"To">( "t" ),
+    known<"Via">( "v" ),
 };
+
+// How many names there are, whatever their forms.
+inline constexpr std::size_t knownCount = []
+{
+    std::size_t count = 0;
+    while ( knownNames[count].spelling.size() > 1 )
+        ++count;
+    return count;
+}();
 
 constexpr char lowerAscii( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
 
-// Where a name stands in the table: its length and three of its characters tell the known ones apart. The
-// factors were found by trying; the table's check would fail for bad ones.
+// The first eight characters of a name as bytes in small letters, the first one the lowest.
+template <class CHAR>
+constexpr uint64_t firstEightOf( const CHAR *name, std::size_t size )
+{
+    uint64_t eight = 0;
+    for ( std::size_t i = 0; i < size && i < 8; ++i )
+        eight |= static_cast<uint64_t>( static_cast<unsigned char>( name[i] ) | 0x20 ) << 8 * i;
+    return eight;
+}
+
+// Where a name stands in the table: they and its length tell the known ones apart. The factor was found by trying;
+// the table's check would fail for a bad one.
 constexpr std::size_t knownNameSlots = 512;
+constexpr std::size_t knownNameSlot( uint64_t firstEight, std::size_t size )
+{
+    return ( firstEight + size ) * 0xF80D1A6552E8F127 >> 55;
+}
 template <class CHAR>
 constexpr std::size_t knownNameSlot( const CHAR *name, std::size_t size )
 {
-    auto at = [name]( std::size_t i ) { return static_cast<std::size_t>( name[i] & 0x7F ) | 0x20; };
-    return ( size * 8 + at( 0 ) * 111 + at( size / 2 ) * 316 + at( size - 1 ) * 327 ) % knownNameSlots;
+    return knownNameSlot( firstEightOf( name, size ), size );
 }
 
 // In each slot the number of the known name that belongs there, or -1. A compact form has the number of its
@@ -152,10 +177,11 @@ struct KnownNameSlot
 consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
 {
     std::array<KnownNameSlot, knownNameSlots> table = {};
-    for ( int16_t i = 0, number = 0; std::size_t( i ) < std::size( knownNames ); ++i )
+    for ( int16_t i = 0; std::size_t( i ) < std::size( knownNames ); ++i )
     {
-        if ( knownNames[i].bytes != knownNames[number].bytes )
-            number = i;
+        int16_t number = 0;
+        while ( knownNames[number].bytes != knownNames[i].bytes )
+            ++number;
         KnownNameSlot &slot =
             table[knownNameSlot( knownNames[i].spelling.data(), knownNames[i].spelling.size() )];
         if ( slot.number != -1 )
@@ -166,36 +192,6 @@ consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
 }
 
 inline constexpr std::array<KnownNameSlot, knownNameSlots> knownNameTable = makeKnownNameTable();
-
-// Whether both have the same bytes, the first with its capitals made small.
-inline bool equalInLowerCase( const char *mixed, const char *lower, std::size_t size )
-{
-    constexpr uint64_t ones = 0x0101010101010101;
-    auto differ = [&]( std::size_t at, auto word )
-    {
-        decltype( word ) a, b;
-        std::memcpy( &a, mixed + at, sizeof a );
-        std::memcpy( &b, lower + at, sizeof b );
-        // In each byte below 0x80 the top bit tells whether it is from A to Z.
-        uint64_t wide = a, low = wide & 0x7F * ones;
-        uint64_t capital =
-            ( low + ( 0x80 - 'A' ) * ones ) & ~( low + ( 0x7F - 'Z' ) * ones ) & ~wide & 0x80 * ones;
-        return static_cast<decltype( word )>( wide | capital >> 2 ) ^ b;
-    };
-    if ( size >= 8 )
-    {
-        uint64_t any = differ( size - 8, uint64_t() );
-        for ( std::size_t at = 0; at + 8 < size; at += 8 )
-            any |= differ( at, uint64_t() );
-        return any == 0;
-    }
-    if ( size >= 4 )
-        return ( differ( 0, uint32_t() ) | differ( size - 4, uint32_t() ) ) == 0;
-    for ( std::size_t i = 0; i < size; ++i )
-        if ( lowerAscii( mixed[i] ) != lower[i] )
-            return false;
-    return true;
-}
 
 // The number of a known name in any spelling, its place in knownNames, or -1.
 template <class CHAR>
@@ -209,9 +205,6 @@ constexpr int64_t knownNameNumber( const CHAR *name, std::size_t size )
     std::string_view spelling = knownNames[slot.spelling].spelling;
     if ( spelling.size() != size )
         return -1;
-    if constexpr ( std::is_same_v<CHAR, char> )
-        if ( !std::is_constant_evaluated() )
-            return equalInLowerCase( name, spelling.data(), size ) ? slot.number : -1;
     for ( std::size_t i = 0; i < size; ++i )
         if ( ( name[i] | 0x20 ) != static_cast<CHAR>( spelling[i] )
              || ( name[i] != static_cast<CHAR>( spelling[i] ) && !( name[i] >= 'A' && name[i] <= 'Z' ) ) )
@@ -219,11 +212,50 @@ constexpr int64_t knownNameNumber( const CHAR *name, std::size_t size )
     return slot.number;
 }
 
-// The canonical name, a constant, of a known name in any spelling, or null.
-inline RT_STRING findKnownName( std::string_view name )
+// A spelling as blocks, and the bit that makes a capital small where it has a letter.
+struct alignas( 16 ) SpellingBlocks
 {
-    int64_t number = knownNameNumber( name.data(), name.size() );
-    return number == -1 ? nullptr : const_cast<RT_STRING>( knownNames[number].name );
+    char bytes[32] = {}, small[32] = {};
+};
+inline constexpr auto spellingBlocks = []
+{
+    std::array<SpellingBlocks, std::size( knownNames )> all = {};
+    for ( std::size_t i = 0; i < all.size(); ++i )
+        for ( std::size_t at = 0; at < knownNames[i].spelling.size(); ++at )
+        {
+            char ch = knownNames[i].spelling[at];
+            all[i].bytes[at] = ch;
+            all[i].small[at] = ch >= 'a' && ch <= 'z' ? 0x20 : 0;
+        }
+    return all;
+}();
+
+inline uint64_t scanFirstEight( const char *name, std::size_t size )
+{
+    if constexpr ( std::endian::native != std::endian::little )
+        return firstEightOf( name, size );
+    uint64_t eight;
+    std::memcpy( &eight, name, sizeof eight );
+    return ( eight | 0x2020202020202020 ) & ( size < 8 ? ( uint64_t( 1 ) << 8 * size ) - 1 : ~uint64_t( 0 ) );
+}
+
+// The same for bytes, behind which rt::scanSlack more can be read.
+inline int64_t scanKnownNameNumber( const char *name, std::size_t size )
+{
+    if ( size == 0 )
+        return -1;
+    KnownNameSlot slot = knownNameTable[knownNameSlot( scanFirstEight( name, size ), size )];
+    if ( slot.number == -1 || knownNames[slot.spelling].spelling.size() != size )
+        return -1;
+    const SpellingBlocks &spelling = spellingBlocks[static_cast<std::size_t>( slot.spelling )];
+    auto differ = [&]( std::size_t at )
+    {
+        auto small = rt::ByteBlock::at( name + at ) | rt::ByteBlock::at( spelling.small + at );
+        uint32_t equal = same( small, rt::ByteBlock::at( spelling.bytes + at ) ).mask();
+        uint32_t counted = size - at < 16 ? ( 1u << ( size - at ) ) - 1 : 0xFFFF;
+        return ( ~equal & counted ) != 0;
+    };
+    return differ( 0 ) || ( size > 16 && differ( 16 ) ) ? -1 : slot.number;
 }
 
 } // namespace telsx

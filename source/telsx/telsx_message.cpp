@@ -9,12 +9,17 @@ using namespace telsx;
 TELSX_DEFINE_OBJECT( Message, MESSAGE, telsx___MessageFreeFunc, nullptr, nullptr )
 TELSX_DEFINE_FREE_FUNC( Message, msg )
 
+static TELSX_MESSAGE create( Ref<TELSX_MESSAGE_FRAGMENT> fragment )
+{
+    TELSX_MESSAGE msg = rt::create<TELSX_MESSAGE_>( telsxMessageSort() );
+    msg->fragment = std::move( fragment );
+    return msg;
+}
+
 TELSX_MESSAGE telsxMessageCreate( TELSX_MESSAGE_FRAGMENT fragment )
 {
     TELSX_ASSERT( telsxMessageFragmentIsRequest( fragment ) || telsxMessageFragmentIsResponse( fragment ) );
-    TELSX_MESSAGE msg = rt::create<TELSX_MESSAGE_>( telsxMessageSort() );
-    msg->fragment = share( fragment );
-    return msg;
+    return create( share( fragment ) );
 }
 
 TELSX_DEFINE_GETTER( Message, msg, Fragment, fragment )
@@ -24,15 +29,12 @@ TELSX_MESSAGE telsxMessageTryDecode( RT_BUFFER buf )
     Ref<TELSX_MESSAGE_FRAGMENT> fragment = adopt( telsxMessageFragmentTryDecode( buf ) );
     if ( !fragment || telsxMessageFragmentIsNeitherRequestNorResponse( fragment.get() ) )
         return nullptr;
-    return telsxMessageCreate( fragment.get() );
+    return create( std::move( fragment ) );
 }
 
 // Everything else is the fragment's. A new message holds the only reference to its fragment.
 
-static TELSX_MESSAGE create( TELSX_MESSAGE_FRAGMENT fragment )
-{
-    return telsxMessageCreate( adopt( fragment ).get() );
-}
+static TELSX_MESSAGE create( TELSX_MESSAGE_FRAGMENT fragment ) { return create( adopt( fragment ) ); }
 
 static TELSX_MESSAGE_FRAGMENT read( TELSX_MESSAGE msg )
 {

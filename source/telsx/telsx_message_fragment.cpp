@@ -15,7 +15,7 @@ TELSX_DEFINE_FREE_FUNC( MessageFragment, frag )
 TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void )
 {
     TELSX_MESSAGE_FRAGMENT frag = rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() );
-    frag->headers = createHeaderTable( adopt( rtBufferCreate() ) );
+    frag->headers = createHeaderTable();
     return frag;
 }
 
@@ -199,7 +199,7 @@ void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_
 {
     TELSX_ASSERT_HANDLE( frag );
     TELSX_ASSERT( header );
-    setHeader( TELSX_OWN( frag )->headers, header );
+    setHeader( TELSX_OWN( frag )->headers, share( header ) );
 }
 
 void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name )

@@ -29,4 +29,7 @@ namespace telsx
 // telsxMessageFragmentTryDecodeHeaders.
 Ref<TELSX_MESSAGE_FRAGMENT> tryDecodeHead( Bytes head, int64_t *contentLength );
 
+// Where the blank line behind a head begins, at that place or behind it, or npos.
+std::size_t findHeadEnd( Bytes bytes, std::size_t from );
+
 } // namespace telsx

@@ -14,16 +14,7 @@
 
 using namespace telsx;
 
-// Takes the front up to the delimiter away, and the delimiter; all that is left if there is none.
-static Bytes takeUpTo( Bytes &rest, Bytes delimiter )
-{
-    std::size_t end = rest.find( delimiter );
-    Bytes front = rest.substr( 0, end );
-    rest = end == Bytes::npos ? Bytes() : rest.substr( end + delimiter.size() );
-    return front;
-}
-
-static bool isWhite( char ch ) { return ch == ' ' || ch == '\t'; }
+static bool isWhite( char ch ) { return ch <= ' ' && ( ch == ' ' || ch == '\t' ); }
 
 static Bytes trimmedLeft( Bytes bytes )
 {
@@ -61,24 +52,26 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
     if ( hasThird )
         rest.take( 1 );
 
-    if ( auto version = adopt( first.as( telsx___VersionTryDecode ) ) )
+    if ( Ref<RT_STRING> method = hasThird ? tryDecodeMethod( first ) : Ref<RT_STRING>() )
     {
-        int64_t sc = tryDecodeNumber( second );
-        if ( !telsxStatusCodeOk( sc ) )
+        int64_t length;
+        frag->requestIri =
+            adopt( rsc___TryConvertUriAtStart( second.chs, second.length, UINT32_MAX, &length ) );
+        frag->version = adopt( rest.as( telsx___VersionTryDecode ) );
+        if ( length < second.length || !frag->requestIri || !frag->version )
             return StartLine::bad;
-        frag->version = std::move( version );
-        frag->responseStatusCode = sc;
-        frag->responseReasonPhrase = adopt( rest.as( telsx___ReasonPhraseDecode ) );
+        frag->requestMethod = std::move( method );
         return StartLine::good;
     }
-    if ( !hasThird || !covers( telsx___SkipMethod, first ) )
+    // The slash in it makes a version no method.
+    frag->version = adopt( first.as( telsx___VersionTryDecode ) );
+    if ( !frag->version )
         return StartLine::none;
-    int64_t length;
-    frag->requestIri = adopt( rsc___TryConvertUriAtStart( second.chs, second.length, UINT32_MAX, &length ) );
-    frag->version = adopt( rest.as( telsx___VersionTryDecode ) );
-    if ( length < second.length || !frag->requestIri || !frag->version )
+    int64_t sc = tryDecodeNumber( second );
+    if ( !telsxStatusCodeOk( sc ) )
         return StartLine::bad;
-    frag->requestMethod = stringOfMethod( first );
+    frag->responseStatusCode = sc;
+    frag->responseReasonPhrase = adopt( rest.as( telsx___ReasonPhraseDecode ) );
     return StartLine::good;
 }
 
@@ -105,15 +98,13 @@ static Ref<RT_STRING> tryDecodeOtherName( Bytes bytes )
 // One header line, trimmed and with its folds undone, becomes one line more of the header of its name.
 static bool decodeHeader( HeaderTable *table, Bytes text )
 {
-    std::size_t colon = 0;
-    while ( colon < text.size() && text[colon] != ':' )
-        ++colon;
-    if ( colon == text.size() )
+    const char *end = text.data() + text.size(), *colon = rt::findByte( text.data(), end, ':' );
+    if ( colon == end )
         return false;
-    Bytes nameBytes = trimmedRight( text.substr( 0, colon ) );
-    Bytes line = trimmedLeft( text.substr( colon + 1 ) );
-    int64_t begin = line.data() - bytesOf( table->bytes.get() ).data();
-    int64_t number = knownNameNumber( nameBytes.data(), nameBytes.size() );
+    Bytes nameBytes = trimmedRight( Bytes( text.data(), colon ) ),
+          line = trimmedLeft( Bytes( colon + 1, end ) );
+    int64_t begin = line.data() - table->begin;
+    int64_t number = scanKnownNameNumber( nameBytes.data(), nameBytes.size() );
     if ( number != -1 )
     {
         addLine( table, { const_cast<RT_STRING>( knownNames[number].name ), number }, begin,
@@ -127,34 +118,45 @@ static bool decodeHeader( HeaderTable *table, Bytes text )
     return true;
 }
 
-// All header lines, which stand in the table's bytes. A line that begins with white space goes on with the
-// header before it, behind one blank; it is moved there.
-static bool decodeHeaders( HeaderTable *table, unsigned char *bytes )
+static const char *findLineEnd( const char *at, const char *end )
 {
-    Bytes lines = bytesOf( table->bytes.get() ), current;
-    while ( !lines.empty() )
+    while ( ( at = rt::findByte( at, end, '\r' ) ) != end && at[1] != '\n' )
+        ++at;
+    return at;
+}
+
+// Takes the line at the start away, and what ends it.
+static inline Bytes takeLine( const char *&at, const char *end )
+{
+    const char *begin = at, *behind = findLineEnd( at, end );
+    at = behind == end ? end : behind + lineEnd.size();
+    return { begin, behind };
+}
+
+// All header lines, which stand there in the table's bytes. A line that begins with white space goes on with the
+// header before it, behind one blank; it is moved there.
+static bool decodeHeaders( HeaderTable *table, unsigned char *bytes, const char *at, const char *end )
+{
+    while ( at != end )
     {
-        Bytes line = takeUpTo( lines, lineEnd );
-        bool goesOn = !line.empty() && isWhite( line.front() );
-        if ( !goesOn && !current.empty() )
+        Bytes header = trimmedRight( trimmedLeft( takeLine( at, end ) ) );
+        while ( at != end && isWhite( *at ) )
         {
-            if ( !decodeHeader( table, current ) )
-                return false;
-            current = {};
+            Bytes fold = trimmedRight( trimmedLeft( takeLine( at, end ) ) );
+            if ( header.empty() )
+                header = fold;
+            else if ( !fold.empty() )
+            {
+                unsigned char *into = bytes + ( header.data() + header.size() - table->begin );
+                *into = ' ';
+                std::memmove( into + 1, fold.data(), fold.size() );
+                header = { header.data(), header.size() + 1 + fold.size() };
+            }
         }
-        Bytes part = trimmedRight( trimmedLeft( line ) );
-        if ( current.empty() )
-            current = part;
-        else if ( !part.empty() )
-        {
-            unsigned char *end =
-                bytes + ( current.data() + current.size() - bytesOf( table->bytes.get() ).data() );
-            *end = ' ';
-            std::memmove( end + 1, part.data(), part.size() );
-            current = { current.data(), current.size() + 1 + part.size() };
-        }
+        if ( !header.empty() && !decodeHeader( table, header ) )
+            return false;
     }
-    return current.empty() || decodeHeader( table, current );
+    return true;
 }
 
 // The value of Content-Length, -1 if there is no such header; false if it is no number.
@@ -163,8 +165,7 @@ static bool decodeContentLength( HeaderTable *headers, int64_t *contentLength )
     HeaderEntry *entry = findHeader( headers, headerName<"Content-Length">() );
     if ( !entry )
         return true;
-    Ref<RT_STRING> line = stringOf( lastLineOf( headers, *entry ) );
-    *contentLength = tryDecodeNumber( textOf( line ) );
+    *contentLength = tryDecodeNumber( lastLineOf( headers, *entry ) );
     return *contentLength >= 0;
 }
 
@@ -172,27 +173,53 @@ Ref<TELSX_MESSAGE_FRAGMENT> telsx::tryDecodeHead( Bytes head, int64_t *contentLe
 {
     if ( contentLength )
         *contentLength = -1;
-    if ( !rt___Utf8Ok( reinterpret_cast<const unsigned char *>( head.data() ), lengthOf( head ) ) )
+    bool isAscii = rt___AsciiOk( head.data(), lengthOf( head ) );
+    if ( !isAscii
+         && !rt___Utf8Ok( reinterpret_cast<const unsigned char *>( head.data() ), lengthOf( head ) ) )
         return {};
+    // A copy with room for those that look.
+    unsigned char *bytes;
+    Ref<RT_BUFFER> copy = adopt( rt___BufferCreateWithLength( lengthOf( head ), &bytes ) );
+    if ( !head.empty() )
+        std::memcpy( bytes, head.data(), head.size() );
+    std::memset( bytes + head.size(), 0, rt::scanSlack );
+    const char *begin = reinterpret_cast<const char *>( bytes ), *end = begin + head.size(), *headers = begin;
     auto frag = adopt( rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() ) );
-    Bytes lines = head;
-    Ref<RT_STRING> firstLine = stringOf( takeUpTo( lines, lineEnd ) );
-    StartLine startLine = decodeStartLine( frag.get(), textOf( firstLine ) );
+    WideText firstLine;
+    Text line = firstLine.read( takeLine( headers, end ), isAscii );
+    StartLine startLine = decodeStartLine( frag.get(), line );
     if ( startLine == StartLine::bad )
         return {};
-    if ( startLine == StartLine::none )
-        lines = head;
-
-    Ref<RT_BUFFER> copy = adopt( rtBufferCreate() );
-    unsigned char *bytes = rt___BufferExtend( copy.address(), lengthOf( lines ) );
-    if ( !lines.empty() )
-        std::memcpy( bytes, lines.data(), lines.size() );
-    frag->headers = createHeaderTable( copy );
-    if ( !decodeHeaders( frag->headers.get(), bytes ) )
+    frag->headers = createHeaderTable( std::move( copy ), isAscii );
+    if ( !decodeHeaders( frag->headers.get(), bytes, startLine == StartLine::none ? begin : headers, end ) )
         return {};
     if ( contentLength && !decodeContentLength( frag->headers.get(), contentLength ) )
         return {};
     return frag;
+}
+
+// Nowhere else does a carriage return follow a line feed.
+std::size_t telsx::findHeadEnd( Bytes bytes, std::size_t from )
+{
+    std::size_t at = from;
+    for ( ; bytes.size() - at >= 36; at += 32 )
+    {
+        auto pairs = [lineFeed = bytes.data() + at + 1]( int i )
+        {
+            return same( rt::ByteBlock::at( lineFeed + i ), rt::ByteBlock::of( '\n' ) )
+                   & same( rt::ByteBlock::at( lineFeed + i + 1 ), rt::ByteBlock::of( '\r' ) );
+        };
+        rt::ByteBlock first = pairs( 0 ), second = pairs( 16 );
+        if ( ( first | second ).mask() == 0 )
+            continue;
+        for ( uint32_t found = first.mask() | second.mask() << 16; found; found &= found - 1 )
+        {
+            std::size_t end = at + static_cast<std::size_t>( std::countr_zero( found ) );
+            if ( bytes.substr( end, headEnd.size() ) == headEnd )
+                return end;
+        }
+    }
+    return bytes.find( headEnd, at );
 }
 
 TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecodeHeaders( RT_BUFFER buf, int64_t *contentLength )
@@ -205,7 +232,7 @@ TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecode( RT_BUFFER buf )
 {
     TELSX_ASSERT( buf );
     Bytes bytes = bytesOf( buf );
-    std::size_t end = bytes.find( headEnd );
+    std::size_t end = findHeadEnd( bytes, 0 );
     Bytes head = bytes.substr( 0, end == Bytes::npos ? end : end + lineEnd.size() );
     Bytes body = end == Bytes::npos ? Bytes() : bytes.substr( end + headEnd.size() );
 

@@ -1,4 +1,5 @@
 // From a fragment to bytes (RFC 3261, 7), straight into one buffer.
+#include <array>
 #include <charconv>
 #include <cstring>
 
@@ -11,21 +12,29 @@
 
 using namespace telsx;
 
-static constexpr Bytes colon = ": ";
+static constexpr Bytes colon = ": ", blank = " ";
 
-static Ref<RT_STRING> startLine( TELSX_MESSAGE_FRAGMENT frag )
+// The three words of a start line.
+using StartLine = std::array<Ref<RT_STRING>, 3>;
+
+static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
 {
+    Ref<RT_STRING> version = adopt( telsx___VersionEncode( frag->version.get() ) );
     if ( telsxMessageFragmentIsRequest( frag ) )
     {
         RT_STRING uri = rscTryConvertToUri( frag->requestIri.get() );
         TELSX_ASSERT( uri );
-        return adopt( rtStringCreateFromFormatCstr( "%s %~s %~s", -1, frag->requestMethod.get(), uri,
-                                                    telsx___VersionEncode( frag->version.get() ) ) );
+        return { frag->requestMethod, adopt( uri ), version };
     }
-    return adopt( rtStringCreateFromFormatCstr(
-        "%~s %03i %~s", -1, telsx___VersionEncode( frag->version.get() ), frag->responseStatusCode,
-        telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) );
+    return { version, joined( Decimal( frag->responseStatusCode ) ),
+             adopt( telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) };
 }
+
+// Bytes behind which rt::scanSlack more can be read, as they can be written behind an encoded message.
+struct WithSlack
+{
+    Bytes bytes;
+};
 
 // What the text is written to: once to learn its size, and then into a buffer of that size.
 struct Counter
@@ -33,6 +42,7 @@ struct Counter
     std::size_t size = 0;
 
     void add( Bytes bytes ) { size += bytes.size(); }
+    void add( WithSlack piece ) { size += piece.bytes.size(); }
     void add( RT_STRING string ) { size += static_cast<std::size_t>( rt___StringUtf8Length( string ) ); }
 };
 struct Writer
@@ -43,6 +53,11 @@ struct Writer
     {
         std::memcpy( at, bytes.data(), bytes.size() );
         at += bytes.size();
+    }
+    void add( WithSlack piece )
+    {
+        rt::copy( piece.bytes.data(), lengthOf( piece.bytes ), at );
+        at += piece.bytes.size();
     }
     void add( RT_STRING string ) { at += rt___StringUtf8Encode( string, at ); }
 };
@@ -64,28 +79,28 @@ static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const
             write( to, name, colon, rtStringFrom( rt___VectorObjBorrowed( lines, i ) ), lineEnd );
         return;
     }
-    write( to, name, colon, table->lineOf( entry.first ), lineEnd );
+    write( to, name, colon, WithSlack( table->lineOf( entry.first ) ), lineEnd );
     for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
-        write( to, name, colon, table->lineOf( table->moreLines[next] ), lineEnd );
+        write( to, name, colon, WithSlack( table->lineOf( table->moreLines[next] ) ), lineEnd );
 }
 
 // The true length stands where the fragment has that header, else behind all others.
 template <class OUTPUT>
-static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, RT_STRING startLine, Bytes bodyLength )
+static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, const StartLine &startLine, Bytes bodyLength )
 {
     static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
     auto writeLength = [&] { write( to, knownNames[lengthNumber].bytes, colon, bodyLength, lineEnd ); };
     HeaderTable *headers = frag->headers.get();
-    if ( startLine )
-        write( to, startLine, lineEnd );
+    if ( const auto &[first, second, third] = startLine; first )
+        write( to, first.get(), blank, second.get(), blank, third.get(), lineEnd );
     for ( const HeaderEntry &entry : headers->entries )
         if ( entry.number == lengthNumber && entry.name )
             writeLength();
         else if ( entry.number != -1 && entry.name )
-            writeHeader( to, knownNames[entry.number].bytes, headers, entry );
+            writeHeader( to, WithSlack( knownNames[entry.number].bytes ), headers, entry );
         else if ( entry.name )
             writeHeader( to, entry.name, headers, entry );
-    if ( headers->known[lengthNumber] == -1 )
+    if ( !headers->is[lengthNumber] )
         writeLength();
     write( to, lineEnd );
     if ( frag->body )
@@ -95,18 +110,18 @@ static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, RT_STRING startLine,
 RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
-    Ref<RT_STRING> line;
+    StartLine startLine;
     if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
-        line = startLine( frag );
+        startLine = startLineOf( frag );
     char digits[24];
     int64_t length = frag->body ? rtBufferLength( frag->body.get() ) : 0;
     Bytes bodyLength( digits,
                       std::size_t( std::to_chars( digits, std::end( digits ), length ).ptr - digits ) );
 
     Counter counter;
-    write( counter, frag, line.get(), bodyLength );
-    Ref<RT_BUFFER> encoded = adopt( rtBufferCreate() );
-    Writer writer = { rt___BufferExtend( encoded.address(), static_cast<int64_t>( counter.size ) ) };
-    write( writer, frag, line.get(), bodyLength );
-    return encoded.take();
+    write( counter, frag, startLine, bodyLength );
+    Writer writer;
+    RT_BUFFER encoded = rt___BufferCreateWithLength( static_cast<int64_t>( counter.size ), &writer.at );
+    write( writer, frag, startLine, bodyLength );
+    return encoded;
 }

@@ -89,18 +89,18 @@ TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name )
     return createHeader( name, adopt( rtVectorCreate() ) );
 }
 
-TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, const Ref<RT_STRING> &line )
+TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, Ref<RT_STRING> line )
 {
     Ref<RT_VECTOR> lines = adopt( rtVectorCreateWithCapacity( 1 ) );
-    rtVectorAppendString( lines.address(), line.get() );
-    return createHeader( name, lines );
+    rt___VectorAppendTaken( lines.address(), rt::asObj( line.take() ) );
+    return createHeader( name, std::move( lines ) );
 }
 
-TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, const Ref<RT_VECTOR> &lines )
+TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, Ref<RT_VECTOR> lines )
 {
     TELSX_MESSAGE_HEADER header = rt::create<TELSX_MESSAGE_HEADER_>( telsxMessageHeaderSort() );
     header->name = share( name );
-    header->lines = lines;
+    header->lines = std::move( lines );
     return header;
 }
 

@@ -18,8 +18,8 @@ namespace telsx
 
 // New raw headers of a canonical name: without lines, with one, with those of a vector.
 TELSX_MESSAGE_HEADER createHeader( RT_STRING name );
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name, const Ref<RT_STRING> &line );
-TELSX_MESSAGE_HEADER createHeader( RT_STRING name, const Ref<RT_VECTOR> &lines );
+TELSX_MESSAGE_HEADER createHeader( RT_STRING name, Ref<RT_STRING> line );
+TELSX_MESSAGE_HEADER createHeader( RT_STRING name, Ref<RT_VECTOR> lines );
 
 // Whether each text of the store is a line.
 bool holdsLines( RT_STORE store );

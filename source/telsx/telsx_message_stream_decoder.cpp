@@ -107,7 +107,7 @@ static bool readHead( TELSX_MESSAGE_STREAM_DECODER decoder )
     if ( decoder->scanOffset == 0 )
         dropLeadingLineEnds( decoder );
     Bytes bytes = bytesOf( decoder->buffer.get() );
-    std::size_t end = bytes.find( headEnd, static_cast<std::size_t>( decoder->scanOffset ) );
+    std::size_t end = findHeadEnd( bytes, static_cast<std::size_t>( decoder->scanOffset ) );
     if ( end == Bytes::npos )
     {
         decoder->scanOffset = rtIntMax( decoder->scanOffset, lengthOf( bytes ) - lengthOf( headEnd ) + 1 );

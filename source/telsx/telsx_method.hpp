@@ -7,10 +7,14 @@
 namespace telsx
 {
 
-inline Ref<RT_STRING> stringOfMethod( Text method )
+// The method that the text is, or null.
+inline Ref<RT_STRING> tryDecodeMethod( Text text )
 {
-    return stringOfWord<"INVITE", "ACK", "BYE", "CANCEL", "OPTIONS", "REGISTER", "PRACK", "UPDATE",
-                        "SUBSCRIBE", "NOTIFY", "PUBLISH", "INFO", "REFER", "MESSAGE">( method );
+    if ( RT_STRING usual =
+             findWord<"INVITE", "ACK", "BYE", "CANCEL", "OPTIONS", "REGISTER", "PRACK", "UPDATE", "SUBSCRIBE",
+                      "NOTIFY", "PUBLISH", "INFO", "REFER", "MESSAGE">( text ) )
+        return adopt( usual );
+    return covers( telsx___SkipMethod, text ) ? text.copy() : Ref<RT_STRING>();
 }
 
 } // namespace telsx

@@ -46,10 +46,9 @@ RT_STRING telsx___ReasonEncode( TELSX_REASON reason )
     TELSX_ASSERT( reason );
     Ref<RT_STRING> text = reason->protocol;
     if ( reason->cause )
-        rtStringAppendFormatCstr( text.address(), ";cause=%s", -1, reason->cause.get() );
+        append( text, ";cause=", reason->cause );
     if ( reason->text )
-        rtStringAppendFormatCstr( text.address(), ";text=%~s", -1,
-                                  telsx___QuotableStringEncode( reason->text.get() ) );
+        append( text, ";text=", adopt( telsx___QuotableStringEncode( reason->text.get() ) ) );
     appendGenericParams( text, reason->genericParams.get(),
                          { { literal<"cause">(), rt::present( reason->cause ) },
                            { literal<"text">(), rt::present( reason->text ) } } );

@@ -55,7 +55,7 @@ int64_t telsx___SkipCharsAsciiCaseFold( const RT_CHAR *chs, int64_t length, cons
     TELSX_ASSERT_CHARS( chs, length );
     TELSX_ASSERT_CHARS( skipChs, skipLength );
     return skipText( { chs, length }, { skipChs, skipLength },
-                     []( RT_CHAR a, RT_CHAR b ) { return asciiLower( a ) == asciiLower( b ); } );
+                     []( RT_CHAR a, RT_CHAR b ) { return a == b || asciiLower( a ) == asciiLower( b ); } );
 }
 
 // Runs
@@ -63,25 +63,35 @@ int64_t telsx___SkipCharsAsciiCaseFold( const RT_CHAR *chs, int64_t length, cons
 int64_t telsx___SkipDigits( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return runOf( { chs, length }, classDigit );
+    return runOf<classDigit>( { chs, length } );
 }
 
 int64_t telsx___SkipWord( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return runOf( { chs, length }, classWord );
+    return runOf<classWord>( { chs, length } );
 }
 
 int64_t telsx___SkipAtom( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return runOf( { chs, length }, classTokenNodot );
+    return runOf<classTokenNodot>( { chs, length } );
+}
+
+static bool isWhite( RT_CHAR ch ) { return ch <= ' ' && ( ch == ' ' || ch == '\t' ); }
+
+static int64_t skipWhite( Text text )
+{
+    int64_t at = 0;
+    while ( at < text.length && isWhite( text.chs[at] ) )
+        ++at;
+    return at;
 }
 
 int64_t telsx___SkipSws( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return runOf( { chs, length }, classLws );
+    return skipWhite( { chs, length } );
 }
 
 int64_t telsx___SkipLws( const RT_CHAR *chs, int64_t length ) { return telsx___SkipSws( chs, length ); }
@@ -92,7 +102,7 @@ int64_t telsx___SkipSwsChar( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 {
     TELSX_ASSERT_CHARS( chs, length );
     TELSX_ASSERT( RT_CHAR_OK( ch ) );
-    int64_t at = runOf( { chs, length }, classLws );
+    int64_t at = skipWhite( { chs, length } );
     return at < length && chs[at] == ch ? at + 1 : 0;
 }
 
@@ -100,61 +110,75 @@ int64_t telsx___SkipCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 {
     Text rest = { chs, length };
     int64_t found = telsx___SkipChar( chs, length, ch );
-    return found ? found + runOf( rest.behind( found ), classLws ) : 0;
+    return found ? found + skipWhite( rest.behind( found ) ) : 0;
+}
+
+static int64_t skipSwsCharSws( Text text, RT_CHAR ch )
+{
+    int64_t at = skipWhite( text );
+    bool found = at < text.length && text.chs[at] == ch;
+    return found ? at + 1 + skipWhite( text.behind( at + 1 ) ) : 0;
 }
 
 int64_t telsx___SkipSwsCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 {
     TELSX_ASSERT_CHARS( chs, length );
     TELSX_ASSERT( RT_CHAR_OK( ch ) );
-    Text rest = { chs, length };
-    int64_t found = length && chs[0] == ch ? 1 : telsx___SkipSwsChar( chs, length, ch );
-    return found ? found + runOf( rest.behind( found ), classLws ) : 0;
+    return skipSwsCharSws( { chs, length }, ch );
 }
 
 int64_t telsx___SkipColon( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, ':' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, ':' );
 }
 
 int64_t telsx___SkipHcolon( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, ':' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, ':' );
 }
 
 int64_t telsx___SkipComma( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, ',' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, ',' );
 }
 
 int64_t telsx___SkipEqual( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, '=' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, '=' );
 }
 
 int64_t telsx___SkipLparen( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, '(' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, '(' );
 }
 
 int64_t telsx___SkipRparen( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, ')' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, ')' );
 }
 
 int64_t telsx___SkipSemi( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, ';' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, ';' );
 }
 
 int64_t telsx___SkipSlash( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, '/' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, '/' );
 }
 
 int64_t telsx___SkipStar( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipSwsCharSws( chs, length, '*' );
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipSwsCharSws( { chs, length }, '*' );
 }
 
 int64_t telsx___SkipLaquot( const RT_CHAR *chs, int64_t length )
@@ -379,13 +403,11 @@ int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipVersion( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    RT_STRING usual = literal<"SIP/2.0">();
-    int64_t usualLength = rtStringLength( usual );
-    if ( length > usualLength && std::equal( chs, chs + usualLength, rtStringBacking( usual ) )
-         && !isIn( chs[usualLength], classToken ) )
-        return usualLength;
-    return skipAll( { chs, length }, telsx___SkipProtocolName, telsx___SkipSlash,
-                    telsx___SkipProtocolVersion );
+    Text text = { chs, length };
+    static constexpr int64_t usual = 7;
+    if ( length > usual && equals<"SIP/2.0">( text.first( usual ) ) && !isIn( chs[usual], classToken ) )
+        return usual;
+    return skipAll( text, telsx___SkipProtocolName, telsx___SkipSlash, telsx___SkipProtocolVersion );
 }
 
 int64_t telsx___SkipVia( const RT_CHAR *chs, int64_t length )
@@ -407,7 +429,7 @@ int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length )
 {
     Text rest = { chs, length };
-    if ( !rest.take( skipWordInAnyCase( rest, literal<"received">() ) ) || !rest.take( telsx___SkipEqual ) )
+    if ( !beginsInAnyCase<"received">( rest ) || !rest.take( 8 ) || !rest.take( telsx___SkipEqual ) )
         return 0;
     int64_t address = skipAny( rest, telsx___SkipIpV6Address, telsx___SkipIpV4Address );
     return address ? length - rest.length + address : 0;

@@ -1,6 +1,10 @@
 // What the units need of text: the reading end of rt/rt_text.hpp, and strings from callers' characters.
 #pragma once
 
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx_frame.hpp"
@@ -25,6 +29,60 @@ inline Ref<RT_STRING> text( const wchar_t *chars, int64_t length )
     return adopt( rtStringCreateFromWcstr( chars, length ) );
 }
 
+// A number as a piece of text.
+class Decimal
+{
+public:
+    explicit Decimal( int64_t number )
+        : size( std::to_chars( digits, std::end( digits ), number ).ptr - digits )
+    {
+    }
+    std::string_view chars() const { return { digits, static_cast<std::size_t>( size ) }; }
+
+private:
+    char digits[20];
+    int64_t size;
+};
+
+// The pieces that texts are put together from, as ASCII or as code points.
+template <std::size_t SIZE>
+std::string_view pieceOf( const char ( &literal )[SIZE] )
+{
+    return { literal, SIZE - 1 };
+}
+inline std::string_view pieceOf( const char &ch ) { return { &ch, 1 }; }
+inline std::string_view pieceOf( const Decimal &number ) { return number.chars(); }
+inline Text pieceOf( RT_STRING string ) { return textOf( string ); }
+inline Text pieceOf( const Ref<RT_STRING> &string ) { return textOf( string ); }
+
+inline int64_t lengthOf( std::string_view piece ) { return static_cast<int64_t>( piece.size() ); }
+inline int64_t lengthOf( Text piece ) { return piece.length; }
+
+inline RT_CHAR *copyTo( RT_CHAR *into, std::string_view piece )
+{
+    return std::copy( piece.begin(), piece.end(), into );
+}
+inline RT_CHAR *copyTo( RT_CHAR *into, Text piece ) { return std::copy_n( piece.chs, piece.length, into ); }
+
+// Appends pieces, one behind the other: literals, characters, numbers and other strings.
+template <class... PIECE>
+void append( Ref<RT_STRING> &text, const PIECE &...pieces )
+{
+    int64_t length = ( lengthOf( pieceOf( pieces ) ) + ... );
+    RT_CHAR *into = rt___StringExtend( text.address(), length );
+    ( ( into = copyTo( into, pieceOf( pieces ) ) ), ... );
+}
+
+// The string of such pieces.
+template <class... PIECE>
+Ref<RT_STRING> joined( const PIECE &...pieces )
+{
+    Ref<RT_STRING> text;
+    RT_CHAR *into = rt::newString( ( lengthOf( pieceOf( pieces ) ) + ... ), text.address() );
+    ( ( into = copyTo( into, pieceOf( pieces ) ) ), ... );
+    return text;
+}
+
 // The string in lower or upper case, a new reference; the string itself stays as it is.
 inline RT_STRING lowerCase( RT_STRING string )
 {
@@ -39,14 +97,49 @@ inline RT_STRING upperCase( RT_STRING string )
     return upper.take();
 }
 
-// The string of a text that usually is one of the words, which are constants.
+// Whether the text is the word, or begins with it in any case: for the latter the word is in lower case.
+template <rt::Ascii WORD, std::size_t... AT>
+bool isThere( const RT_CHAR *chs, std::index_sequence<AT...> )
+{
+    return ( ( chs[AT] == WORD.chs[AT] ) && ... );
+}
+template <rt::Ascii WORD, std::size_t... AT>
+bool isThereInAnyCase( const RT_CHAR *chs, std::index_sequence<AT...> )
+{
+    auto isLetter = []( RT_CHAR ch ) { return ch >= 'a' && ch <= 'z'; };
+    return ( ( ( isLetter( WORD.chs[AT] ) ? chs[AT] | 0x20 : chs[AT] ) == WORD.chs[AT] ) && ... );
+}
+template <rt::Ascii WORD>
+bool equals( Text text )
+{
+    constexpr std::size_t length = std::size( WORD.chs ) - 1;
+    return text.length == int64_t( length ) && isThere<WORD>( text.chs, std::make_index_sequence<length>() );
+}
+template <rt::Ascii WORD>
+bool beginsInAnyCase( Text text )
+{
+    constexpr std::size_t length = std::size( WORD.chs ) - 1;
+    return text.length >= int64_t( length )
+           && isThereInAnyCase<WORD>( text.chs, std::make_index_sequence<length>() );
+}
+
+// The word that the text is, a constant, or null.
 template <rt::Ascii... WORD>
-Ref<RT_STRING> stringOfWord( Text text )
+RT_STRING findWord( Text text )
 {
     RT_STRING found = nullptr;
-    (void)( ( rtStringEqualsChars( literal<WORD>(), text.chs, text.length ) && ( found = literal<WORD>() ) )
+    (void)( ( equals<WORD>( text ) && ( found = literal<WORD>() ) ) || ... );
+    return found;
+}
+
+template <rt::Ascii... WORD>
+RT_STRING findWordInAnyCase( Text text )
+{
+    RT_STRING found = nullptr;
+    (void)( ( text.length == std::ssize( WORD.chs ) - 1 && beginsInAnyCase<WORD>( text )
+              && ( found = literal<WORD>() ) )
             || ... );
-    return found ? adopt( found ) : text.copy();
+    return found;
 }
 
 // The length of the word if the text begins with it, its letters in any case, else 0.

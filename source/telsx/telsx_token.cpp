@@ -17,5 +17,5 @@ RT_STRING telsxTokenNormalize( RT_STRING token )
 int64_t telsx___SkipToken( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return runOf( { chs, length }, classToken );
+    return runOf<classToken>( { chs, length } );
 }

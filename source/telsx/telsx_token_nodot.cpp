@@ -17,5 +17,5 @@ RT_STRING telsxTokenNodotNormalize( RT_STRING tokenNodot )
 int64_t telsx___SkipTokenNodot( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return runOf( { chs, length }, classTokenNodot );
+    return runOf<classTokenNodot>( { chs, length } );
 }

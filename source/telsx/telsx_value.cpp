@@ -17,21 +17,18 @@ bool ParamReader::next()
     return open;
 }
 
-bool ParamReader::isNamed( Text name, Skipper skipValue )
+bool ParamReader::hasValue( int64_t nameLength, Skipper skipValue )
 {
-    Text behind = rest;
-    if ( !behind.take( telsx___SkipCharsAsciiCaseFold( rest.chs, rest.length, name.chs, name.length ) )
-         || !behind.take( telsx___SkipEqual ) )
-        return false;
-    value = behind.take( skipValue );
+    Text behind = rest.behind( nameLength );
+    value = behind.take( telsx___SkipEqual ) ? behind.take( skipValue ) : Text();
     return bool( value );
 }
 
-bool ParamReader::isBareNamed( Text name )
+bool ParamReader::hasNoValue( int64_t nameLength )
 {
-    Text behind = rest;
-    value = behind.take( telsx___SkipCharsAsciiCaseFold( rest.chs, rest.length, name.chs, name.length ) );
-    return value && !telsx___SkipEqual( behind.chs, behind.length );
+    Text behind = rest.behind( nameLength );
+    value = rest.first( nameLength );
+    return !telsx___SkipEqual( behind.chs, behind.length );
 }
 
 // The parameter is taken: what follows begins behind its value.
@@ -57,7 +54,8 @@ void ParamReader::storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params )
 bool takeAddress( Text &rest, Address &address, RT_CHAR endOfBare )
 {
     Text behindName = rest;
-    Text name = behindName.take( telsx___SkipDisplayName );
+    bool hasName = rest && rest.chs[0] != '<';
+    Text name = hasName ? behindName.take( telsx___SkipDisplayName ) : Text();
     if ( name && behindName.take( telsx___SkipLaquot ) )
     {
         address.displayName = adopt( name.as( telsx___DisplayNameTryDecode ) );
@@ -80,9 +78,8 @@ void appendAddress( Ref<RT_STRING> &text, const Ref<RT_STRING> &iri, const Ref<R
     RT_STRING uri = rscTryConvertToUri( iri.get() );
     TELSX_ASSERT( uri );
     if ( displayName )
-        rtStringAppendFormatCstr( text.address(), "%~s ", -1,
-                                  telsx___DisplayNameEncode( displayName.get() ) );
-    rtStringAppendFormatCstr( text.address(), "<%~s>", -1, uri );
+        append( text, adopt( telsx___DisplayNameEncode( displayName.get() ) ), ' ' );
+    append( text, '<', adopt( uri ), '>' );
 }
 
 } // namespace telsx

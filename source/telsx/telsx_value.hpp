@@ -30,13 +30,14 @@ public:
 
     // Whether text is left that no semicolon opens; some headers stop there instead of failing.
     bool stopped() const { return bad && !open && !behindSemi; }
+    Text behind() const { return rest; }
 
     // Whether the parameter has this name, in any case, and a value that begins as the skipper wants. The
     // value, as far as the skipper goes, is then in value.
     template <rt::Ascii NAME>
     bool is( Skipper skipValue )
     {
-        return open && mayBe( NAME.chs[0] ) && isNamed( { NAME.chs, std::size( NAME.chs ) - 1 }, skipValue );
+        return open && beginsInAnyCase<NAME>( rest ) && hasValue( std::ssize( NAME.chs ) - 1, skipValue );
     }
     Text value;
 
@@ -44,7 +45,7 @@ public:
     template <rt::Ascii NAME>
     bool isBare()
     {
-        return open && mayBe( NAME.chs[0] ) && isBareNamed( { NAME.chs, std::size( NAME.chs ) - 1 } );
+        return open && beginsInAnyCase<NAME>( rest ) && hasNoValue( std::ssize( NAME.chs ) - 1 );
     }
 
     // Stores what the value decoded to, unless that is null or -1; whether it did.
@@ -69,12 +70,8 @@ public:
     void storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params );
 
 private:
-    bool mayBe( RT_CHAR firstOfName ) const
-    {
-        return rest && ( rest.chs[0] | 0x20 ) == ( firstOfName | 0x20 );
-    }
-    bool isNamed( Text name, Skipper skipValue );
-    bool isBareNamed( Text name );
+    bool hasValue( int64_t nameLength, Skipper skipValue );
+    bool hasNoValue( int64_t nameLength );
     bool take();
 
     Text rest;               // from the parameter's name on

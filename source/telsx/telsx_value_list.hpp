@@ -25,23 +25,43 @@ enum class WithoutLines
 };
 
 // Fills a new list with the texts that the skipper cuts out of the raw header; false for bad text.
-bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, Skipper skipValue, WithoutLines withoutLines );
+template <class SKIP>
+bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, WithoutLines withoutLines )
+{
+    if ( lines.empty() )
+        return withoutLines == WithoutLines::isEmpty;
+    ItemReader items( lines, skipValue, telsx___SkipComma );
+    while ( items.next() )
+        rt___VectorAppendTaken( values.address(), rt::asObj( items.item().take() ) );
+    return !items.failed();
+}
 
-// The list, for operations that end the star form of a header that has one.
+// The list, for operations that change it. What a header keeps of its first value, decoded, ends with that.
+template <class T>
+RT_VECTOR *valuesToChange( T *hdr )
+{
+    if constexpr ( requires { hdr->firstValue; } )
+        hdr->firstValue = {};
+    return hdr->values.address();
+}
+
+// The same for operations that end the star form of a header that has one.
 template <class T>
 RT_VECTOR *valuesWithoutStar( T *hdr )
 {
     if constexpr ( requires { hdr->starForm; } )
         hdr->starForm = 0;
-    return hdr->values.address();
+    return valuesToChange( hdr );
 }
 
 // The value at the index, read by its own decoder.
-template <class VALUE>
-VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
-                        VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
+template <class T, class VALUE>
+VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
 {
-    return textOf( rtStringFrom( rt___VectorObjBorrowed( values.get(), index ) ) ).as( tryDecode );
+    if constexpr ( requires { hdr.firstValue; } )
+        if ( index == 0 && hdr.firstValue )
+            return hdr.firstValue.retained();
+    return textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) ).as( tryDecode );
 }
 
 } // namespace telsx
@@ -61,7 +81,7 @@ VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
     TELSX_HANDLE( VALUE ) telsx##NAME##TryDecode##WORD##At( TELSX_HANDLE( NAME ) hdr, int64_t index )        \
     {                                                                                                        \
         TELSX_ASSERT( hdr );                                                                                 \
-        return telsx::tryDecodeValueAt( hdr->values, index, telsx___##VALUE##TryDecode );                    \
+        return telsx::tryDecodeValueAt( *hdr, index, telsx___##VALUE##TryDecode );                           \
     }                                                                                                        \
     void telsx##NAME##Set##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index,                              \
                                      TELSX_HANDLE( VALUE ) value )                                           \
@@ -73,7 +93,7 @@ VALUE tryDecodeValueAt( const Ref<RT_VECTOR> &values, int64_t index,
     void telsx##NAME##Del##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index )                             \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
-        rtVectorDelAt( TELSX_OWN( hdr )->values.address(), index );                                          \
+        rtVectorDelAt( telsx::valuesToChange( TELSX_OWN( hdr ) ), index );                                   \
     }                                                                                                        \
     void telsx##NAME##Prepend##WORD( TELSX_HANDLE( NAME ) * hdr, TELSX_HANDLE( VALUE ) value )               \
     {                                                                                                        \

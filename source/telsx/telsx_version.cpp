@@ -27,7 +27,15 @@ TELSX_DEFINE_NORMAL_FIELD( Version, version, ProtocolName, protocolName, telsxPr
 TELSX_DEFINE_NORMAL_FIELD( Version, version, ProtocolVersion, protocolVersion,
                            telsxProtocolVersionOk( protocolVersion ), telsxProtocolVersionNormalize )
 
-// The one SIP/2.0, set at start-up.
+// The one SIP/2.0, set at start-up to a constant. It has the shape of the type without its Refs.
+static constexpr struct
+{
+    RT_OBJECT object;
+    const RT_STRING_ *protocolName, *protocolVersion;
+} sip20 = { { &telsx___sort_TELSX_VERSION, RT_COUNT_IMMORTAL, 0 },
+            &rt::literalObject<"SIP">,
+            &rt::literalObject<"2.0"> };
+static_assert( sizeof sip20 == sizeof( TELSX_VERSION_ ) );
 static constinit TELSX_VERSION telsx___VersionSip20 = nullptr;
 
 static TELSX_VERSION create( Ref<RT_STRING> protocolName, Ref<RT_STRING> protocolVersion )
@@ -59,12 +67,8 @@ RT_BOOL telsxVersionIsSip20( TELSX_VERSION version )
     return telsxVersionIsSip( version ) && rtStringEquals( version->protocolVersion.get(), literal<"2.0">() );
 }
 
-TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length )
+static TELSX_VERSION tryDecodeOther( Text rest )
 {
-    TELSX_ASSERT_CHARS( chs, length );
-    if ( telsx___VersionSip20 && rtStringEqualsChars( literal<"SIP/2.0">(), chs, length ) )
-        return telsxVersionCreateSip20();
-    Text rest = { chs, length };
     Text protocolName = rest.take( telsx___SkipProtocolName );
     if ( !protocolName || !rest.take( telsx___SkipSlash ) )
         return nullptr;
@@ -74,21 +78,24 @@ TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length )
     return telsxVersionCreate( protocolName.copy().get(), protocolVersion.copy().get() );
 }
 
+TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    Text text = { chs, length };
+    return telsx___VersionSip20 && equals<"SIP/2.0">( text ) ? telsx___VersionSip20 : tryDecodeOther( text );
+}
+
 RT_STRING telsx___VersionEncode( TELSX_VERSION version )
 {
     TELSX_ASSERT( version );
     if ( version == telsx___VersionSip20 )
         return literal<"SIP/2.0">();
-    return rtStringCreateFromFormatCstr( "%s/%s", -1, version->protocolName.get(),
-                                         version->protocolVersion.get() );
+    return joined( version->protocolName, '/', version->protocolVersion ).take();
 }
 
 void telsx___VersionStartup( void )
 {
-    telsx___VersionSip20 = create( adopt( literal<"SIP">() ), adopt( literal<"2.0">() ) );
+    telsx___VersionSip20 = const_cast<TELSX_VERSION>( reinterpret_cast<const TELSX_VERSION_ *>( &sip20 ) );
 }
 
-void telsx___VersionShutdown( void )
-{
-    telsxVersionRelease( std::exchange( telsx___VersionSip20, nullptr ) );
-}
+void telsx___VersionShutdown( void ) { telsx___VersionSip20 = nullptr; }

@@ -2,11 +2,12 @@
 #include "telsx/telsx_via.h"
 
 #include "telsx/telsx_branch.h"
-#include "telsx/telsx_host.h"
+#include "telsx/telsx_host.hpp"
 #include "telsx/telsx_port.h"
 #include "telsx/telsx_transport.h"
 #include "telsx/telsx_ttl.h"
 #include "telsx/telsx_value.hpp"
+#include "telsx/telsx_via.hpp"
 
 using namespace telsx;
 
@@ -133,24 +134,23 @@ void telsxViaDelRport( TELSX_VIA *via )
 RT_STRING telsx___ViaEncode( TELSX_VIA via )
 {
     TELSX_ASSERT( via );
-    Ref<RT_STRING> text = adopt( rtStringCreateFromFormatCstr(
-        "%~s/%~s %~s", -1, telsx___VersionEncode( via->version.get() ), upperCase( via->transport.get() ),
-        telsx___HostEncode( via->host.get() ) ) );
+    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    append( text, adopt( telsx___VersionEncode( via->version.get() ) ), '/',
+            adopt( upperCase( via->transport.get() ) ), ' ', adopt( telsx___HostEncode( via->host.get() ) ) );
     if ( rt::present( via->port ) )
-        rtStringAppendFormatCstr( text.address(), ":%~s", -1, telsx___PortEncode( via->port ) );
+        append( text, ':', adopt( telsx___PortEncode( via->port ) ) );
     if ( rt::present( via->ttl ) )
-        rtStringAppendFormatCstr( text.address(), ";ttl=%~s", -1, telsx___TtlEncode( via->ttl ) );
+        append( text, ";ttl=", adopt( telsx___TtlEncode( via->ttl ) ) );
     if ( via->maddr )
-        rtStringAppendFormatCstr( text.address(), ";maddr=%~s", -1, telsx___HostEncode( via->maddr.get() ) );
+        append( text, ";maddr=", adopt( telsx___HostEncode( via->maddr.get() ) ) );
     if ( via->received )
-        rtStringAppendFormatCstr( text.address(), ";received=%~s", -1,
-                                  netAddressToStringShrink( via->received.get() ) );
+        append( text, ";received=", adopt( netAddressToStringShrink( via->received.get() ) ) );
     if ( via->rportEmpty )
-        rtStringAppendCstr( text.address(), ";rport", -1 );
+        append( text, ";rport" );
     else if ( rt::present( via->rportNumeric ) )
-        rtStringAppendFormatCstr( text.address(), ";rport=%~s", -1, telsx___PortEncode( via->rportNumeric ) );
+        append( text, ";rport=", adopt( telsx___PortEncode( via->rportNumeric ) ) );
     if ( via->branch )
-        rtStringAppendFormatCstr( text.address(), ";branch=%s", -1, via->branch.get() );
+        append( text, ";branch=", via->branch );
     appendGenericParams( text, via->genericParams.get(),
                          { { literal<"ttl">(), rt::present( via->ttl ) },
                            { literal<"maddr">(), rt::present( via->maddr ) },
@@ -168,31 +168,28 @@ static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
 
 static Ref<RT_STRING> decodeTransport( Text text )
 {
-    for ( RT_STRING usual : { literal<"udp">(), literal<"tcp">(), literal<"tls">() } )
-        if ( skipWordInAnyCase( text, usual ) == text.length )
-            return adopt( usual );
-    return adopt( lowerCase( text.copy().get() ) );
+    RT_STRING usual = findWordInAnyCase<"udp", "tcp", "tls">( text );
+    return adopt( usual ? usual : lowerCase( text.copy().get() ) );
 }
 
-TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
+Ref<TELSX_VIA> telsx::takeVia( Text &rest )
 {
-    TELSX_ASSERT_CHARS( chs, length );
-    Text rest = { chs, length };
     auto version = adopt( rest.take( telsx___SkipVersion ).as( telsx___VersionTryDecode ) );
     if ( !version || !rest.take( telsx___SkipSlash ) )
-        return nullptr;
+        return {};
     Text transport = rest.take( telsx___SkipTransport );
     if ( !transport || !rest.take( telsx___SkipLws ) )
-        return nullptr;
-    auto host = adopt( rest.take( telsx___SkipHost ).as( telsx___HostTryDecode ) );
+        return {};
+    Text hostText = rest.take( telsx___SkipHost );
+    Ref<RT_STRING> host = hostText ? hostOf( hostText ) : Ref<RT_STRING>();
     if ( !host )
-        return nullptr;
+        return {};
     auto via = adopt( create( std::move( version ), decodeTransport( transport ), std::move( host ) ) );
     if ( rest.take( telsx___SkipColon ) )
     {
         via->port = rest.take( telsx___SkipPort ).as( telsx___PortTryDecode );
         if ( !rt::present( via->port ) )
-            return nullptr;
+            return {};
     }
 
     ParamReader param( rest );
@@ -201,7 +198,7 @@ TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
         if ( param.is<"ttl">( telsx___SkipTtl ) )
             param.store( via->ttl, param.value.as( telsx___TtlTryDecode ) );
         if ( param.is<"maddr">( telsx___SkipHost ) )
-            param.store( via->maddr, param.value.as( telsx___HostTryDecode ) );
+            param.store( via->maddr, hostOf( param.value ) );
         if ( param.is<"received">( skipAddress ) )
             param.store( via->received, param.value.as( netAddressTryCreateFromChars ) );
         if ( param.isBare<"rport">() && param.storeFlag( via->rportEmpty ) )
@@ -213,5 +210,16 @@ TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
             param.store( via->branch, param.value.copy() );
         param.storeGeneric( via->genericParams );
     }
-    return param.failed() ? nullptr : via.take();
+    if ( param.failed() && !param.stopped() )
+        return {};
+    rest = param.behind();
+    return via;
+}
+
+TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    Text rest = { chs, length };
+    Ref<TELSX_VIA> via = takeVia( rest );
+    return rest ? nullptr : via.take();
 }

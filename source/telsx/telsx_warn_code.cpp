@@ -27,7 +27,7 @@ RT_STRING telsxWarnCodeToString( int64_t warnCode )
 RT_STRING telsx___WarnCodeEncode( int64_t warnCode )
 {
     TELSX_ASSERT( telsxWarnCodeOk( warnCode ) );
-    return rtStringCreateFromFormatCstr( "%i", -1, warnCode );
+    return joined( Decimal( warnCode ) ).take();
 }
 
 int64_t telsx___WarnCodeDecode( const RT_CHAR *chs, int64_t length )

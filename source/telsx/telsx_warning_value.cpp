@@ -61,9 +61,9 @@ void telsxWarningValueSetWarnCode( TELSX_WARNING_VALUE *wv, int64_t warnCode, RT
 RT_STRING telsx___WarningValueEncode( TELSX_WARNING_VALUE wv )
 {
     TELSX_ASSERT( wv );
-    return rtStringCreateFromFormatCstr( "%~s %s %~s", -1, telsx___WarnCodeEncode( wv->warnCode ),
-                                         wv->warnAgent.get(),
-                                         telsx___QuotableStringEncode( wv->warnText.get() ) );
+    return joined( adopt( telsx___WarnCodeEncode( wv->warnCode ) ), ' ', wv->warnAgent, ' ',
+                   adopt( telsx___QuotableStringEncode( wv->warnText.get() ) ) )
+        .take();
 }
 
 // What stands behind the text is not looked at: whoever cuts a value out of a list has judged it.

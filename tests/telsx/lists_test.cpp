@@ -236,3 +236,58 @@ TEST( Lists, ContactIsAStarOrAList )
     EXPECT_ABORT( telsxHeaderContactSetStarForm( nullptr, 1 ), "hdr" );
     EXPECT_ABORT( telsxHeaderContactSetStarForm( &none, 1 ), "*hdr" );
 }
+
+// A Via header keeps its first value decoded. It must be what the value's text is decoded to, also where a decoder
+// that looks for names stops inside of what a skipper takes for a value.
+TEST( ViaList, KeepsItsFirstValueAsItsTextIsDecoded )
+{
+    struct
+    {
+        const char *line;
+        int64_t count; // -1: no list at all
+        bool firstIsGood;
+    } cases[] = {
+        { "SIP/2.0/UDP a", 1, true },
+        { "SIP/2.0/UDP a:5060;branch=b , SIP/2.0/TCP c", 2, true },
+        { "SIP / 2.0 / udp a ; ttl = 1 ; received = ::1,SIP/2.0/TCP c", 2, true },
+        { "SIP/2.0/UDP a;maddr=b_c, SIP/2.0/TCP c", 2, false },
+        { "SIP/2.0/UDP a;ttl=1x", 1, false },
+        { "SIP/2.0/UDP a;ttl=300;rport=99999999999999999999,SIP/2.0/TCP c", 2, true },
+        { "SIP/2.0/UDP a;rportx;rport=1x", 1, false },
+        { "SIP/2.0/UDP a;x=\"y,z\";y", 1, true },
+        { "SIP/2.0/UDP xn--a,SIP/2.0/TCP c", 2, true },
+        { "SIP/2.0/UDP a;,SIP/2.0/TCP c", -1, false },
+        { "SIP/2.0/UDP a;received=1.2.3.4x", -1, false },
+        { "SIP/2.0/UDP a;branch=b x", -1, false },
+        { "SIP/2.0/UDP a,", -1, false },
+    };
+    for ( auto &[line, count, firstIsGood] : cases )
+    {
+        auto msg = adopt( telsxMessageTryDecode(
+            buffer( "OPTIONS sip:a SIP/2.0\r\nVia: " + std::string( line ) + "\r\n\r\n" ).get() ) );
+        auto list = adopt( telsxHeaderViaTryDecodeFromMessage( msg.get() ) );
+        ASSERT_EQ( count != -1, bool( list ) ) << line;
+        if ( !list )
+            continue;
+        EXPECT_EQ( count, telsxHeaderViaViasLength( list.get() ) ) << line;
+        auto value =
+            adopt( telsxMessageHeaderLineAt( adopt( telsxHeaderViaEncode( list.get() ) ).get(), 0 ) );
+        auto first = adopt( telsxHeaderViaTryDecodeViaAt( list.get(), 0 ) );
+        EXPECT_EQ( firstIsGood, bool( first ) ) << line;
+        EXPECT_EQ(
+            adopt( telsx___ViaTryDecode( rtStringBacking( value.get() ), rtStringLength( value.get() ) ) ),
+            first )
+            << line;
+
+        // It leaves with the value, also from a copy, and lists are compared without it.
+        auto copy = list;
+        if ( first )
+            telsxHeaderViaSetViaAt( copy.address(), 0, first.get() );
+        telsxHeaderViaPrependVia(
+            copy.address(), adopt( telsxViaCreateDummy( adopt( telsxVersionCreateSip20() ).get() ) ).get() );
+        EXPECT_NE( first, adopt( telsxHeaderViaTryDecodeViaAt( copy.get(), 0 ) ) ) << line;
+        telsxHeaderViaDelViaAt( copy.address(), 0 );
+        EXPECT_EQ( first, adopt( telsxHeaderViaTryDecodeViaAt( copy.get(), 0 ) ) ) << line;
+        EXPECT_EQ( first, adopt( telsxHeaderViaTryDecodeViaAt( list.get(), 0 ) ) ) << line;
+    }
+}
