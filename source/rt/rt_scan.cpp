@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#ifdef __SSE2__
+#ifdef RT_SCAN_VECTORS
 #include <cpuid.h>
 #include <tmmintrin.h>
 

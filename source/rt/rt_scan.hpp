@@ -7,7 +7,9 @@
 
 #include "rt/rt_charset.h"
 
-#ifdef __SSE2__
+// A test defines RT_SCAN_PLAIN, to see that it is the same without vectors.
+#if defined( __SSE2__ ) && !defined( RT_SCAN_PLAIN )
+#define RT_SCAN_VECTORS
 #include <emmintrin.h>
 #endif
 
@@ -41,7 +43,7 @@ inline constexpr int64_t scanSlack = 16;
 // Sixteen bytes.
 struct ByteBlock
 {
-#ifdef __SSE2__
+#ifdef RT_SCAN_VECTORS
     __m128i bytes;
 
     static ByteBlock at( const void *from )
@@ -116,7 +118,7 @@ struct ByteBlock
 };
 
 // Four code points, to learn of many whether they are ASCII.
-#ifdef __SSE2__
+#ifdef RT_SCAN_VECTORS
 struct FourChars
 {
     __m128i chs;

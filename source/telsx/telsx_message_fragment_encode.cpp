@@ -79,9 +79,9 @@ static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const
             write( to, name, colon, rtStringFrom( rt___VectorObjBorrowed( lines, i ) ), lineEnd );
         return;
     }
-    write( to, name, colon, WithSlack( table->lineOf( entry.first ) ), lineEnd );
+    write( to, name, colon, WithSlack{ table->lineOf( entry.first ) }, lineEnd );
     for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
-        write( to, name, colon, WithSlack( table->lineOf( table->moreLines[next] ) ), lineEnd );
+        write( to, name, colon, WithSlack{ table->lineOf( table->moreLines[next] ) }, lineEnd );
 }
 
 // The true length stands where the fragment has that header, else behind all others.
@@ -97,7 +97,7 @@ static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, const StartLine &sta
         if ( entry.number == lengthNumber && entry.name )
             writeLength();
         else if ( entry.number != -1 && entry.name )
-            writeHeader( to, WithSlack( knownNames[entry.number].bytes ), headers, entry );
+            writeHeader( to, WithSlack{ knownNames[entry.number].bytes }, headers, entry );
         else if ( entry.name )
             writeHeader( to, entry.name, headers, entry );
     if ( !headers->is[lengthNumber] )
