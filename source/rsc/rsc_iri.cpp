@@ -39,16 +39,17 @@ static constexpr auto uriChars = []
     return chars;
 }();
 
-// Those of them that a reader of an IRI needs not look at.
-static constexpr auto plainChars = []
+// Those of them that a reader of an IRI needs not look at, where the IRI ends before one of them or none.
+static constexpr rt::CharSet plainCharsUntil( RT_CHAR end )
 {
     rt::CharSet chars;
     for ( unsigned char ch = 0; ch < 0x80; ++ch )
-        if ( uriChars[ch]
-             && std::string_view( "#?-" ).find( static_cast<char>( ch ) ) == std::string_view::npos )
+        if ( uriChars[ch] && ch != '#' && ch != '?' && ch != '-' && ch != end )
             chars.add( ch );
     return chars;
-}();
+}
+static constexpr auto plainChars = plainCharsUntil( UINT32_MAX ),
+                      plainCharsUntilSemi = plainCharsUntil( ';' );
 
 // RFC 3987, 2.2.
 static bool isUcschar( RT_CHAR ch )
@@ -119,9 +120,10 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
         rest.take( std::ssize( sip ) );
     else if ( !rest.take( skipScheme( rest ) ) || !rest || rest.take( 1 ).chs[0] != ':' )
         return found;
-    rt::CharSet plain = plainChars;
-    if ( end < 0x80 )
-        plain.remove( static_cast<unsigned char>( end ) );
+    rt::CharSet other;
+    const rt::CharSet &plain = end == ';'   ? plainCharsUntilSemi
+                               : end < 0x80 ? ( other = plainCharsUntil( end ) )
+                                            : plainChars;
     for ( Place place; rest; place.pass( rest.take( 1 ).chs[0] ) )
     {
         rest.take( plain.runOf( rest.chs, rest.length ) );

@@ -20,7 +20,7 @@ inline constexpr bool listsBlocks = true;
 namespace rt
 {
 
-inline constexpr int64_t blockStep = 16, mostListed = 2048, mostBytesInList = 16384;
+inline constexpr int64_t blockStep = 16, mostListed = 4096, mostBytesInList = 16384;
 
 // Freed blocks, the first eight bytes of each leading to the next, by size.
 struct BlockList

@@ -43,20 +43,6 @@ static bool isAscii( const FROM *from, int64_t length )
     return all < 0x80;
 }
 
-// Of ASCII.
-static void widen( const unsigned char *from, int64_t length, RT_CHAR *to )
-{
-    int64_t at = 0;
-    for ( ; length - at >= blockLength; at += blockLength )
-        rt::ByteBlock::at( from + at ).widen( to + at );
-    // What is left is done with some of what is done.
-    if ( at && at < length )
-        rt::ByteBlock::at( from + length - blockLength ).widen( to + length - blockLength );
-    else
-        for ( ; at < length; ++at )
-            to[at] = from[at];
-}
-
 // Whether it is ASCII; what stands there if it isn't, is to be written again.
 static bool tryNarrow( const RT_CHAR *from, int64_t length, unsigned char *to )
 {
@@ -174,7 +160,7 @@ RT_STRING rt___StringCreateFromAscii( const char *bytes, int64_t length )
     if ( length == 0 )
         return rtStringCreate();
     RT_STRING string;
-    widen( reinterpret_cast<const unsigned char *>( bytes ), length, rt::newString( length, &string ) );
+    rt::widenExactly( bytes, length, rt::newString( length, &string ) );
     return string;
 }
 
@@ -203,7 +189,7 @@ int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_CHAR *in
 {
     if ( isAscii( bytes, length ) )
     {
-        widen( bytes, length, into );
+        rt::widenExactly( reinterpret_cast<const char *>( bytes ), length, into );
         return length;
     }
     return decode<true>( bytes, length, into );

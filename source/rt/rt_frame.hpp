@@ -65,13 +65,32 @@ inline void retain( RT_OBJ obj )
         count.fetch_add( 1 );
 }
 
-// The only holder needs no atomic subtraction: nobody else is there to add or subtract.
-inline void release( RT_OBJ obj )
+// Gives one reference up; whether it was the last. The only holder needs no atomic subtraction: nobody else is there to
+// add or subtract.
+inline bool giveUp( RT_OBJ obj )
 {
     std::atomic_ref count( obj->count );
     int64_t before = count.load( std::memory_order_acquire );
-    if ( before == 1 || ( before < RT_COUNT_IMMORTAL && count.fetch_sub( 1 ) == 1 ) )
+    return before == 1 || ( before < RT_COUNT_IMMORTAL && count.fetch_sub( 1 ) == 1 );
+}
+
+inline void release( RT_OBJ obj )
+{
+    if ( giveUp( obj ) )
         rt___ObjFree( obj );
+}
+
+// Most objects are strings, whose end is short.
+template <class HANDLE>
+void releaseHandle( HANDLE handle )
+{
+    if constexpr ( std::is_same_v<HANDLE, RT_STRING> )
+    {
+        if ( giveUp( asObj( handle ) ) )
+            rt___StringFree( handle );
+    }
+    else
+        release( asObj( handle ) );
 }
 
 inline bool shared( RT_OBJ obj ) { return std::atomic_ref( obj->count ).load() > 1; }
@@ -91,7 +110,7 @@ public:
     ~Ref()
     {
         if ( handle )
-            release( asObj( handle ) );
+            releaseHandle( handle );
     }
 
     // The old reference is released last, with the parameter.

@@ -82,7 +82,7 @@ struct Array
     }
     void clear()
     {
-        if ( !isBorrowed )
+        if ( items && !isBorrowed )
             std::free( items );
         *this = {};
     }

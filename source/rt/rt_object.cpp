@@ -5,7 +5,7 @@
 
 #include "rt/rt_blocks.hpp"
 #include "rt/rt_memory.hpp"
-#include "rt/rt_string.h"
+#include "rt/rt_string.hpp"
 
 #ifdef RT_COUNT_OBJECTS
 static std::atomic<int64_t> alive;
@@ -62,12 +62,24 @@ RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort )
     return obj;
 }
 
+static void freeBlock( RT_OBJ obj )
+{
+    rt::freeBlock( obj );
+    countAlive( -1 );
+}
+
 void rt___ObjFree( RT_OBJ obj )
 {
     if ( obj->sort->freeFunc )
         obj->sort->freeFunc( obj );
-    rt::freeBlock( obj );
-    countAlive( -1 );
+    freeBlock( obj );
+}
+
+void rt___StringFree( RT_STRING string )
+{
+    if ( string->parent )
+        rtStringRelease( string->parent );
+    freeBlock( rt::asObj( string ) );
 }
 
 void rt___Abort( const char *message, const char *file, int64_t line, const char *expression )

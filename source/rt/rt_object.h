@@ -104,9 +104,10 @@ RT_API RT_STRING rtObjToString( RT_OBJ obj );
 RT_API int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB );
 
 /* For the libraries above: a block of that many bytes, header included, with the count 1 and nothing yet
- * behind the header; and the end of an object whose count has reached 0. */
+ * behind the header; and the end of an object whose count has reached 0, for which a string has a shorter way. */
 RT_API RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort );
 RT_API void rt___ObjFree( RT_OBJ obj );
+RT_API void rt___StringFree( RT_STRING string );
 
 /* For the libraries above: the free blocks of the thread; null until it frees its first one, and again once it has
  * ended. */

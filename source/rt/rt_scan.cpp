@@ -69,38 +69,32 @@ TARGET static int64_t vectorRunOf( const rt::CharSet &set, const RT_CHAR *chs, i
     return rt::plainRunOf( set, chs, length );
 }
 
-// Asks the processor once.
-static bool hasVectors()
+enum class Vectors
 {
-    enum : int
-    {
-        unknown,
-        no,
-        yes
-    };
-    static constinit std::atomic<int> answer = unknown;
-    int known = answer.load( std::memory_order_relaxed );
-    if ( known == unknown )
-    {
-        unsigned a, b, c = 0, d;
-        known = __get_cpuid( 1, &a, &b, &c, &d ) && ( c & bit_SSSE3 ) ? yes : no;
-        answer.store( known, std::memory_order_relaxed );
-    }
-    return known == yes;
-}
+    unknown,
+    absent,
+    present
+};
 
-static int64_t runOf( const rt::CharSet &set, const RT_CHAR *chs, int64_t length )
+[[gnu::noinline]] static Vectors askProcessor()
 {
-    return hasVectors() ? vectorRunOf( set, chs, length ) : rt::plainRunOf( set, chs, length );
+    unsigned a, b, c = 0, d;
+    return __get_cpuid( 1, &a, &b, &c, &d ) && ( c & bit_SSSE3 ) ? Vectors::present : Vectors::absent;
 }
-#else
-static int64_t runOf( const rt::CharSet &set, const RT_CHAR *chs, int64_t length )
-{
-    return rt::plainRunOf( set, chs, length );
-}
-#endif
 
 int64_t rt___RunOf( const uint8_t *set, const RT_CHAR *chs, int64_t length )
 {
-    return runOf( *reinterpret_cast<const rt::CharSet *>( set ), chs, length );
+    static constinit std::atomic vectors = Vectors::unknown;
+    auto &of = *reinterpret_cast<const rt::CharSet *>( set );
+    if ( vectors.load( std::memory_order_relaxed ) == Vectors::present ) [[likely]]
+        return vectorRunOf( of, chs, length );
+    if ( vectors.load( std::memory_order_relaxed ) == Vectors::unknown )
+        vectors.store( askProcessor(), std::memory_order_relaxed );
+    return rt::plainRunOf( of, chs, length );
 }
+#else
+int64_t rt___RunOf( const uint8_t *set, const RT_CHAR *chs, int64_t length )
+{
+    return rt::plainRunOf( *reinterpret_cast<const rt::CharSet *>( set ), chs, length );
+}
+#endif

@@ -199,4 +199,18 @@ inline void widen( const char *from, int64_t length, RT_CHAR *into )
         ByteBlock::at( from + at ).widen( into + at );
 }
 
+// The same to a place without slack, and from one.
+inline void widenExactly( const char *from, int64_t length, RT_CHAR *into )
+{
+    int64_t at = 0;
+    for ( ; length - at >= 16; at += 16 )
+        ByteBlock::at( from + at ).widen( into + at );
+    // What is left is done with some of what is done.
+    if ( at && at < length )
+        ByteBlock::at( from + length - 16 ).widen( into + length - 16 );
+    else
+        for ( ; at < length; ++at )
+            into[at] = static_cast<unsigned char>( from[at] );
+}
+
 } // namespace rt

@@ -62,14 +62,6 @@ static RT_CHAR widened( CHAR ch )
     return static_cast<std::make_unsigned_t<CHAR>>( ch );
 }
 
-static void widen( const char *chars, int64_t length, RT_CHAR *into )
-{
-    int64_t at = 0;
-    for ( ; length - at >= 16; at += 16 )
-        rt::ByteBlock::at( chars + at ).widen( into + at );
-    std::transform( chars + at, chars + length, into + at, widened<char> );
-}
-
 template <class CHAR>
 static RT_STRING createFrom( const CHAR *chars, int64_t length )
 {
@@ -81,7 +73,7 @@ static RT_STRING createFrom( const CHAR *chars, int64_t length )
     if constexpr ( std::is_same_v<CHAR, RT_CHAR> )
         std::memcpy( into, chars, static_cast<std::size_t>( length ) * sizeof( RT_CHAR ) );
     else if constexpr ( std::is_same_v<CHAR, char> )
-        widen( chars, length, into );
+        rt::widenExactly( chars, length, into );
     else
         std::transform( chars, chars + length, into, widened<CHAR> );
     return string;

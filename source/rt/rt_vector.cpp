@@ -145,10 +145,12 @@ RT_BOOL rtVectorContainsOnly( RT_VECTOR vector, RT_SORT sort )
     return std::all_of( vector->begin(), vector->end(), [sort]( RT_OBJ obj ) { return obj->sort == sort; } );
 }
 
-void rt___VectorAppendTaken( RT_VECTOR *vector, RT_OBJ obj )
+void rt___VectorInsertTaken( RT_VECTOR *vector, int64_t index, RT_OBJ obj )
 {
+    RT_ASSERT( vector );
+    RT_ASSERT( index >= -1 && index <= rtVectorLength( *vector ) );
     RT_VECTOR changed = own( vector, 1 );
-    *openGap( changed, changed->length ) = obj;
+    *openGap( changed, index == -1 ? changed->length : index ) = obj;
 }
 
 static void insert( RT_VECTOR *vector, int64_t index, RT_OBJ obj )

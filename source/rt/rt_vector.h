@@ -38,9 +38,9 @@ RT_API void rtVectorDelAt( RT_VECTOR *vector, int64_t index );
 RT_API void rtVectorDelLeading( RT_VECTOR *vector, int64_t count );
 RT_API void rtVectorClear( RT_VECTOR *vector );
 
-/* For the libraries above: rtVectorAppend that takes over the caller's reference; the element at the index,
- * borrowed. */
-RT_API void rt___VectorAppendTaken( RT_VECTOR *vector, RT_OBJ obj );
+/* For the libraries above: puts an object in at the index, or behind all others for -1, and takes over the caller's
+ * reference to it; the element at the index, borrowed. */
+RT_API void rt___VectorInsertTaken( RT_VECTOR *vector, int64_t index, RT_OBJ obj );
 RT_API RT_OBJ rt___VectorObjBorrowed( RT_VECTOR vector, int64_t index );
 
 RT_END

@@ -36,6 +36,12 @@ public:
     Text lastText();  // empty if there is none; borrowed as a string is
     void restart();
 
+    // A reference to a line that was read, the reader's own if it has one.
+    Ref<RT_STRING> takeText( RT_STRING line )
+    {
+        return text.get() == line ? std::move( text ) : share( line );
+    }
+
 private:
     TELSX_MESSAGE_HEADER header = nullptr; // or, where nobody has asked for it yet,
     HeaderTable *table = nullptr;          // the table that it stands in,

@@ -105,6 +105,6 @@ static TELSX_HEADER_CONTENT_ENCODING decode( HeaderLines &lines )
     Ref<TELSX_HEADER_CONTENT_ENCODING> hdr = adopt( telsxHeaderContentEncodingCreate() );
     ItemReader codings( lines, telsx___SkipContentCoding, telsx___SkipComma );
     while ( codings.next() )
-        telsxHeaderContentEncodingAppendContentCoding( hdr.address(), codings.item().get() );
+        telsxHeaderContentEncodingAppendContentCoding( hdr.address(), codings.takeItem().get() );
     return codings.failed() ? nullptr : hdr.take();
 }

@@ -12,15 +12,13 @@ namespace telsx
 static void freeFunc( RT_OBJ obj )
 {
     auto *table = reinterpret_cast<HeaderTable *>( obj );
-    for ( HeaderEntry &entry : table->entries )
-    {
-        if ( entry.header )
-            rt::release( rt::asObj( entry.header ) );
-    }
+    if ( table->holdsHeaders )
+        for ( HeaderEntry &entry : table->entries )
+            if ( entry.header )
+                rt::release( rt::asObj( entry.header ) );
     table->entries.clear();
     table->moreLines.clear();
     table->otherEntries.clear();
-    table->bytes = {};
     table->others = {};
 }
 
@@ -28,12 +26,15 @@ static constexpr RT_SORT_ sort = {
     RT_STATIC_OBJECT, &telsx___module, "TELSX_HEADER_TABLE", freeFunc, nullptr, nullptr, {}
 };
 
-Ref<HeaderTable *> createHeaderTable( Ref<RT_BUFFER> bytes, bool isAscii )
+Ref<HeaderTable *> createHeaderTable( Bytes bytes, bool isAscii )
 {
-    auto *table = reinterpret_cast<HeaderTable *>( rt::createObject( sizeof( HeaderTable ), &sort ) );
-    table->begin = bytes ? bytesOf( bytes.get() ).data() : nullptr;
-    std::construct_at( &table->bytes, std::move( bytes ) );
+    int64_t size = lengthOf( bytes ), own = sizeof( HeaderTable );
+    auto *table = reinterpret_cast<HeaderTable *>( rt::createObject( own + size + rt::scanSlack, &sort ) );
+    rt::copyItems( table->bytes(), bytes.data(), size );
+    std::memset( table->bytes() + size, 0, rt::scanSlack );
+    table->size = size;
     table->isAscii = isAscii;
+    table->holdsHeaders = false;
     table->entries.start( table->firstEntries, std::ssize( table->firstEntries ) );
     table->moreLines = {};
     table->length = 0;
@@ -55,6 +56,7 @@ HeaderEntry *findOtherHeader( HeaderTable *table, RT_STRING name )
 static void append( HeaderTable *table, const HeaderEntry &entry )
 {
     int64_t place = table->entries.length;
+    table->holdsHeaders = table->holdsHeaders || entry.header;
     if ( entry.number != -1 )
     {
         table->is[std::size_t( entry.number )] = true;
@@ -87,8 +89,8 @@ void addAnyLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t len
 
 Ref<RT_STRING> HeaderTable::stringOf( const HeaderLine &line ) const
 {
-    return adopt( isAscii ? rt___StringCreateFromAscii( begin + line.begin, line.length )
-                          : rtStringTryCreateFromUtf8( begin + line.begin, line.length ) );
+    return adopt( isAscii ? rt___StringCreateFromAscii( bytes() + line.begin, line.length )
+                          : rtStringTryCreateFromUtf8( bytes() + line.begin, line.length ) );
 }
 
 Text WideText::readOther( Bytes bytes )
@@ -126,6 +128,7 @@ TELSX_MESSAGE_HEADER headerAt( HeaderTable *table, HeaderEntry &entry )
         return header;
     Ref<TELSX_MESSAGE_HEADER> made = makeHeader( table, entry );
     TELSX_MESSAGE_HEADER header = nullptr;
+    std::atomic_ref( table->holdsHeaders ).store( true, std::memory_order_relaxed );
     std::atomic_ref kept( entry.header );
     return kept.compare_exchange_strong( header, made.get(), std::memory_order_acq_rel ) ? made.take()
                                                                                          : header;
@@ -143,7 +146,8 @@ RT_VECTOR headersVector( HeaderTable *table )
 // A table with the headers of another, without the gaps that taking out has left.
 static Ref<HeaderTable *> copyOf( HeaderTable *table )
 {
-    Ref<HeaderTable *> copy = createHeaderTable( table->bytes, table->isAscii );
+    Ref<HeaderTable *> copy =
+        createHeaderTable( { table->bytes(), static_cast<std::size_t>( table->size ) }, table->isAscii );
     copy->moreLines.append( table->moreLines );
     copy->entries.reserve( table->length + 1 );
     for ( HeaderEntry &entry : table->entries )
@@ -171,6 +175,7 @@ void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header )
         return append( table.get(), { name.name, header.take(), { -1, 0, -1 }, -1, name.number } );
     auto old = adopt( std::exchange( entry->header, header.take() ) );
     entry->first.begin = -1;
+    table->holdsHeaders = true;
 }
 
 void delHeader( Ref<HeaderTable *> &table, HeaderName name )

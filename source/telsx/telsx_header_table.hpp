@@ -63,8 +63,8 @@ inline HeaderName headerName( RT_STRING canonical )
 {
     Text text = textOf( canonical );
     auto size = static_cast<std::size_t>( text.length );
-    int64_t number = size ? knownNameTable[knownNameSlot( text.chs, size )].number : -1;
-    if ( number == -1 || knownNames[number].name != canonical )
+    int64_t number = knownNameTable[knownNameSlot( text.chs, size )].number;
+    if ( knownNames[number].name != canonical )
         number = knownNameNumber( text.chs, size );
     return { number == -1 ? canonical : const_cast<RT_STRING>( knownNames[number].name ), number };
 }
@@ -103,9 +103,9 @@ struct HeaderEntry
 struct HeaderTable
 {
     RT_OBJECT object;
-    Ref<RT_BUFFER> bytes; // where the lines stand, folds undone, and rt::scanSlack more; null without lines
-    const char *begin;    // of the bytes
-    bool isAscii;         // all of them are
+    int64_t size;      // of the bytes
+    bool isAscii;      // all of them are
+    bool holdsHeaders; // an entry may have its header
     rt::Array<HeaderEntry> entries;
     rt::Array<HeaderLine> moreLines;
     int64_t length;                  // headers that are there
@@ -113,17 +113,21 @@ struct HeaderTable
     int64_t known[knownCount];       // and which it is
     Ref<RT_DICT> others;             // of other names the n-th has its entry in otherEntries; never null
     rt::Array<int64_t> otherEntries; // -1 once it was taken out
-    HeaderEntry firstEntries[16];    // where entries begins
+    HeaderEntry firstEntries[14];    // where entries begins
+
+    // Where the lines stand, folds undone, and rt::scanSlack more: behind this structure.
+    char *bytes() { return reinterpret_cast<char *>( this + 1 ); }
+    const char *bytes() const { return reinterpret_cast<const char *>( this + 1 ); }
 
     Bytes lineOf( const HeaderLine &line ) const
     {
-        return { begin + line.begin, static_cast<std::size_t>( line.length ) };
+        return { bytes() + line.begin, static_cast<std::size_t>( line.length ) };
     }
     Ref<RT_STRING> stringOf( const HeaderLine &line ) const;
 };
 
-// An empty table whose lines will stand in the bytes.
-Ref<HeaderTable *> createHeaderTable( Ref<RT_BUFFER> bytes = {}, bool isAscii = true );
+// An empty table with a copy of bytes, in which its lines will stand.
+Ref<HeaderTable *> createHeaderTable( Bytes bytes = {}, bool isAscii = true );
 
 // A line more of the header, while nobody else has the table. Most are the first of a known name.
 void addAnyLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length );

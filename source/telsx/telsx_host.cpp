@@ -19,21 +19,22 @@ template <bool HAS_DOTS>
 static int64_t skipLabels( Text text )
 {
     int64_t at = 0, label = 0, end = 0; // where the label begins, and where what was found ends
-    while ( at < text.length )
+    for ( ;; )
     {
-        RT_CHAR ch = text.chs[at];
-        if ( isIn( ch, classAlphanum ) )
+        while ( at < text.length && isIn( text.chs[at], classAlphanum ) )
             end = ++at;
-        else if ( HAS_DOTS && ch == '.' && at > label && end == at )
+        if ( at == text.length )
+            return end;
+        RT_CHAR ch = text.chs[at];
+        if ( HAS_DOTS && ch == '.' && at > label && end == at )
             label = end = ++at;
         else if ( ch == '-' && at > label )
             ++at;
-        else if ( isEscape( text.behind( at ) ) )
+        else if ( ch == '%' && isEscape( text.behind( at ) ) )
             end = at += 3;
         else
-            break;
+            return end;
     }
-    return end;
 }
 
 int64_t telsx___SkipDomainLabel( const RT_CHAR *chs, int64_t length )

@@ -11,7 +11,7 @@ namespace telsx
 //
 //     ItemReader items( lines, telsx___SkipMethod, telsx___SkipComma );
 //     while ( items.next() )
-//         use( items.item() );
+//         use( items.takeItem() );
 template <class SKIP>
 class ItemReader
 {
@@ -43,12 +43,12 @@ public:
     }
     bool failed() const { return bad; }
 
-    // The item's text; it shares the line's where that saves a copy.
-    Ref<RT_STRING> item() const
+    // Takes the item's text, once; it shares the line's where that saves a copy.
+    Ref<RT_STRING> takeItem()
     {
         Text all = textOf( line );
         return text.length == all.length
-                   ? share( line )
+                   ? lines.takeText( line )
                    : adopt( rtStringCreateFromInner( line, text.chs - all.chs, text.length ) );
     }
 

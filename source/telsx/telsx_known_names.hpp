@@ -168,25 +168,25 @@ constexpr std::size_t knownNameSlot( const CHAR *name, std::size_t size )
     return knownNameSlot( firstEightOf( name, size ), size );
 }
 
-// In each slot the number of the known name that belongs there, or -1. A compact form has the number of its
-// long name, and its own place in knownNames.
+// In each slot the size of the known name that belongs there, or 0, its place in knownNames, and its number. A compact
+// form has the number of its long name.
 struct KnownNameSlot
 {
-    int16_t spelling = -1, number = -1;
+    uint8_t size = 0, spelling = 0, number = 0;
 };
 consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
 {
     std::array<KnownNameSlot, knownNameSlots> table = {};
-    for ( int16_t i = 0; std::size_t( i ) < std::size( knownNames ); ++i )
+    for ( uint8_t i = 0; i < std::size( knownNames ); ++i )
     {
-        int16_t number = 0;
+        uint8_t number = 0;
         while ( knownNames[number].bytes != knownNames[i].bytes )
             ++number;
-        KnownNameSlot &slot =
-            table[knownNameSlot( knownNames[i].spelling.data(), knownNames[i].spelling.size() )];
-        if ( slot.number != -1 )
+        std::string_view spelling = knownNames[i].spelling;
+        KnownNameSlot &slot = table[knownNameSlot( spelling.data(), spelling.size() )];
+        if ( slot.size )
             std::abort(); // two names share a slot
-        slot = { i, number };
+        slot = { static_cast<uint8_t>( spelling.size() ), i, number };
     }
     return table;
 }
@@ -200,11 +200,9 @@ constexpr int64_t knownNameNumber( const CHAR *name, std::size_t size )
     if ( size == 0 )
         return -1;
     KnownNameSlot slot = knownNameTable[knownNameSlot( name, size )];
-    if ( slot.number == -1 )
+    if ( slot.size != size )
         return -1;
     std::string_view spelling = knownNames[slot.spelling].spelling;
-    if ( spelling.size() != size )
-        return -1;
     for ( std::size_t i = 0; i < size; ++i )
         if ( ( name[i] | 0x20 ) != static_cast<CHAR>( spelling[i] )
              || ( name[i] != static_cast<CHAR>( spelling[i] ) && !( name[i] >= 'A' && name[i] <= 'Z' ) ) )
@@ -245,9 +243,9 @@ inline int64_t scanKnownNameNumber( const char *name, std::size_t size )
     if ( size == 0 )
         return -1;
     KnownNameSlot slot = knownNameTable[knownNameSlot( scanFirstEight( name, size ), size )];
-    if ( slot.number == -1 || knownNames[slot.spelling].spelling.size() != size )
+    if ( slot.size != size )
         return -1;
-    const SpellingBlocks &spelling = spellingBlocks[static_cast<std::size_t>( slot.spelling )];
+    const SpellingBlocks &spelling = spellingBlocks[slot.spelling];
     auto differ = [&]( std::size_t at )
     {
         auto small = rt::ByteBlock::at( name + at ) | rt::ByteBlock::at( spelling.small + at );

@@ -103,7 +103,7 @@ static bool decodeHeader( HeaderTable *table, Bytes text )
         return false;
     Bytes nameBytes = trimmedRight( Bytes( text.data(), colon ) ),
           line = trimmedLeft( Bytes( colon + 1, end ) );
-    int64_t begin = line.data() - table->begin;
+    int64_t begin = line.data() - table->bytes();
     int64_t number = scanKnownNameNumber( nameBytes.data(), nameBytes.size() );
     if ( number != -1 )
     {
@@ -135,7 +135,7 @@ static inline Bytes takeLine( const char *&at, const char *end )
 
 // All header lines, which stand there in the table's bytes. A line that begins with white space goes on with the
 // header before it, behind one blank; it is moved there.
-static bool decodeHeaders( HeaderTable *table, unsigned char *bytes, const char *at, const char *end )
+static bool decodeHeaders( HeaderTable *table, const char *at, const char *end )
 {
     while ( at != end )
     {
@@ -147,7 +147,7 @@ static bool decodeHeaders( HeaderTable *table, unsigned char *bytes, const char 
                 header = fold;
             else if ( !fold.empty() )
             {
-                unsigned char *into = bytes + ( header.data() + header.size() - table->begin );
+                char *into = table->bytes() + ( header.data() + header.size() - table->bytes() );
                 *into = ' ';
                 std::memmove( into + 1, fold.data(), fold.size() );
                 header = { header.data(), header.size() + 1 + fold.size() };
@@ -177,24 +177,17 @@ Ref<TELSX_MESSAGE_FRAGMENT> telsx::tryDecodeHead( Bytes head, int64_t *contentLe
     if ( !isAscii
          && !rt___Utf8Ok( reinterpret_cast<const unsigned char *>( head.data() ), lengthOf( head ) ) )
         return {};
-    // A copy with room for those that look.
-    unsigned char *bytes;
-    Ref<RT_BUFFER> copy = adopt( rt___BufferCreateWithLength( lengthOf( head ), &bytes ) );
-    if ( !head.empty() )
-        std::memcpy( bytes, head.data(), head.size() );
-    std::memset( bytes + head.size(), 0, rt::scanSlack );
-    const char *begin = reinterpret_cast<const char *>( bytes ), *end = begin + head.size(), *headers = begin;
+    Ref<HeaderTable *> table = createHeaderTable( head, isAscii );
+    const char *begin = table->bytes(), *end = begin + head.size(), *headers = begin;
     auto frag = adopt( rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() ) );
     WideText firstLine;
     Text line = firstLine.read( takeLine( headers, end ), isAscii );
     StartLine startLine = decodeStartLine( frag.get(), line );
-    if ( startLine == StartLine::bad )
+    if ( startLine == StartLine::bad
+         || !decodeHeaders( table.get(), startLine == StartLine::none ? begin : headers, end )
+         || ( contentLength && !decodeContentLength( table.get(), contentLength ) ) )
         return {};
-    frag->headers = createHeaderTable( std::move( copy ), isAscii );
-    if ( !decodeHeaders( frag->headers.get(), bytes, startLine == StartLine::none ? begin : headers, end ) )
-        return {};
-    if ( contentLength && !decodeContentLength( frag->headers.get(), contentLength ) )
-        return {};
+    frag->headers = std::move( table );
     return frag;
 }
 

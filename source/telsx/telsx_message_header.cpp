@@ -92,7 +92,7 @@ TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name )
 TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name, Ref<RT_STRING> line )
 {
     Ref<RT_VECTOR> lines = adopt( rtVectorCreateWithCapacity( 1 ) );
-    rt___VectorAppendTaken( lines.address(), rt::asObj( line.take() ) );
+    rt___VectorInsertTaken( lines.address(), -1, rt::asObj( line.take() ) );
     return createHeader( name, std::move( lines ) );
 }
 

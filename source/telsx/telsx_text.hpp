@@ -73,6 +73,15 @@ void append( Ref<RT_STRING> &text, const PIECE &...pieces )
     ( ( into = copyTo( into, pieceOf( pieces ) ) ), ... );
 }
 
+// An empty text that grows to this length without moving.
+inline Ref<RT_STRING> textWithRoom( int64_t length )
+{
+    Ref<RT_STRING> text;
+    rt::newString( length, text.address() );
+    text.get()->length = 0;
+    return text;
+}
+
 // The string of such pieces.
 template <class... PIECE>
 Ref<RT_STRING> joined( const PIECE &...pieces )

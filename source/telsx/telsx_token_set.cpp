@@ -16,7 +16,7 @@ bool decodeTokens( Ref<RT_DICT> &tokens, HeaderLines &lines, Skipper skipToken, 
         return false;
     ItemReader items( lines, skipToken, separator.skip );
     while ( items.next() )
-        setToken( tokens, adopt( normalize( items.item().get() ) ) );
+        setToken( tokens, adopt( normalize( items.takeItem().get() ) ) );
     return !items.failed();
 }
 

@@ -1,7 +1,6 @@
 // Transport (RFC 3261, 25.1).
-#include "telsx/telsx_transport.h"
+#include "telsx/telsx_transport.hpp"
 
-#include "telsx/telsx_text.hpp"
 #include "telsx/telsx_token.h"
 
 using namespace telsx;
@@ -11,7 +10,7 @@ RT_BOOL telsxTransportOk( RT_STRING transport ) { return covers( telsx___SkipTra
 RT_STRING telsxTransportNormalize( RT_STRING transport )
 {
     TELSX_ASSERT( telsxTransportOk( transport ) );
-    return lowerCase( transport );
+    return transportInLowerCase( textOf( transport ) ).take();
 }
 
 int64_t telsx___SkipTransport( const RT_CHAR *chs, int64_t length )

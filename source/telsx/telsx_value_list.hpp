@@ -30,9 +30,11 @@ bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, W
 {
     if ( lines.empty() )
         return withoutLines == WithoutLines::isEmpty;
+    static constexpr int64_t usual = 2;
+    values = adopt( rtVectorCreateWithCapacity( usual ) );
     ItemReader items( lines, skipValue, telsx___SkipComma );
     while ( items.next() )
-        rt___VectorAppendTaken( values.address(), rt::asObj( items.item().take() ) );
+        rt___VectorInsertTaken( values.address(), -1, rt::asObj( items.takeItem().take() ) );
     return !items.failed();
 }
 
@@ -52,6 +54,13 @@ RT_VECTOR *valuesWithoutStar( T *hdr )
     if constexpr ( requires { hdr->starForm; } )
         hdr->starForm = 0;
     return valuesToChange( hdr );
+}
+
+// Puts a value in at the index, or with -1 behind all others.
+template <class T>
+void insertValue( T *hdr, int64_t index, Ref<RT_STRING> text )
+{
+    rt___VectorInsertTaken( valuesWithoutStar( hdr ), index, rt::asObj( text.take() ) );
 }
 
 // The value at the index, read by its own decoder.
@@ -99,13 +108,13 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorPrependString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), text.get() );                   \
+        telsx::insertValue( TELSX_OWN( hdr ), 0, std::move( text ) );                                        \
     }                                                                                                        \
     void telsx##NAME##Append##WORD( TELSX_HANDLE( NAME ) * hdr, TELSX_HANDLE( VALUE ) value )                \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorAppendString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), text.get() );                    \
+        telsx::insertValue( TELSX_OWN( hdr ), -1, std::move( text ) );                                       \
     }                                                                                                        \
     void telsx##NAME##Insert##WORD( TELSX_HANDLE( NAME ) * hdr, int64_t index, TELSX_HANDLE( VALUE ) value ) \
     {                                                                                                        \

@@ -4,7 +4,7 @@
 #include "telsx/telsx_branch.h"
 #include "telsx/telsx_host.hpp"
 #include "telsx/telsx_port.h"
-#include "telsx/telsx_transport.h"
+#include "telsx/telsx_transport.hpp"
 #include "telsx/telsx_ttl.h"
 #include "telsx/telsx_value.hpp"
 #include "telsx/telsx_via.hpp"
@@ -134,9 +134,10 @@ void telsxViaDelRport( TELSX_VIA *via )
 RT_STRING telsx___ViaEncode( TELSX_VIA via )
 {
     TELSX_ASSERT( via );
-    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    Ref<RT_STRING> text = textWithRoom( 96 );
     append( text, adopt( telsx___VersionEncode( via->version.get() ) ), '/',
-            adopt( upperCase( via->transport.get() ) ), ' ', adopt( telsx___HostEncode( via->host.get() ) ) );
+            transportInUpperCase( via->transport.get() ), ' ',
+            adopt( telsx___HostEncode( via->host.get() ) ) );
     if ( rt::present( via->port ) )
         append( text, ':', adopt( telsx___PortEncode( via->port ) ) );
     if ( rt::present( via->ttl ) )
@@ -166,12 +167,6 @@ static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
     return v6 ? v6 : telsx___SkipIpV4Address( chs, length );
 }
 
-static Ref<RT_STRING> decodeTransport( Text text )
-{
-    RT_STRING usual = findWordInAnyCase<"udp", "tcp", "tls">( text );
-    return adopt( usual ? usual : lowerCase( text.copy().get() ) );
-}
-
 Ref<TELSX_VIA> telsx::takeVia( Text &rest )
 {
     auto version = adopt( rest.take( telsx___SkipVersion ).as( telsx___VersionTryDecode ) );
@@ -184,7 +179,7 @@ Ref<TELSX_VIA> telsx::takeVia( Text &rest )
     Ref<RT_STRING> host = hostText ? hostOf( hostText ) : Ref<RT_STRING>();
     if ( !host )
         return {};
-    auto via = adopt( create( std::move( version ), decodeTransport( transport ), std::move( host ) ) );
+    auto via = adopt( create( std::move( version ), transportInLowerCase( transport ), std::move( host ) ) );
     if ( rest.take( telsx___SkipColon ) )
     {
         via->port = rest.take( telsx___SkipPort ).as( telsx___PortTryDecode );

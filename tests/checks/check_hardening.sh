@@ -16,8 +16,8 @@ declare -A variables=(
 first
 guard variable for (anonymous namespace)::hashOf(rt::Text)::seed
 guard variable for (anonymous namespace)::makeLists()::atThreadEnd
-hasVectors()::answer
 mutex
+rt___RunOf::vectors
 rt___blockLists"
     [net]="" [rsc]=""
     [telsx]="\
