@@ -271,12 +271,6 @@ int64_t rtDictLength( RT_DICT dict )
     return dict->length;
 }
 
-RT_OBJ rt___DictValueBorrowed( RT_DICT dict, RT_STRING key )
-{
-    Entry *entry = find( dict, key );
-    return entry ? entry->value : nullptr;
-}
-
 int64_t rt___DictIndex( RT_DICT dict, RT_STRING key )
 {
     Entry *entry = find( dict, key );
@@ -285,7 +279,8 @@ int64_t rt___DictIndex( RT_DICT dict, RT_STRING key )
 
 RT_OBJ rtDictStringKey( RT_DICT dict, RT_STRING key )
 {
-    return rt::share( rt___DictValueBorrowed( dict, key ) ).take();
+    Entry *entry = find( dict, key );
+    return entry ? rt::share( entry->value ).take() : nullptr;
 }
 
 RT_BOOL rtDictHasStringKey( RT_DICT dict, RT_STRING key ) { return find( dict, key ) != nullptr; }

@@ -45,9 +45,8 @@ RT_API RT_OBJ rtDictValueAt( RT_DICT dict, int64_t index );
 RT_API RT_VECTOR rtDictKeysVector( RT_DICT dict );
 RT_API RT_VECTOR rtDictValuesVector( RT_DICT dict );
 
-/* For the libraries above: the value under the key, borrowed, or null. */
-RT_API RT_OBJ rt___DictValueBorrowed( RT_DICT dict, RT_STRING key );
-/* Where the key stands in the enumeration, -1 if it isn't there; of a dictionary that no key was taken out of. */
+/* For the libraries above: where the key stands in the enumeration, -1 if it isn't there; of a dictionary that no key
+ * was taken out of. */
 RT_API int64_t rt___DictIndex( RT_DICT dict, RT_STRING key );
 
 RT_END

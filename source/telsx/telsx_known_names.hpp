@@ -177,7 +177,8 @@ struct KnownNameSlot
 consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
 {
     std::array<KnownNameSlot, knownNameSlots> table = {};
-    for ( uint8_t i = 0; i < std::size( knownNames ); ++i )
+    static_assert( std::size( knownNames ) < UINT8_MAX );
+    for ( uint8_t i = 0; i < uint8_t( std::size( knownNames ) ); ++i )
     {
         uint8_t number = 0;
         while ( knownNames[number].bytes != knownNames[i].bytes )
