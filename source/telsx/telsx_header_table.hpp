@@ -113,7 +113,7 @@ struct HeaderTable
     int64_t known[knownCount];       // and which it is
     Ref<RT_DICT> others;             // of other names the n-th has its entry in otherEntries; never null
     rt::Array<int64_t> otherEntries; // -1 once it was taken out
-    HeaderEntry firstEntries[14];    // where entries begins
+    HeaderEntry firstEntries[18];    // where entries begins
 
     // Where the lines stand, folds undone, and rt::scanSlack more: behind this structure.
     char *bytes() { return reinterpret_cast<char *>( this + 1 ); }
