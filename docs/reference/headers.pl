@@ -107,14 +107,14 @@ sub read_header
             next;
         }
         $line .= "\n" . shift @lines while $line =~ /\\$/;
-        next if $line =~ /^#(?!define)|^#define (\w+_H|RT_(API|BEGIN|END|NORETURN))\b|^RT_(BEGIN|END)$/;
+        next if $line =~ /^#(?!define)|^#define (\w+_H|RT_(API|BEGIN|END|NORETURN|THREAD_LOCAL))\b|^RT_(BEGIN|END)$/;
         $comment = '' if $line eq '' and $used;
         next if $line eq '';
         $used = 1;
         if ( $line =~ /^([A-Z_]+)\( .* \)$/ ) { push @items, expanded( $line, $comment ); next; }
         my $end = $line =~ /^#/ ? qr/$/ : $line =~ /^(typedef )?struct \w+$/ ? qr/^\}.*;$/m : qr/;$/;
         $line .= "\n" . shift @lines until $line =~ $end;
-        $line =~ s/\b(RT_API|RT_NORETURN) //g;
+        $line =~ s/\b(RT_API|RT_NORETURN|RT_THREAD_LOCAL) //g;
         learn( $line, $comment ) if $line =~ /^#define.*_(TYPE|OBJECT|HEADER|FUNC)\(/;
         push @items, [ $line =~ /___/ ? 'internal' : '', $line, $comment ];
     }

@@ -5,7 +5,7 @@
 
 #include "rt/rt_memory.hpp"
 
-__thread RT_BLOCK_LISTS_ *rt___blockLists = nullptr;
+RT_THREAD_LOCAL RT_BLOCK_LISTS_ *rt___blockLists = nullptr;
 
 namespace
 {

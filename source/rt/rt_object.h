@@ -10,6 +10,7 @@
 #include <stdint.h>
 
 #define RT_API __attribute__( ( visibility( "default" ) ) )
+#define RT_THREAD_LOCAL __thread __attribute__( ( tls_model( "initial-exec" ) ) )
 
 #ifdef __cplusplus
 #define RT_BEGIN \
@@ -111,8 +112,7 @@ RT_API void rt___StringFree( RT_STRING string );
 
 /* For the libraries above: the free blocks of the thread; null until it frees its first one, and again once it has
  * ended. */
-extern RT_API __thread struct RT_BLOCK_LISTS_ *rt___blockLists
-    __attribute__( ( tls_model( "initial-exec" ) ) );
+extern RT_API RT_THREAD_LOCAL struct RT_BLOCK_LISTS_ *rt___blockLists;
 
 /* For tests: how many objects exist that were made at run time, in all threads. -1 where the library does not
  * count, which is so in release builds. */
