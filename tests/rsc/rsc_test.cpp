@@ -36,6 +36,11 @@ TEST( RscIri, TheLongestIriIsMeasured )
                  "x:|\uFDD0 x:|\uFFFE x:|\U0001FFFE x:|\U000E0001" );
     // Private characters stand in the query only.
     expectStops( rsc___SkipIri, "x:|\uE000 x:?\uE000\U00100000?\uF8FF#|\uE000 x:#?|\uE000 x:?|\U0010FFFE" );
+    // Or up to a character.
+    expectStops( []( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIriUntil( chs, length, ',' ); },
+                 "sip:a;b|,c sip:a-|,-,b x:ä|, x:|, |,x:" );
+    expectStops( []( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIriUntil( chs, length, ';' ); },
+                 "sip:a,b|;c sip:a-,|;-,b" );
     EXPECT_TRUE( iriOk( str( "sip:ä@b" ) ) );
     EXPECT_FALSE( iriOk( str( "sip:a b" ) ) );
     EXPECT_FALSE( iriOk( str( "" ) ) );

@@ -161,3 +161,18 @@ TEST( Decoding, TakesEveryFrontOfAMessage )
     EXPECT_EQ( "INVITE sip:ä@b SIP/2.0 | Via: <a b> | To: <ä> | Content-Length: <3> | body <abc>",
                decoded( wire ) );
 }
+
+// Lines are read in place up to some length, and as a string beyond.
+TEST( Decoding, ReadsTypedHeadersOfAnyLength )
+{
+    for ( int64_t length : { 1, 15, 16, 17, 230, 240, 241, 242, 256, 257, 5000 } )
+        for ( const char *last : { "z", "ü" } )
+        {
+            std::string text = std::string( static_cast<std::size_t>( length - 1 ), 'x' ) + last;
+            auto msg = message( "OPTIONS sip:a SIP/2.0\r\nFrom: \"" + text + "\" <sip:a>;tag=t\r\n\r\n" );
+            auto from = adopt( telsxHeaderFromTryDecodeFromMessage( msg.get() ) );
+            ASSERT_TRUE( from ) << text;
+            EXPECT_EQ( text, utf8( telsxHeaderFromDisplayName( from.get() ) ) );
+            EXPECT_EQ( "t", utf8( telsxHeaderFromTag( from.get() ) ) );
+        }
+}
