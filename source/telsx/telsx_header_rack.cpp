@@ -3,7 +3,7 @@
 
 #include "telsx/telsx_cseq.h"
 #include "telsx/telsx_header.hpp"
-#include "telsx/telsx_method.h"
+#include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_response_num.h"
 
@@ -50,7 +50,8 @@ static TELSX_HEADER_RACK decode( HeaderLines &lines )
     if ( responseNum == -1 || !rest.take( telsx___SkipLws ) )
         return nullptr;
     int64_t cseq = tryDecodeNumber( rest.take( telsx___SkipDigits ), telsxCseqOk );
-    if ( cseq == -1 || !rest.take( telsx___SkipLws ) || !covers( telsx___SkipMethod, rest ) )
+    if ( cseq == -1 || !rest.take( telsx___SkipLws ) )
         return nullptr;
-    return telsxHeaderRackCreate( responseNum, cseq, rest.copy().get() );
+    Ref<RT_STRING> method = tryDecodeMethod( rest );
+    return method ? telsxHeaderRackCreate( responseNum, cseq, method.get() ) : nullptr;
 }

@@ -1,6 +1,6 @@
 // The elements of the grammar: normal forms, forms in objects and on the wire, ranges. What the skippers measure stands
-// in skip_test.cpp; that a predicate is true exactly where the skipper takes the whole text is shown for all elements in
-// elements_property_test.cpp.
+// in skip_test.cpp; that a predicate is true exactly where the skipper takes the whole text is shown for all elements by
+// fuzz/elements.cpp, whose inputs every build replays.
 #include <limits>
 
 #include "../../fuzz/elements.hpp"
