@@ -191,7 +191,8 @@ void delHeader( Ref<HeaderTable *> &table, HeaderName name )
     entry->name = nullptr;
     --table->length;
     auto oldHeader = adopt( std::exchange( entry->header, nullptr ) );
-    if ( table->entries.length > 2 * table->length + 8 )
+    // As many gaps as pay for the copy, of the bytes too.
+    if ( table->entries.length > 2 * table->length + 8 + table->size / 64 )
         table = copyOf( table.get() );
 }
 
