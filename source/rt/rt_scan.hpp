@@ -22,7 +22,6 @@ struct CharSet
     uint8_t rows[16] = {};
 
     constexpr void add( unsigned char ch ) { rows[ch % 16] |= static_cast<uint8_t>( 1 << ch / 16 ); }
-    constexpr void remove( unsigned char ch ) { rows[ch % 16] &= static_cast<uint8_t>( ~( 1 << ch / 16 ) ); }
     constexpr bool has( RT_CHAR ch ) const { return ch < 0x80 && rows[ch % 16] >> ch / 16 & 1; }
 
     // How many code points at the start are in the set.

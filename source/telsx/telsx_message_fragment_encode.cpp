@@ -1,6 +1,5 @@
 // From a fragment to bytes (RFC 3261, 7), straight into one buffer.
 #include <array>
-#include <charconv>
 #include <cstring>
 
 #include "rsc/rsc.h"
@@ -113,15 +112,12 @@ RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
     StartLine startLine;
     if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
         startLine = startLineOf( frag );
-    char digits[24];
-    int64_t length = frag->body ? rtBufferLength( frag->body.get() ) : 0;
-    Bytes bodyLength( digits,
-                      std::size_t( std::to_chars( digits, std::end( digits ), length ).ptr - digits ) );
+    Decimal bodyLength( frag->body ? rtBufferLength( frag->body.get() ) : 0 );
 
     Counter counter;
-    write( counter, frag, startLine, bodyLength );
+    write( counter, frag, startLine, bodyLength.chars() );
     Writer writer;
     RT_BUFFER encoded = rt___BufferCreateWithLength( static_cast<int64_t>( counter.size ), &writer.at );
-    write( writer, frag, startLine, bodyLength );
+    write( writer, frag, startLine, bodyLength.chars() );
     return encoded;
 }

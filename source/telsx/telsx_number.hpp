@@ -1,18 +1,12 @@
 // Numbers in decimal digits.
 #pragma once
 
-#include <charconv>
-
 #include "telsx/telsx_text.hpp"
 
 namespace telsx
 {
 
-inline RT_STRING encodeNumber( int64_t number )
-{
-    char digits[24];
-    return rtStringCreateFromCstr( digits, std::to_chars( digits, std::end( digits ), number ).ptr - digits );
-}
+inline RT_STRING encodeNumber( int64_t number ) { return joined( Decimal( number ) ).take(); }
 
 // The value of the whole text if it is a number, and Ok if that is asked, else -1.
 template <class CHAR>

@@ -2,8 +2,8 @@
 #include "telsx/telsx_warn_code.h"
 
 #include "telsx/telsx_codes.hpp"
+#include "telsx/telsx_number.hpp"
 #include "telsx/telsx_skip.h"
-#include "telsx/telsx_text.hpp"
 
 using namespace telsx;
 
@@ -27,7 +27,7 @@ RT_STRING telsxWarnCodeToString( int64_t warnCode )
 RT_STRING telsx___WarnCodeEncode( int64_t warnCode )
 {
     TELSX_ASSERT( telsxWarnCodeOk( warnCode ) );
-    return joined( Decimal( warnCode ) ).take();
+    return encodeNumber( warnCode );
 }
 
 int64_t telsx___WarnCodeDecode( const RT_CHAR *chs, int64_t length )
