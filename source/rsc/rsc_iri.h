@@ -26,8 +26,8 @@ RT_API RT_STRING rscTryConvertToUri( RT_STRING iri );
 RT_API RT_STRING rscTryConvertFromUri( RT_STRING uri );
 
 /* How many code points at the start of the text form the element, 0 for none; each takes as many as it can. A
- * port is one digit or more. SkipIriUntil takes the IRI up to a character and looks at nothing behind it. A
- * negative length aborts, and so does null with a length. */
+ * port is one digit or more. SkipIriUntil takes the IRI up to a character, such as a semicolon, that no scheme and
+ * no escape holds, and looks at nothing behind it. A negative length aborts, and so does null with a length. */
 RT_API int64_t rsc___SkipIri( const RT_CHAR *chs, int64_t length );
 RT_API int64_t rsc___SkipIriUntil( const RT_CHAR *chs, int64_t length, RT_CHAR end );
 RT_API int64_t rsc___SkipIpV4Address( const RT_CHAR *chs, int64_t length );

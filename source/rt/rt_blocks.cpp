@@ -20,21 +20,25 @@ struct AtThreadEnd
     ~AtThreadEnd()
     {
         hasEnded = true;
-        for ( rt::BlockList &list : std::exchange( rt___blockLists, nullptr )->of )
+        RT_BLOCK_LISTS_ *lists = std::exchange( rt___blockLists, nullptr );
+        for ( rt::BlockList &list : lists->of )
             while ( list.first )
                 std::free( std::exchange( list.first, *static_cast<void **>( list.first ) ) );
+        std::free( lists );
     }
 };
 
-// False for a thread that has ended.
+// False for a thread that has ended, and without memory. Only the pointer is the thread's own: a program that loads
+// the library while it runs has little room for such variables.
 bool makeLists()
 {
-    if ( hasEnded )
+    auto lists =
+        hasEnded ? nullptr : static_cast<RT_BLOCK_LISTS_ *>( std::calloc( 1, sizeof( RT_BLOCK_LISTS_ ) ) );
+    if ( !lists )
         return false;
     static thread_local AtThreadEnd atThreadEnd;
-    static thread_local RT_BLOCK_LISTS_ ofThread = {};
     atThreadEnd.isSet = true;
-    rt___blockLists = &ofThread;
+    rt___blockLists = lists;
     return true;
 }
 

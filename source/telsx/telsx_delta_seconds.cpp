@@ -16,6 +16,7 @@ RT_STRING telsx___DeltaSecondsEncode( int64_t deltaSeconds )
 
 int64_t telsx___DeltaSecondsTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return tryDecodeNumber( { chs, length }, telsxDeltaSecondsOk );
 }
 

@@ -19,6 +19,7 @@ RT_STRING telsx___DiversionCounterEncode( int64_t diversionCounter )
 
 int64_t telsx___DiversionCounterTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return tryDecodeNumber( { chs, length }, telsxDiversionCounterOk );
 }
 

@@ -19,6 +19,7 @@ RT_STRING telsx___DiversionLimitEncode( int64_t diversionLimit )
 
 int64_t telsx___DiversionLimitTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return tryDecodeNumber( { chs, length }, telsxDiversionLimitOk );
 }
 

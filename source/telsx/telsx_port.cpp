@@ -16,6 +16,7 @@ RT_STRING telsx___PortEncode( int64_t port )
 
 int64_t telsx___PortTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return tryDecodeNumber( { chs, length }, telsxPortOk );
 }
 

@@ -428,6 +428,7 @@ int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
     if ( !beginsInAnyCase<"received">( rest ) || !rest.take( 8 ) || !rest.take( telsx___SkipEqual ) )
         return 0;

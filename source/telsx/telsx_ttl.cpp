@@ -16,6 +16,7 @@ RT_STRING telsx___TtlEncode( int64_t ttl )
 
 int64_t telsx___TtlTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return tryDecodeNumber( { chs, length }, telsxTtlOk );
 }
 

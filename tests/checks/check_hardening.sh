@@ -6,13 +6,12 @@ set -euo pipefail
 
 # All that a library may write to and that outlives a call.
 declare -A variables=(
-    # Free blocks of each thread, the modules that run and their lock, the seed of the dictionaries, and whether the
+    # The free blocks of each thread, the modules that run and their lock, the seed of the dictionaries, and whether the
     # processor has vectors.
     [rt]="\
 (anonymous namespace)::hasEnded
 (anonymous namespace)::hashOf(rt::Text)::seed
 (anonymous namespace)::makeLists()::atThreadEnd
-(anonymous namespace)::makeLists()::ofThread
 first
 guard variable for (anonymous namespace)::hashOf(rt::Text)::seed
 guard variable for (anonymous namespace)::makeLists()::atThreadEnd
