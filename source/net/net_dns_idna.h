@@ -9,8 +9,8 @@ RT_BEGIN
 /* Whether the text is a host that the two functions below take: an ASCII host, which is labels of letters,
  * digits, inner hyphens and "%HH" escapes with single dots between them and possibly one at the end, or an
  * IPv6 address in square brackets; or a Unicode domain name whose other labels UTS 46 can convert into
- * letters, digits and inner hyphens. A Unicode name has no more than 253 characters in either form, the
- * ending dot not counted (RFC 1035, 2.3.4); an ASCII host may have any length. Null aborts. */
+ * letters, digits and inner hyphens. A Unicode name has no more than 253 characters in either form, an
+ * ending "." not counted (RFC 1035, 2.3.4); an ASCII host may have any length. Null aborts. */
 RT_API RT_BOOL netDnsIdnaDomainNameOk( RT_STRING name );
 
 /* The name in ASCII and in Unicode; a new reference. ASCII hosts come back as they are from ToAscii.

@@ -230,7 +230,10 @@ static void appendDecoded( Ref<RT_STRING> *iri, Text text, Place *place )
     {
         RT_CHAR ch = takeDecoded( &text, *place );
         place->pass( ch );
-        rtStringAppendChar( iri->address(), ch );
+        if ( isBidiControl( ch ) )
+            appendEncoded( iri, { &ch, 1 } );
+        else
+            rtStringAppendChar( iri->address(), ch );
     }
 }
 

@@ -184,9 +184,13 @@ void rtBufferAppendBytes( RT_BUFFER *buffer, const void *bytes, int64_t length )
     RT_ASSERT( *buffer );
     RT_ASSERT( length >= 0 );
     RT_ASSERT( bytes || length == 0 );
-    if ( length )
-        rt::copyItems( rt___BufferExtend( buffer, length ), static_cast<const unsigned char *>( bytes ),
-                       length );
+    if ( length == 0 )
+        return;
+    // A part of the buffer itself must outlive the buffer's move.
+    const auto *from = static_cast<const unsigned char *>( bytes ), *own = bytesOf( *buffer );
+    bool isOwnPart = from >= own && from < own + ( *buffer )->length;
+    rt::Ref<RT_BUFFER> source = isOwnPart ? rt::share( *buffer ) : rt::Ref<RT_BUFFER>();
+    rt::copyItems( rt___BufferExtend( buffer, length ), from, length );
 }
 
 void rtBufferAppend( RT_BUFFER *buffer, RT_BUFFER source )

@@ -319,6 +319,9 @@ void rtDictDelStringKey( RT_DICT *handle, RT_STRING key )
     --dict->length;
     if ( static_cast<uint64_t>( entry - dict->entries ) < ( dict->cursor & UINT32_MAX ) )
         dict->cursor -= uint64_t{ 1 } << 32;
+    // As many gaps as pay for closing them, so that what is left costs no more than it would without them.
+    if ( dict->used > dict->length * 2 + leastCapacity )
+        moveEntries( dict, dict, std::max( dict->length * 2, leastCapacity ) );
 }
 
 void rtDictClear( RT_DICT *dict )
@@ -338,8 +341,10 @@ static const Entry &entryAt( RT_DICT dict, int64_t index )
     std::atomic_ref cursor( dict->cursor );
     uint64_t last = cursor.load( std::memory_order_relaxed );
     auto at = static_cast<int64_t>( last >> 32 ), number = static_cast<int64_t>( last & UINT32_MAX );
-    if ( at > index )
+    if ( index < at / 2 )
         at = number = 0;
+    while ( at > index )
+        at -= dict->entries[--number].key != nullptr;
     while ( !dict->entries[number].key || at < index )
         at += dict->entries[number++].key != nullptr;
     cursor.store( static_cast<uint64_t>( at ) << 32 | static_cast<uint64_t>( number ),

@@ -37,7 +37,7 @@ RT_API void rtDictDelStringKey( RT_DICT *dict, RT_STRING key );
 RT_API void rtDictClear( RT_DICT *dict );
 
 /* The entry at the index of the enumeration, from 0 to the length less one, else they abort; new references.
- * Going through all entries by index costs O(length), also after deletions. */
+ * Going through all entries by index, forwards or backwards, costs O(length), also after deletions. */
 RT_API RT_STRING rtDictKeyAt( RT_DICT dict, int64_t index );
 RT_API RT_OBJ rtDictValueAt( RT_DICT dict, int64_t index );
 

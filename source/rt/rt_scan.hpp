@@ -104,7 +104,7 @@ struct ByteBlock
     {
         uint32_t bits = 0;
         for ( int i = 0; i < 16; ++i )
-            bits |= static_cast<uint32_t>( bytes[i] < 0 ) << i;
+            bits |= static_cast<uint32_t>( bytes[i] >> 7 & 1 ) << i;
         return bits;
     }
     void store( void *into ) const { __builtin_memcpy( into, bytes, sizeof bytes ); }

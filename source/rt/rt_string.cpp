@@ -253,6 +253,8 @@ void rtStringAppendCstr( RT_STRING *string, const char *chars, int64_t length )
 
 void rtStringDelimitedAppendCharDelimiter( RT_STRING *string, RT_STRING item, RT_CHAR ch )
 {
+    // The item may be the string itself.
+    Ref<RT_STRING> held = rt::share( item );
     if ( rtStringLength( *string ) )
         rtStringAppendChar( string, ch );
     rtStringAppend( string, item );
@@ -318,6 +320,7 @@ RT_VECTOR rtStringSplitChar( RT_STRING string, RT_CHAR ch, int64_t maxParts )
 RT_VECTOR rtStringSplitChars( RT_STRING string, const RT_CHAR *chs, int64_t length, int64_t maxParts )
 {
     RT_ASSERT( string );
+    length = lengthOf( chs, length );
     RT_ASSERT( length > 0 );
     RT_ASSERT( maxParts > 0 || maxParts == -1 );
     Ref<RT_VECTOR> parts = rt::adopt( rtVectorCreate() );
@@ -478,6 +481,8 @@ void rtStringAppendFormatCstr( RT_STRING *string, const char *format, int64_t le
 {
     va_list args;
     va_start( args, length );
-    appendFormat( string, format, length, args );
+    // The string itself may be among the arguments.
+    auto text = rt::adopt( createFromFormat( format, length, args ) );
     va_end( args );
+    rtStringAppend( string, text.get() );
 }

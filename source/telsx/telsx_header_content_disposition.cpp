@@ -22,16 +22,16 @@ struct TELSX_HEADER_CONTENT_DISPOSITION_
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderContentDisposition, HEADER_CONTENT_DISPOSITION, hdr, "Content-Disposition" )
-TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, DispositionType, dispositionType,
-                           telsxDispositionTypeOk( dispositionType ), telsxDispositionTypeNormalize )
-TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, Handling, handling, telsxHandlingOk( handling ),
+TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, DispositionType, dispositionType, dispositionType,
+                           telsxDispositionTypeNormalize )
+TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, Handling, handling, handling,
                            telsxHandlingNormalize )
 TELSX_DEFINE_OPTION( HeaderContentDisposition, hdr, Handling, handling )
 TELSX_DEFINE_FIELD( HeaderContentDisposition, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_CONTENT_DISPOSITION telsxHeaderContentDispositionCreate( RT_STRING dispositionType )
 {
-    TELSX_ASSERT( telsxDispositionTypeOk( dispositionType ) );
+    TELSX_ASSERT( dispositionType );
     TELSX_HEADER_CONTENT_DISPOSITION hdr =
         rt::create<TELSX_HEADER_CONTENT_DISPOSITION_>( telsxHeaderContentDispositionSort() );
     hdr->dispositionType = adopt( telsxDispositionTypeNormalize( dispositionType ) );

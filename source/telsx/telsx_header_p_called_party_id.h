@@ -3,6 +3,7 @@
  *     P-Called-Party-ID = "P-Called-Party-ID" HCOLON called-pty-id-spec  ; RFC 3455
  *     called-pty-id-spec = name-addr *( SEMI cpid-param )  ; RFC 3455
  *
+ * An address without brackets is read too.
  * Headers sort by the fields in the order below. */
 #ifndef TELSX_TELSX_HEADER_P_CALLED_PARTY_ID_H
 #define TELSX_TELSX_HEADER_P_CALLED_PARTY_ID_H

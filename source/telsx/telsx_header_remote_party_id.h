@@ -3,6 +3,7 @@
  *     Remote-Party-ID = "Remote-Party-ID" HCOLON [display-name] LAQUOT addr-spec RAQUOT  ; RFC 3261
  *                       *( SEMI rpi-token )
  *
+ * An address without brackets and any other parameter are read too.
  * Headers sort by the fields in the order below. */
 #ifndef TELSX_TELSX_HEADER_REMOTE_PARTY_ID_H
 #define TELSX_TELSX_HEADER_REMOTE_PARTY_ID_H

@@ -1,6 +1,8 @@
 /* Server header: the software that sent a response (RFC 3261, 20.35).
  *
- *     Server = "Server" HCOLON server-val *( LWS server-val ) */
+ *     Server = "Server" HCOLON server-val *( LWS server-val )
+ *
+ * A comment can only stand at the end (see telsx_user_agent.h). */
 #ifndef TELSX_TELSX_HEADER_SERVER_H
 #define TELSX_TELSX_HEADER_SERVER_H
 

@@ -1,6 +1,8 @@
 /* User-Agent header: the software that sent a request (RFC 3261, 20.41).
  *
- *     User-Agent = "User-Agent" HCOLON server-val *( LWS server-val ) */
+ *     User-Agent = "User-Agent" HCOLON server-val *( LWS server-val )
+ *
+ * A comment can only stand at the end (see telsx_user_agent.h). */
 #ifndef TELSX_TELSX_HEADER_USER_AGENT_H
 #define TELSX_TELSX_HEADER_USER_AGENT_H
 

@@ -9,8 +9,8 @@ using namespace telsx;
 struct TELSX_HEADER_VIA_
 {
     RT_OBJECT object;
-    Ref<RT_VECTOR> values;     // texts, never null
-    Ref<TELSX_VIA> firstValue; // the top Via, for which most readers ask, decoded; or null
+    Ref<RT_VECTOR> values;           // texts, never null
+    ReadValue<TELSX_VIA> firstValue; // the top Via, for which most readers ask
 
     static auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
@@ -39,7 +39,7 @@ static TELSX_HEADER_VIA decode( HeaderLines &lines )
         Ref<TELSX_VIA> via = std::exchange( isFirst, false ) ? takeVia( rest ) : Ref<TELSX_VIA>();
         if ( !via || ( rest && !telsx___SkipComma( rest.chs, rest.length ) ) )
             return telsx___SkipVia( chs, length );
-        hdr->firstValue = std::move( via );
+        hdr->firstValue.put( std::move( via ) );
         return length - rest.length;
     };
     return decodeValues( hdr->values, lines, skipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;

@@ -2,8 +2,8 @@
  *
  *     Via = ( "Via" / "v" ) HCOLON via-parm *( COMMA via-parm )
  *
- * The values are kept as text, in order, and read one by one when somebody asks (telsx_via.h); each is
- * written on a line of its own. Two headers compare by these texts. A raw header without lines is an empty
+ * The values are kept as text, in order, and read one by one when somebody asks (telsx_via.h), but for the first,
+ * which is read with the list; each is written on a line of its own. Two headers compare by these texts. A raw header without lines is an empty
  * list. */
 #ifndef TELSX_TELSX_HEADER_VIA_H
 #define TELSX_TELSX_HEADER_VIA_H

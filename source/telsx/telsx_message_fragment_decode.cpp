@@ -1,5 +1,5 @@
 // From bytes to a fragment (RFC 3261, 7). The grammar of a head is all ASCII, so lines, names and values are
-// cut as bytes, and only what is kept becomes text.
+// cut as bytes, and the lines of headers stay what they are.
 #include <algorithm>
 
 #include "rsc/rsc.h"

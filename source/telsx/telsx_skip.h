@@ -130,7 +130,7 @@ RT_API int64_t telsx___SkipServer( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipUserAgent( const RT_CHAR *chs, int64_t length );
 
 /* The names of dates (RFC 3261, 20.17), in exactly this case: "Jan" to "Dec" give 3 and 1 to 12 in month,
- * "Mon" to "Sun" give 3 and 0 to 6 in weekday. The second argument may be null, and stays as it is without a
+ * "Mon" to "Sun" give 3 and 0 to 6 in weekday. The last argument may be null, and stays as it is without a
  * match. */
 RT_API int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month );
 RT_API int64_t telsx___SkipWkday( const RT_CHAR *chs, int64_t length, int64_t *weekday );

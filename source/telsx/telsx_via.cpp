@@ -78,8 +78,8 @@ TELSX_VIA telsxViaCreate( TELSX_VERSION version, RT_STRING transport, RT_STRING 
 
 TELSX_VIA telsxViaCreateWithPort( TELSX_VERSION version, RT_STRING transport, RT_STRING host, int64_t port )
 {
-    TELSX_ASSERT( telsxPortOk( port ) );
     TELSX_VIA via = telsxViaCreate( version, transport, host );
+    TELSX_ASSERT( telsxPortOk( port ) );
     via->port = port;
     return via;
 }

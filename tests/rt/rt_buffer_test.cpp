@@ -32,6 +32,12 @@ static void step( Side &side, const Side &other, Random &random )
         [&]
         { rtBufferAppendTrailing( buffer, from, offset ), model += source.substr( source.size() - first ); },
         [&] { rtBufferAppendBytes( buffer, bytes.data(), std::ssize( bytes ) ), model += bytes; },
+        [&]
+        {
+            auto own = static_cast<const char *>( rtBufferBacking( *buffer ) );
+            rtBufferAppendBytes( buffer, own + place, static_cast<int64_t>( kept ) );
+            model += model.substr( place, kept );
+        },
         [&] { rtBufferDelLeading( buffer, at ), model.erase( 0, place ); },
         [&] {
             rtBufferDelOuter( buffer, at, static_cast<int64_t>( kept ) ), model = model.substr( place, kept );

@@ -142,9 +142,10 @@ TEST( RtString, Splits )
     };
     for ( auto &[text, maxParts, pieces] : cases )
         EXPECT_EQ( pieces, texts( adopt( rtStringSplitChar( str( text ).get(), ';', maxParts ) ) ) ) << text;
-    const RT_CHAR crLf[] = { '\r', '\n' };
-    EXPECT_EQ( ( Pieces{ "a\rb", "", "\n" } ),
-               texts( adopt( rtStringSplitChars( str( "a\rb\r\n\r\n\n" ).get(), crLf, 2, -1 ) ) ) );
+    const RT_CHAR crLf[] = { '\r', '\n', 0 };
+    for ( int64_t length : { 2, -1 } )
+        EXPECT_EQ( ( Pieces{ "a\rb", "", "\n" } ),
+                   texts( adopt( rtStringSplitChars( str( "a\rb\r\n\r\n\n" ).get(), crLf, length, -1 ) ) ) );
     EXPECT_ABORT( rtStringSplitChar( str( "a" ).get(), ';', 0 ), "maxParts > 0 || maxParts == -1" );
 }
 
@@ -200,8 +201,11 @@ TEST( RtString, FormatsAndDelimits )
                                    int64_t{ 100 }, int64_t{ 99 } ) );
     EXPECT_EQ( "<€>", format( "<%s>", text.get() ) );
     EXPECT_EQ( "x€7", utf8( rtStringCreateFromFormatCstr( "x%~s%i", -1, text.retained(), int64_t{ 7 } ) ) );
-    rtStringAppendFormatCstr( text.address(), "%s!", -1, text.get() );
-    EXPECT_EQ( "€€!", utf8( text ) );
+    // The string may be among its arguments.
+    rtStringAppendFormatCstr( text.address(), "+%s%s!", -1, text.get(), text.get() );
+    EXPECT_EQ( "€+€€!", utf8( text ) );
+    rtStringDelimitedAppendCharDelimiter( text.address(), text.get(), ',' );
+    EXPECT_EQ( "€+€€!,€+€€!", utf8( text ) );
     Ref<RT_STRING> list = adopt( rtStringCreate() );
     for ( const char *item : { "", "a", "b" } )
         rtStringDelimitedAppendCharDelimiter( list.address(), str( item ).get(), ',' );

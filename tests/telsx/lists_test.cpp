@@ -278,6 +278,7 @@ TEST( ViaList, KeepsItsFirstValueAsItsTextIsDecoded )
             adopt( telsx___ViaTryDecode( rtStringBacking( value.get() ), rtStringLength( value.get() ) ) ),
             first )
             << line;
+        EXPECT_TRUE( !first || rt::asObj( first.get() )->count == 1 ) << "each reading gives its own";
 
         // It leaves with the value, also from a copy, and lists are compared without it.
         auto copy = list;
