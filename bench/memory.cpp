@@ -1,6 +1,8 @@
 // What messages hold in memory: prints a line of a table for each file of a message, with its bytes on the
 // wire, the bytes of all blocks that it holds decoded, and the bytes that a Call-Id and a From of it hold
-// alive once the message is released, beside those of their text.
+// alive once the message is released, beside the number of characters of their text:
+//
+//     memory bench/messages/*.sip
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -20,7 +22,7 @@ static Ref<TELSX_MESSAGE> decode( const std::string &wire )
     return adopt( telsxMessageTryDecode( bytes.get() ) );
 }
 
-// "Held bytes / bytes of text" of a typed header.
+// "Held bytes / characters of text" of a typed header.
 template <class HEADER>
 static std::string kept( const std::string &wire, HEADER ( *tryDecode )( TELSX_MESSAGE ),
                          RT_STRING ( *toString )( HEADER ) )

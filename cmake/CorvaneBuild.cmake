@@ -9,15 +9,15 @@ set( CMAKE_C_STANDARD 11 )
 set( CMAKE_C_STANDARD_REQUIRED ON )
 set( CMAKE_C_EXTENSIONS OFF )
 set( CMAKE_EXPORT_COMPILE_COMMANDS ON )
-set( CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib" )
-set( CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib" )
-set( CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin" )
+set( CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib" )
+set( CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib" )
+set( CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin" )
 
 add_library( corvane-flags INTERFACE )
 target_compile_options( corvane-flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
     $<$<COMPILE_LANGUAGE:CXX>:-Wmissing-declarations> $<$<COMPILE_LANGUAGE:C>:-Wmissing-prototypes>
-    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." "-ffile-prefix-map=${CMAKE_BINARY_DIR}=build" )
+    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=." "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" )
 set( CMAKE_BUILD_RPATH_USE_ORIGIN ON )
 
 # A target with this property is compiled without optimisation in every build.
@@ -81,6 +81,6 @@ function( corvane_library NAME )
     file( RELATIVE_PATH PC_INCLUDE "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_FULL_INCLUDEDIR}/corvane" )
     list( TRANSFORM ARG_NEEDS PREPEND corvane- OUTPUT_VARIABLE PC_NEEDS )
     list( JOIN PC_NEEDS " " PC_NEEDS )
-    configure_file( "${CMAKE_SOURCE_DIR}/cmake/library.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/${ARG_OUTPUT}.pc" @ONLY )
+    configure_file( "${PROJECT_SOURCE_DIR}/cmake/library.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/${ARG_OUTPUT}.pc" @ONLY )
     install( FILES "${CMAKE_CURRENT_BINARY_DIR}/${ARG_OUTPUT}.pc" DESTINATION "${pc}" COMPONENT development )
 endfunction()

@@ -6,7 +6,7 @@ set( TELSX_LEGAL_NOTICE "Copyright the telsx project" CACHE STRING "The legal no
 
 set( epoch "$ENV{SOURCE_DATE_EPOCH}" )
 if( epoch STREQUAL "" )
-    execute_process( COMMAND git log -1 --format=%ct WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}"
+    execute_process( COMMAND git log -1 --format=%ct WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
         OUTPUT_VARIABLE epoch OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET )
 endif()
 if( NOT epoch STREQUAL "" )

@@ -73,5 +73,6 @@ int main( int argc, char **argv )
     showTyped( message );
     std::cout << "encoded\n";
     showBytes( toBytes( Buffer( telsxMessageEncode( message.get() ) ) ) );
-    return 0;
+    std::cout << std::flush;
+    return std::cout ? 0 : 1;
 }

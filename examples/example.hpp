@@ -51,22 +51,40 @@ inline std::string toBytes( const Buffer &buffer )
                         static_cast<std::size_t>( rtBufferLength( buffer.get() ) ) );
 }
 
-// The bytes as they may go to a terminal. Control characters, with which a sender could steer it, become
-// "\x1b" and the like, and so does every byte outside ASCII if the bytes aren't UTF-8.
+// How many bytes at the start of UTF-8 are a character with which a sender could steer a terminal or turn the direction
+// of the text around (RFC 3987, 4.1), 0 for none.
+inline std::size_t steeringBytes( std::string_view utf8 )
+{
+    auto ch = static_cast<unsigned char>( utf8[0] );
+    if ( ch < 0x20 || ch == 0x7F )
+        return 1;
+    if ( ch == 0xC2 && static_cast<unsigned char>( utf8[1] ) < 0xA0 ) // U+0080 to U+009F
+        return 2;
+    for ( std::string_view mark :
+          { "\xD8\x9C", "\xE2\x80\x8E", "\xE2\x80\x8F", "\xE2\x80\xAA", "\xE2\x80\xAB", "\xE2\x80\xAC",
+            "\xE2\x80\xAD", "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA7", "\xE2\x81\xA8", "\xE2\x81\xA9" } )
+        if ( utf8.substr( 0, mark.size() ) == mark )
+            return mark.size();
+    return 0;
+}
+
+// The bytes as they may go to a terminal. Steering characters become "\x1b" and the like, and so does every byte outside
+// ASCII if the bytes aren't UTF-8.
 inline std::string printable( std::string_view bytes )
 {
     bool utf8 = bool( toString( bytes ) );
-    auto at = [bytes]( std::size_t i ) { return static_cast<unsigned char>( bytes[i] ); };
     std::string result;
     for ( std::size_t i = 0; i < bytes.size(); )
     {
-        bool highControl = utf8 && at( i ) == 0xC2 && at( i + 1 ) < 0xA0; // U+0080 to U+009F
-        bool control = at( i ) < 0x20 || at( i ) == 0x7F || ( !utf8 && at( i ) >= 0x80 );
-        for ( std::size_t end = i + ( highControl ? 2 : 1 ); i < end; ++i )
+        auto ch = static_cast<unsigned char>( bytes[i] );
+        std::size_t escaped = utf8 ? steeringBytes( bytes.substr( i ) ) : ch < 0x20 || ch >= 0x7F;
+        if ( !escaped )
+            result += bytes[i++];
+        for ( std::size_t end = i + escaped; i < end; ++i )
         {
             char escape[5];
-            std::snprintf( escape, sizeof escape, "\\x%02x", at( i ) );
-            result += control || highControl ? escape : std::string( 1, bytes[i] );
+            std::snprintf( escape, sizeof escape, "\\x%02x", static_cast<unsigned char>( bytes[i] ) );
+            result += escape;
         }
     }
     return result;

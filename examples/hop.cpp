@@ -34,7 +34,7 @@ const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example SIP/2.0\r\n"
 // This proxy, and where the request came from; without an address that is not known.
 struct Place
 {
-    std::string host; // in lower case, a domain name in Unicode
+    std::string host; // in lower case, a domain name in Unicode, an address in its short form
     IpAddress address;
     int64_t port = -1;
 };
@@ -60,9 +60,19 @@ IpAddress toIpAddress( const String &text )
 {
     if ( !text )
         return {};
-    int64_t bracket = rtStringBeginsWithChar( text.get(), '[' ) && rtStringLength( text.get() ) > 1 ? 1 : 0;
-    return IpAddress( netAddressTryCreateFromChars( rtStringBacking( text.get() ) + bracket,
-                                                    rtStringLength( text.get() ) - 2 * bracket ) );
+    int64_t length = rtStringLength( text.get() );
+    bool brackets = length > 1 && rtStringBeginsWithChar( text.get(), '[' )
+                    && rtStringCharAt( text.get(), length - 1 ) == ']';
+    return IpAddress(
+        netAddressTryCreateFromChars( rtStringBacking( text.get() ) + brackets, length - 2 * brackets ) );
+}
+
+// The host in the one form that hosts are compared in: an IPv6 address has many.
+std::string plainHost( const std::string &host )
+{
+    IpAddress address = toIpAddress( toString( host ) );
+    std::string plain = address ? toUtf8( Owned( netAddressToStringShrink( address.get() ) ) ) : host;
+    return plain.find( ':' ) == std::string::npos ? plain : '[' + plain + ']';
 }
 
 // What routing asks of an address: [sip:|sips:][user@]host[:port][;parameters][?headers] (RFC 3261, 19.1.1).
@@ -83,11 +93,18 @@ struct Target
         std::string parameters = rest.substr( host.size() ) + ';';
         loose =
             parameters.find( ";lr;" ) != std::string::npos || parameters.find( ";lr=" ) != std::string::npos;
-        host = host.substr( 0, host[0] == '[' ? host.find( ']' ) + 1 : host.find( ':' ) );
+        host = plainHost( host.substr( 0, host[0] == '[' ? host.find( ']' ) + 1 : host.find( ':' ) ) );
+        std::size_t named = parameters.find( ";transport=" );
+        if ( named != std::string::npos )
+        {
+            named += std::strlen( ";transport=" );
+            transport = parameters.substr( named, parameters.find( ';', named ) - named );
+        }
     }
 
     bool secure = false, user = false, loose = false;
-    std::string host; // as in Place; empty if this is no SIP address
+    std::string host;      // as in Place; empty if this is no SIP address
+    std::string transport; // in lower case; empty if the address names none
 };
 
 String targetOf( const Message &message ) { return Owned( telsxMessageRequestIri( message.get() ) ); }
@@ -102,8 +119,8 @@ String iriAt( const Routes &routes, int64_t index )
     return Owned( telsxRouteIri( route.get() ) );
 }
 
-// A text that is the same for a request, its CANCEL and the ACK of its failure, and for no other request (RFC
-// 3261, 16.11), as a token (FNV-1a).
+// A text that is the same for a request, its CANCEL and the ACK of its failure, and for no other request, if its client
+// chooses branches as it must (RFC 3261, 8.1.1.7 and 16.11), as a token (FNV-1a).
 std::string fingerprint( const Via &top, const Owned<TELSX_HEADER_FROM> &from,
                          const Owned<TELSX_HEADER_CALL_ID> &callId, const Owned<TELSX_HEADER_CSEQ> &cseq )
 {
@@ -120,11 +137,14 @@ std::string fingerprint( const Via &top, const Owned<TELSX_HEADER_FROM> &from,
 }
 
 // Notes in the top Via where the request came from: the address if the Via tells another one or a name
-// (RFC 3261, 18.2.1), address and port if it asks for them (RFC 3581, 4).
+// (RFC 3261, 18.2.1), address and port if it asks for them (RFC 3581, 4). What the sender has put there himself goes, or
+// he could aim the responses at anybody.
 void noteSource( Via &top, const Place &place )
 {
     IpAddress told = toIpAddress( Owned( telsxViaHost( top.get() ) ) );
     bool asked = telsxViaHasRportEmpty( top.get() );
+    telsxViaDelReceived( top.address() );
+    telsxViaDelRport( top.address() );
     if ( asked || !netAddressEquals( told.get(), place.address.get() ) )
         telsxViaSetReceived( top.address(), place.address.get() );
     if ( asked )
@@ -148,11 +168,11 @@ bool countHop( Message &message )
 }
 
 // Takes this proxy off the Route and brings the target and the Route into the form that whoever is next
-// understands (RFC 3261, 16.4 and 16.6, step 6). True if the next address is a sips one.
-bool followRoute( Message &message, const Place &place )
+// understands (RFC 3261, 16.4 and 16.6, step 6). Returns the address to send to, secure if the target is.
+Target followRoute( Message &message, const Place &place )
 {
     if ( !telsxHeaderRoutePresentInMessage( message.get() ) )
-        return Target( targetOf( message ) ).secure;
+        return Target( targetOf( message ) );
     auto routes = need( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
 
     // A strict router has put this proxy's Record-Route in the place of the target, which stands last.
@@ -166,22 +186,24 @@ bool followRoute( Message &message, const Place &place )
     if ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).host == place.host )
         telsxHeaderRouteDelRouteAt( routes.address(), 0 );
 
+    Target next( lengthOf( routes ) ? iriAt( routes, 0 ) : targetOf( message ) );
+    next.secure = next.secure || Target( targetOf( message ) ).secure;
+
     // A strict router wants its own address as the target, and the target last.
-    if ( lengthOf( routes ) && !Target( iriAt( routes, 0 ) ).loose )
+    if ( lengthOf( routes ) && !next.loose )
     {
-        String next = iriAt( routes, 0 );
+        String strict = iriAt( routes, 0 );
         telsxHeaderRouteDelRouteAt( routes.address(), 0 );
         Owned route( telsxRouteCreate( targetOf( message ).get() ) );
         telsxHeaderRouteAppendRoute( routes.address(), route.get() );
-        telsxMessageSetRequestIri( message.address(), next.get() );
+        telsxMessageSetRequestIri( message.address(), strict.get() );
     }
 
     if ( lengthOf( routes ) == 0 )
         telsxHeaderRouteRemoveFromMessage( message.address() );
     else
         telsxHeaderRouteEncodeToMessage( routes.get(), message.address() );
-    return Target( targetOf( message ) ).secure
-           || ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).secure );
+    return next;
 }
 
 // Has the dialog's later requests come by here too (RFC 3261, 16.6, step 4).
@@ -208,6 +230,18 @@ Message respond( const Message &request, int64_t statusCode, To to, const std::s
     if ( !telsxHeaderToHasTag( to.get() ) )
         telsxHeaderToSetTag( to.address(), toString( tag ).get() );
     telsxHeaderToEncodeToMessage( to.get(), response.address() );
+    return response;
+}
+
+// The 420 for a request that needs an extension of its proxies, of which this one has none (RFC 3261, 16.3, step 5).
+Message refuseExtensions( const Message &request, To to, const std::string &tag )
+{
+    auto required = need( request, "Proxy-Require", telsxHeaderProxyRequireTryDecodeFromMessage );
+    Owned tags( telsxHeaderProxyRequireOptionTagsVector( required.get() ) );
+    Owned unsupported( telsxHeaderUnsupportedCreate() );
+    telsxHeaderUnsupportedSetOptionTagsVector( unsupported.address(), tags.get() );
+    Message response = respond( request, 420, std::move( to ), tag );
+    telsxHeaderUnsupportedEncodeToMessage( unsupported.get(), response.address() );
     return response;
 }
 
@@ -242,16 +276,23 @@ Message hop( Message message, const Place &place, std::ostream &read )
         noteSource( top, place );
     telsxHeaderViaSetViaAt( vias.address(), 0, top.get() );
     telsxHeaderViaEncodeToMessage( vias.get(), message.address() );
+    std::string method = toUtf8( Owned( telsxMessageRequestMethod( message.get() ) ) );
     if ( !countHop( message ) )
     {
-        if ( toUtf8( Owned( telsxMessageRequestMethod( message.get() ) ) ) == "ACK" )
+        if ( method == "ACK" )
             throw std::runtime_error( "an ACK has no answer, and this one no hop left" );
         return respond( message, 483, std::move( to ), mark );
     }
-    recordRoute( message, place, followRoute( message, place ) );
+    if ( telsxHeaderProxyRequirePresentInMessage( message.get() ) && method != "ACK" )
+        return refuseExtensions( message, std::move( to ), mark );
+    Target next = followRoute( message, place );
+    if ( method != "REGISTER" )
+        recordRoute( message, place, next.secure );
 
     Owned version( telsxVersionCreateSip20() );
-    Owned transport( telsxViaTransport( top.get() ) );
+    String transport = toString( next.secure ? "tls" : next.transport );
+    if ( !telsxTransportOk( transport.get() ) )
+        transport = toString( "udp" );
     Owned own( telsxViaCreate( version.get(), transport.get(), toString( place.host ).get() ) );
     telsxViaSetBranch( own.address(), toString( "z9hG4bK" + mark ).get() );
     telsxHeaderViaPrependVia( vias.address(), own.get() );
@@ -274,7 +315,7 @@ bool toPlace( const char *host, const char *address, const char *port, Place &pl
     String name = toString( host );
     if ( !name || !telsxHostOk( name.get() ) )
         return false;
-    place.host = lowerCase( Owned( netDnsIdnaDomainNameToUnicode( name.get() ) ) );
+    place.host = plainHost( lowerCase( Owned( netDnsIdnaDomainNameToUnicode( name.get() ) ) ) );
     if ( !address )
         return true;
     place.address = toIpAddress( toString( address ) );
@@ -342,6 +383,6 @@ int main( int argc, char **argv )
         return 1;
     }
     std::cerr << read.str();
-    std::cout << toBytes( Buffer( telsxMessageEncode( message.get() ) ) );
-    return 0;
+    std::cout << toBytes( Buffer( telsxMessageEncode( message.get() ) ) ) << std::flush;
+    return std::cout ? 0 : 1;
 }

@@ -21,7 +21,7 @@ RT_API RT_BOOL rscGensValidatePart( int64_t part, RT_STRING text );
 RT_API RT_STRING rscTryConvertToUri( RT_STRING iri );
 
 /* The IRI of a URI, or of an IRI: escaped UTF-8 becomes characters where an IRI may hold them, and the host
- * its Unicode form; what sets the direction of text becomes or stays an escape (RFC 3987, 4.1). No escape of an
+ * its Unicode form; the seven marks of direction of RFC 3987, 4.1 become or stay escapes. No escape of an
  * ASCII character is undone. A new reference; null only if the text is no IRI. Null aborts. */
 RT_API RT_STRING rscTryConvertFromUri( RT_STRING uri );
 

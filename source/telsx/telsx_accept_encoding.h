@@ -19,7 +19,8 @@ TELSX_OBJECT( AcceptEncoding, ACCEPT_ENCODING )
 RT_API TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreate( void );
 RT_API TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreateWithContentCoding( RT_STRING contentCoding );
 
-/* The coding, in lower case, or null for the star. Set aborts unless telsxContentCodingOk. */
+/* The coding, in lower case: "*" for a star that was read, null for one that was created. Set aborts unless
+ * telsxContentCodingOk. */
 RT_API RT_STRING telsxAcceptEncodingContentCoding( TELSX_ACCEPT_ENCODING acceptEncoding );
 RT_API RT_BOOL telsxAcceptEncodingHasContentCoding( TELSX_ACCEPT_ENCODING acceptEncoding );
 RT_API void telsxAcceptEncodingSetContentCoding( TELSX_ACCEPT_ENCODING *acceptEncoding,

@@ -9,7 +9,7 @@
  *
  *   Encode                the raw header, a new reference
  *   TryDecode             from a raw header, which must bear the kind's name, else it aborts; a new reference, or
- *                         null for bad text. Lists read all lines, all other kinds read the last one only
+ *                         null for bad text. Lists and sets read all lines, all other kinds read the last one only
  *   Store, TryRestore     to and from a store of the lines, which keeps no name; null for a damaged store
  *   PresentInMessage      whether the message has a header of the name, however bad its text
  *   EncodeToMessage       puts the raw header in the place of all lines of the name

@@ -4,7 +4,7 @@
  *     index-val = number *( "." number )
  *     number = "0" / ( %x31-39 *DIGIT )
  *
- * (RFC 7044, 5.1) */
+ * (RFC 7044, 5) */
 #ifndef TELSX_TELSX_HISTORY_INFO_INDEX_H
 #define TELSX_TELSX_HISTORY_INFO_INDEX_H
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
@@ -155,17 +156,43 @@ constexpr uint64_t firstEightOf( const CHAR *name, std::size_t size )
     return eight;
 }
 
-// Where a name stands in the table: they and its length tell the known ones apart. The factor was found by trying;
-// the table's check would fail for a bad one.
-constexpr std::size_t knownNameSlots = 512;
-constexpr std::size_t knownNameSlot( uint64_t firstEight, std::size_t size )
+// What tells the known names apart: these, the last character and the length.
+template <class CHAR>
+constexpr uint64_t knownNameKey( uint64_t firstEight, const CHAR *name, std::size_t size )
 {
-    return ( firstEight + size ) * 0xF80D1A6552E8F127 >> 55;
+    return firstEight + size * 0x80 + ( static_cast<unsigned char>( name[size - 1] ) | 0x20 );
 }
+
+// Where a key stands in the table.
+constexpr std::size_t knownNameSlots = 2048;
+constexpr std::size_t slotOf( uint64_t key, uint64_t factor ) { return key * factor >> 53; }
+
+// A factor that gives each known name a slot of its own. One in some ten does.
+consteval uint64_t findFactor()
+{
+    uint64_t factor = 0x9E3779B97F4A7C15;
+    for ( int tries = 0; tries < 200; ++tries, factor = factor * 0x5851F42D4C957F2D + 2 )
+    {
+        std::array<bool, knownNameSlots> isTaken = {};
+        std::size_t at = 0;
+        for ( ; at < std::size( knownNames ); ++at )
+        {
+            std::string_view name = knownNames[at].spelling;
+            uint64_t key = knownNameKey( firstEightOf( name.data(), name.size() ), name.data(), name.size() );
+            if ( std::exchange( isTaken[slotOf( key, factor )], true ) )
+                break;
+        }
+        if ( at == std::size( knownNames ) )
+            return factor;
+    }
+    std::abort(); // two names have one key
+}
+inline constexpr uint64_t knownNameFactor = findFactor();
+
 template <class CHAR>
 constexpr std::size_t knownNameSlot( const CHAR *name, std::size_t size )
 {
-    return knownNameSlot( firstEightOf( name, size ), size );
+    return slotOf( knownNameKey( firstEightOf( name, size ), name, size ), knownNameFactor );
 }
 
 // In each slot the size of the known name that belongs there, or 0, its place in knownNames, and its number. A compact
@@ -184,10 +211,8 @@ consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
         while ( knownNames[number].bytes != knownNames[i].bytes )
             ++number;
         std::string_view spelling = knownNames[i].spelling;
-        KnownNameSlot &slot = table[knownNameSlot( spelling.data(), spelling.size() )];
-        if ( slot.size )
-            std::abort(); // two names share a slot
-        slot = { static_cast<uint8_t>( spelling.size() ), i, number };
+        table[knownNameSlot( spelling.data(), spelling.size() )] = { static_cast<uint8_t>( spelling.size() ),
+                                                                     i, number };
     }
     return table;
 }
@@ -243,7 +268,8 @@ inline int64_t scanKnownNameNumber( const char *name, std::size_t size )
 {
     if ( size == 0 )
         return -1;
-    KnownNameSlot slot = knownNameTable[knownNameSlot( scanFirstEight( name, size ), size )];
+    uint64_t key = knownNameKey( scanFirstEight( name, size ), name, size );
+    KnownNameSlot slot = knownNameTable[slotOf( key, knownNameFactor )];
     if ( slot.size != size )
         return -1;
     const SpellingBlocks &spelling = spellingBlocks[slot.spelling];

@@ -1,6 +1,6 @@
 /* Message: a fragment that is a request or a response (RFC 3261, 7). It adds that guarantee and nothing else:
  * every function here does what the fragment's function of the same name does (telsx_message_fragment.h). A
- * null message aborts. */
+ * null message aborts. Messages have no order: each is equal only to itself. */
 #ifndef TELSX_TELSX_MESSAGE_H
 #define TELSX_TELSX_MESSAGE_H
 

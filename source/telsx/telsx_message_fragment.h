@@ -4,7 +4,7 @@
  * A fragment is a request (method, IRI and version), a response (status code, reason phrase and version) or
  * neither (no version). Headers are raw and stand under their canonical names, in the order in which the
  * names came; the body is bytes. A Content-Length header among them is not kept in step with the body:
- * decoding reads it, encoding writes its own. */
+ * decoding reads it, encoding writes its own. Fragments have no order: each is equal only to itself. */
 #ifndef TELSX_TELSX_MESSAGE_FRAGMENT_H
 #define TELSX_TELSX_MESSAGE_FRAGMENT_H
 
@@ -126,9 +126,9 @@ RT_API void telsxMessageFragmentSetBody( TELSX_MESSAGE_FRAGMENT *frag, RT_BUFFER
 RT_API void telsxMessageFragmentDelBody( TELSX_MESSAGE_FRAGMENT *frag );
 
 /* The fragment that the bytes are, as of one datagram; a new reference, or null for bad ones. Lines end in CR
- * LF, a blank line ends the head. A Content-Length must be a number and no larger than what follows the head,
- * of which the rest is dropped; without one all bytes behind the head are the body, and an empty body is
- * none. Null aborts. */
+ * LF; a blank line ends the head, or the end of the bytes. A Content-Length must be a number and no larger than
+ * what follows the head, of which the rest is dropped; without one all bytes behind the head are the body, and an
+ * empty body is none. Null aborts. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecode( RT_BUFFER buf );
 
 /* The same for a head alone, without its blank line. contentLength receives the value of Content-Length, or

@@ -75,8 +75,8 @@ RT_API void telsxMessageHeaderAppendLineFormatWcstr( TELSX_MESSAGE_HEADER *heade
 
 /* The header as a new store, with its name under "name" and a store of its lines under "lines"; the store of
  * its lines alone. TryRestore gives a new header, or null if the store is damaged: no name, or a bad one, no
- * lines, or a line with CR LF. RestoreLines gives a new header of the name with the lines of a store, in the
- * store's order; a bad name and a bad line abort. A null store aborts. */
+ * store of lines, or a line with CR LF. RestoreLines gives a new header of the name with the lines of a store, in
+ * the store's order; a bad name and a bad line abort. A null store aborts. */
 RT_API RT_STORE telsxMessageHeaderStore( TELSX_MESSAGE_HEADER header );
 RT_API RT_STORE telsxMessageHeaderStoreLines( TELSX_MESSAGE_HEADER header );
 RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderTryRestore( RT_STORE store );

@@ -2,7 +2,7 @@
  *
  *     refresher = "uac" / "uas"
  *
- * (RFC 4028, 9, refresher-param) */
+ * (RFC 4028, 4, refresher-param) */
 #ifndef TELSX_TELSX_REFRESHER_H
 #define TELSX_TELSX_REFRESHER_H
 

@@ -2,7 +2,7 @@
  *
  *     sip-clean-msg-id = dot-atom "@" ( dot-atom / host )
  *
- * (RFC 3892, 5) */
+ * (RFC 3892, 3) */
 #ifndef TELSX_TELSX_SIP_CLEAN_MSG_ID_H
 #define TELSX_TELSX_SIP_CLEAN_MSG_ID_H
 

@@ -1,6 +1,7 @@
 /* SIP instance: the name of a device in a Contact value, without its quotes.
  *
- *     instance-val = "<" 1*uric ">"
+ *     instance = "<" instance-val ">"
+ *     instance-val = 1*uric
  *
  * (RFC 5626, 10) */
 #ifndef TELSX_TELSX_SIP_INSTANCE_H

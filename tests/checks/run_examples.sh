@@ -70,11 +70,11 @@ names=$( sed -nE 's/^TELSX_KIND.*"(.*)".*/\1/p' "$kinds" )
 expect 0 "$decode" "$scratch/all"
 diff <( sed '1,/^typed$/d; /^encoded$/,$d; /^    /d; s/^  //; s/ .*//' "$scratch/out" ) - <<<"$names" || fail "kinds are missing"
 
-printf 'SIP/2.0 200 %%1B[2J\r\nX: a\302\233b\r\n\r\n\377' >"$scratch/steers_terminal"
+printf 'SIP/2.0 200 %%1B[2J\r\nX: a\302\233b\342\200\256c\r\n\r\n\377' >"$scratch/steers_terminal"
 for file in - "$scratch/steers_terminal"; do
     expect 0 "$decode" "$file" <"$scratch/steers_terminal"
     prints '  phrase   \x1b[2J'
-    prints '    a\xc2\x9bb'
+    prints '    a\xc2\x9bb\xe2\x80\xaec'
     prints '  \xff'
 done
 
@@ -148,6 +148,19 @@ prints "INVITE sip:c SIP/2.0"
 prints_in_order "\
 Route: <sip:d;lr>
 Route: <sip:b@b>"
+
+# What the proxy writes itself: its Via goes by the next address, and nobody tells it where a request came from.
+hops 'REGISTER sip:b' 'Route: <sip:proxy.example.com;lr>, <sip:c;transport=TCP;lr>'
+grep -q '^Via: SIP/2.0/TCP proxy' "$scratch/out" || fail "the Via is not for the next address"
+prints_nothing_like '^Record-Route'
+request 'INVITE sips:b@b' 'Route: <sip:[2001:DB8:0::1];lr>' | sed 's/192.0.2.1/&;received=203.0.113.9;rport=7/' >"$scratch/forged"
+expect 0 "$hop" --host '[2001:db8::1]' --source 192.0.2.1 5060 "$scratch/forged"
+prints 'Via: SIP/2.0/TCP 192.0.2.1;branch=z9hG4bK1'
+grep -q '^Via: SIP/2.0/TLS' "$scratch/out" || fail "a secure target goes out without TLS"
+prints_nothing_like '^Route'
+hops 'INVITE sip:b@b' 'Proxy-Require: foo, Bar'
+prints "SIP/2.0 420 Bad extension"
+prints "Unsupported: foo,bar"
 
 hops 'INVITE sip:b@b' 'Max-Forwards: 0'
 prints "SIP/2.0 483 Too many hops"
