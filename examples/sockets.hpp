@@ -76,8 +76,8 @@ struct Peer
 class Network
 {
 public:
-    static constexpr std::size_t maxMessage = 8192;    // bytes; a longer datagram is ignored
-    static constexpr std::size_t maxUnsent = 65536;    // bytes, to a peer that doesn't read
+    static constexpr std::size_t maxMessage = 8192; // bytes; a longer one is ignored, and ends a connection
+    static constexpr std::size_t maxUnsent = 65536; // bytes, to a peer that doesn't read
     static constexpr std::size_t maxConnections = 256; // a further one takes the place of the quietest
 
     // Listens there, on a port that it picks and puts there if it is 0; false and errno if it can't. SIGINT and
@@ -114,6 +114,8 @@ public:
         std::vector<pollfd> watched;
         for ( const Descriptor *descriptor : { &signals, &listener, &datagrams } )
             watched.push_back( { descriptor->get(), POLLIN, 0 } );
+        if ( std::exchange( deaf, false ) )
+            watched[1].fd = -1;
         for ( const auto &[id, connection] : connections )
         {
             short events = connection.unsent.empty() ? POLLIN : POLLIN | POLLOUT;
@@ -201,20 +203,22 @@ private:
     template <class RECEIVE>
     void readStream( uint64_t id, Connection &connection, const RECEIVE &receive )
     {
-        ssize_t length = recv( connection.socket.get(), piece, sizeof piece, MSG_DONTWAIT );
+        TELSX_MESSAGE_STREAM_DECODER decoder = connection.decoder.get();
+        // No more than fits, so that the longest message is the same however the network cuts it.
+        std::size_t room = maxMessage - std::size_t( telsxMessageStreamDecoderLength( decoder ) );
+        ssize_t length = recv( connection.socket.get(), piece, room, MSG_DONTWAIT );
         if ( length <= 0 )
         {
             connection.over = length == 0 || ( errno != EAGAIN && errno != EINTR );
             return;
         }
         connection.lastHeard = ++clock;
-        TELSX_MESSAGE_STREAM_DECODER decoder = connection.decoder.get();
         telsxMessageStreamDecoderWrite( decoder, toBuffer( { piece, std::size_t( length ) } ).get() );
         while ( Message message{ connection.over ? nullptr : telsxMessageStreamDecoderRead( decoder ) } )
             receive( std::move( message ), Peer{ id, connection.address } );
         // Behind a bad message nothing tells where the next one begins.
         if ( telsxMessageStreamDecoderError( decoder )
-             || telsxMessageStreamDecoderLength( decoder ) > int64_t( maxMessage ) )
+             || telsxMessageStreamDecoderLength( decoder ) >= int64_t( maxMessage ) )
             connection.over = true;
     }
 
@@ -237,11 +241,16 @@ private:
         socklen_t length = sizeof connection.address;
         connection.socket = Descriptor(
             accept4( listener.get(), &connection.address.any, &length, SOCK_CLOEXEC | SOCK_NONBLOCK ) );
-        if ( connection.socket.get() < 0 )
-            return;
+        bool accepted = connection.socket.get() >= 0;
+        // Without a free descriptor the waiting one would be heard of again and again.
+        bool full = accepted ? connections.size() == maxConnections : errno == EMFILE || errno == ENFILE;
         auto quieter = []( const auto &a, const auto &b ) { return a.second.lastHeard < b.second.lastHeard; };
-        if ( connections.size() == maxConnections )
+        if ( full && !connections.empty() )
             connections.erase( std::min_element( connections.begin(), connections.end(), quieter ) );
+        else
+            deaf = full;
+        if ( !accepted )
+            return;
         connection.lastHeard = ++clock;
         connections.emplace( ++lastConnection, std::move( connection ) );
     }
@@ -249,5 +258,6 @@ private:
     Descriptor signals, listener, datagrams;
     std::map<uint64_t, Connection> connections;
     uint64_t lastConnection = 0, clock = 0; // the clock counts what is heard
+    bool deaf = false;                      // to new connections, for one round
     char piece[maxMessage + 1];
 };

@@ -9,6 +9,7 @@
 
 int main()
 {
+    constexpr int64_t maxHeld = 65536; // bytes of a message that isn't complete; the decoder has no limit
     Library library;
     Owned decoder( telsxMessageStreamDecoderCreate() );
     int messages = 0;
@@ -30,6 +31,18 @@ int main()
             std::cerr << "stream: message " << messages + 1 << " is bad or has no Content-Length\n";
             return 1;
         }
+        if ( telsxMessageStreamDecoderLength( decoder.get() ) > maxHeld )
+        {
+            std::cerr << "stream: message " << messages + 1 << " has more than " << maxHeld << " bytes\n";
+            return 1;
+        }
+        if ( !std::cout )
+            break;
+    }
+    if ( !std::cout )
+    {
+        std::cerr << "stream: standard output can't be written\n";
+        return 1;
     }
     if ( length < 0 )
     {

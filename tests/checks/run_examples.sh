@@ -103,6 +103,11 @@ for rest in 'SIP/2.0 200 OK\r\n' 'SIP/2.0 200 OK\r\n\r\n' 'Via: a\r\nl: 0\r\n\r\
     prints "message 2"
     [ "$( wc -l <"$scratch/err" )" = 1 ] || fail "that is not one line of error"
 done
+# A message without an end: it stops long before the input does.
+head -c 1000000 /dev/zero | tr '\0' a >"$scratch/endless"
+expect 1 "$stream" <"$scratch/endless"
+grep -qx 'stream: message 1 has more than 65536 bytes' "$scratch/err" || fail "nothing tells that the message is too long"
+! "$stream" <"$scratch/two" >/dev/full 2>/dev/null || fail "stream doesn't see that it can't write"
 
 # request LINE HEADER...: a request with what hop needs and these headers.
 request()

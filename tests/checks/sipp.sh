@@ -61,11 +61,11 @@ many_calls()
     $good && [ "$again_tcp" = 0 ] && (( again_udp < calls / 4 ))
 }
 
-# ask HEADER...: sends a request in one datagram and prints what comes back within five seconds.
+# ask LINE HEADER...: sends a request in one datagram and prints what comes back within five seconds.
 ask()
 {
-    printf '%s\r\n' "$@" 'Via: SIP/2.0/UDP a.example;branch=z9hG4bK1;rport' 'f: <sip:a@a.example>;tag=1' \
-        't: "B" <sip:b@b.example>' 'i: 1@a.example' '' >request
+    printf '%s\r\n' "$1" "Via: SIP/2.0/UDP a.example;branch=z9hG4bK$( date +%s%N );rport" 'f: <sip:a@a.example>;tag=1' \
+        't: "B" <sip:b@b.example>' 'i: 1@a.example' "${@:2}" '' >request
     exec 3<>"/dev/udp/127.0.0.1/$port"
     cat request >&3
     timeout 5 dd bs=65536 count=1 status=none <&3 | tr -d '\r'
@@ -73,8 +73,8 @@ ask()
 }
 expect() { local got; got=$( ask "${@:2}" | head -n 1 ); [ "$got" = "SIP/2.0 $1" ] || fail "to $2 it says '$got', not $1"; }
 
-# The contacts that are bound when the REGISTER with these headers has been answered.
-bound() { ask 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' "$@" | sed -n 's/^Contact: \(<.*>\).*/\1/p' | tr -d '\n'; }
+# bound NUMBER HEADER...: the contacts that are bound when the REGISTER with these headers has been answered.
+bound() { ask 'REGISTER sip:b SIP/2.0' "CSeq: $1 REGISTER" "${@:2}" | sed -n 's/^Contact: \(<.*>\).*/\1/p' | tr -d '\n'; }
 
 # send udp|tcp FILE: a datagram or a connection with these bytes, whether the other side reads all of them or not.
 send() { cat "$2" >"/dev/$1/127.0.0.1/$port" || true; } 2>/dev/null
@@ -113,9 +113,11 @@ many_calls || { echo "once more"; many_calls; } || fail "calls fail, or their re
 for transport in u1 t1; do
     use "options-$transport" "$transport" -sf "$scenarios/options.xml" -m 20 -r 20 || fail "OPTIONS"
     use "register-$transport" "$transport" -sf "$scenarios/register.xml" -m 20 -r 20 || fail "REGISTER"
+    use "dialog-$transport" "$transport" -sf "$scenarios/dialog.xml" -m 20 -r 20 || fail "what belongs to a dialog"
 done
 
-ask 'OPTIONS sip:b@b.example SIP/2.0' 'CSeq: 7 OPTIONS' | sed -E 's/rport=[0-9]+/rport=1/; s/tag=[0-9a-f]{16}/tag=2/' |
+ask 'OPTIONS sip:b@b.example SIP/2.0' 'CSeq: 7 OPTIONS' |
+    sed -E 's/rport=[0-9]+/rport=1/; s/tag=[0-9]+-[0-9]+/tag=2/; s/z9hG4bK[0-9]+/z9hG4bK1/' |
     diff - <( cat <<'RESPONSE'
 SIP/2.0 200 OK
 Via: SIP/2.0/UDP a.example;received=127.0.0.1;rport=1;branch=z9hG4bK1
@@ -132,12 +134,23 @@ RESPONSE
 expect '405 Method not allowed' 'PUBLISH sip:b SIP/2.0' 'CSeq: 1 PUBLISH'
 expect '481 Call leg/transaction does not exist' 'CANCEL sip:b SIP/2.0' 'CSeq: 1 CANCEL'
 expect '481 Call leg/transaction does not exist' 'BYE sip:b SIP/2.0' 'CSeq: 1 BYE'
+expect '481 Call leg/transaction does not exist' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 't: <sip:b>;tag=2'
 expect '420 Bad extension' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'Require: 100rel'
+expect '200 OK' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 'Require:'
+expect '416 Unsupported URI scheme' 'INVITE tel:+1 SIP/2.0' 'CSeq: 1 INVITE'
+expect '415 Unsupported media type' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'c: text/plain' '' 'v=0'
+expect '400 Bad request' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'c: application/sdp' '' 'v=0' 't=0 0' 'm=audio 1 RTP/AVP'
+expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 2147483648 OPTIONS'
 expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 BYE'
 expect '400 Bad request' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' 'Contact: <sip:a>, <sip:b'
 expect '505 SIP version not supported' 'OPTIONS sip:b SIP/3.0' 'CSeq: 1 OPTIONS'
-[ "$( bound 'm: <sip:d>, <sip:c>' ) $( bound 'm: <sip:c>;expires=0' ) $( bound 'm: *' 'Expires: 0' ) $( bound )" = \
-    '<sip:c><sip:d> <sip:d>  ' ] || fail "REGISTER binds other contacts than told"
+[ "$( bound 2 'm: <sip:d>, <sip:c>' ) $( bound 3 'm: <sip:c>;expires=0' ) $( bound 4 )" = \
+    '<sip:c><sip:d> <sip:d> <sip:d>' ] || fail "REGISTER binds other contacts than told"
+# A request that another one has overtaken (RFC 3261, 10.3) takes nothing away; one of another Call-ID may.
+for late in 'm: <sip:d>;expires=0' 'm: *'; do
+    expect '500 Internal server error' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' "$late" 'Expires: 0'
+done
+[ "$( bound 4 ) $( bound 1 'm: *' 'Expires: 0' 'i: 2' )" = '<sip:d> ' ] || fail "REGISTER takes away what it should not"
 
 broken_messages
 for transport in u1 t1; do
