@@ -192,7 +192,7 @@ std::optional<std::string> answerTo( const std::string &offer )
         std::string first, port, protocol, format, formats;
         words >> first >> port >> protocol;
         if ( first.rfind( "t=", 0 ) == 0 )
-            result += first + ' ' + port + "\r\n";
+            result.append( first ).append( 1, ' ' ).append( port ).append( "\r\n" );
         if ( first.rfind( "m=", 0 ) != 0 )
             continue;
         bool fits = false;
@@ -202,8 +202,10 @@ std::optional<std::string> answerTo( const std::string &offer )
             return std::nullopt;
         fits = fits && !taken && first == "m=audio" && port != "0" && protocol == "RTP/AVP";
         taken |= fits;
-        result +=
-            fits ? "m=audio 9 RTP/AVP 0\r\na=inactive\r\n" : first + " 0 " + protocol + formats + "\r\n";
+        if ( fits )
+            result.append( "m=audio 9 RTP/AVP 0\r\na=inactive\r\n" );
+        else
+            result.append( first ).append( " 0 " ).append( protocol ).append( formats ).append( "\r\n" );
     }
     bool good = offer.rfind( "v=0", 0 ) == 0 && result.rfind( "t=", 0 ) == 0;
     return good ? std::optional( result ) : std::nullopt;

@@ -61,10 +61,11 @@ IpAddress toIpAddress( const String &text )
     if ( !text )
         return {};
     int64_t length = rtStringLength( text.get() );
-    bool brackets = length > 1 && rtStringBeginsWithChar( text.get(), '[' )
-                    && rtStringCharAt( text.get(), length - 1 ) == ']';
+    bool inBrackets = length > 1 && rtStringBeginsWithChar( text.get(), '[' )
+                      && rtStringCharAt( text.get(), length - 1 ) == ']';
+    int64_t bracket = inBrackets ? 1 : 0;
     return IpAddress(
-        netAddressTryCreateFromChars( rtStringBacking( text.get() ) + brackets, length - 2 * brackets ) );
+        netAddressTryCreateFromChars( rtStringBacking( text.get() ) + bracket, length - 2 * bracket ) );
 }
 
 // The host in the one form that hosts are compared in: an IPv6 address has many.
