@@ -398,14 +398,24 @@ static void appendInt( RT_STRING *string, int64_t value, int64_t width, int radi
     rtStringAppendCstr( string, digits, end - digits );
 }
 
+// The string may be among its own arguments, and its block gone by now; what it held is still its beginning.
+static void appendArgument( RT_STRING *string, RT_STRING before, int64_t lengthBefore, RT_STRING argument )
+{
+    if ( argument == before )
+        rtStringAppendChars( string, ( *string )->chs, lengthBefore );
+    else
+        rtStringAppend( string, argument );
+}
+
 // What stands behind a percent sign.
 template <class CHAR>
-static void appendDirective( RT_STRING *string, Format<CHAR> &format, ArgList &list )
+static void appendDirective( RT_STRING *string, RT_STRING before, int64_t lengthBefore, Format<CHAR> &format,
+                             ArgList &list )
 {
     if ( format.takes( "%" ) )
         rtStringAppendChar( string, '%' );
     else if ( format.takes( "s" ) )
-        rtStringAppend( string, va_arg( list.args, RT_STRING ) );
+        appendArgument( string, before, lengthBefore, va_arg( list.args, RT_STRING ) );
     else if ( format.takes( "~s" ) )
         rtStringAppend( string, rt::adopt( va_arg( list.args, RT_STRING ) ).get() );
     else if ( format.takes( ".*A" ) )
@@ -427,7 +437,11 @@ static void appendDirective( RT_STRING *string, Format<CHAR> &format, ArgList &l
 template <class CHAR>
 static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, va_list args )
 {
+    RT_ASSERT( string );
+    RT_ASSERT( *string );
     Format<CHAR> format = { chars, chars + lengthOf( chars, length ) };
+    RT_STRING before = *string;
+    int64_t lengthBefore = rtStringLength( before );
     ArgList list;
     va_copy( list.args, args );
     while ( format.at != format.end )
@@ -436,7 +450,7 @@ static void appendFormat( RT_STRING *string, const CHAR *chars, int64_t length, 
         std::transform( format.at, percent, rt___StringExtend( string, percent - format.at ), widened<CHAR> );
         format.at = percent;
         if ( format.takes( "%" ) )
-            appendDirective( string, format, list );
+            appendDirective( string, before, lengthBefore, format, list );
     }
     va_end( list.args );
 }
@@ -481,8 +495,6 @@ void rtStringAppendFormatCstr( RT_STRING *string, const char *format, int64_t le
 {
     va_list args;
     va_start( args, length );
-    // The string itself may be among the arguments.
-    auto text = rt::adopt( createFromFormat( format, length, args ) );
+    appendFormat( string, format, length, args );
     va_end( args );
-    rtStringAppend( string, text.get() );
 }
