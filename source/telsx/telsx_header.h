@@ -4,17 +4,19 @@
 
 #include "telsx/telsx_message.h"
 
-/* A typed header is the structured reading of one raw header; it has no link to any message. The functions
- * that every kind has beside those of TELSX_OBJECT, where null aborts in all:
+/* A typed header is the structured reading of one raw header; it has no link to any message. Every kind has these
+ * functions besides those of TELSX_OBJECT; all of them abort for null:
  *
  *   Encode                the raw header, a new reference
- *   TryDecode             from a raw header, which must bear the kind's name, else it aborts; a new reference, or
- *                         null for bad text. Lists and sets read all lines, all other kinds read the last one only
- *   Store, TryRestore     to and from a store of the lines, which keeps no name; null for a damaged store
- *   PresentInMessage      whether the message has a header of the name, however bad its text
- *   EncodeToMessage       puts the raw header in the place of all lines of the name
- *   TryDecodeFromMessage  a new reference, or null if there is no such header, if it has no lines, and for bad text
- *   RemoveFromMessage     takes the header out; nothing happens if there is none
+ *   TryDecode             from a raw header: a new reference, or null for bad text. Aborts unless the raw header has the
+ *                         kind's name. Lists and sets read all lines, all other kinds only the last one
+ *   Store                 a new store of the lines, which keeps no name
+ *   TryRestore            from such a store; a new reference, or null for a damaged store and for bad text
+ *   PresentInMessage      whether the message has a header of that name, even one that does not decode
+ *   EncodeToMessage       puts the raw header in the place of all lines of its name
+ *   TryDecodeFromMessage  from the message's header of that name: a new reference, or null if there is none, if it has no
+ *                         lines, and for bad text
+ *   RemoveFromMessage     takes the header out; does nothing if there is none
  *
  * ToString gives the lines alone, without the name, with ", " between them. */
 #define TELSX_HEADER( NAME, SORT )                                                    \
