@@ -54,10 +54,9 @@ RT_STRING telsx___AcceptEncode( TELSX_ACCEPT accept )
     Ref<RT_STRING> text = accept->mediaType ? accept->mediaType : adopt( literal<"*">() );
     append( text, '/',
             accept->mediaType && accept->mediaSubtype ? accept->mediaSubtype.get() : literal<"*">() );
-    if ( rt::present( accept->qvalue ) )
-        append( text, ";q=", adopt( telsx___QvalueEncode( accept->qvalue ) ) );
-    appendGenericParams( text, accept->genericParams.get(),
-                         { { literal<"q">(), rt::present( accept->qvalue ) } } );
+    ParamWriter params( text );
+    params.write<"q">( accept->qvalue, telsx___QvalueEncode );
+    params.writeGeneric( accept->genericParams );
     return text.take();
 }
 

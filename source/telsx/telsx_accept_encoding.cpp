@@ -56,10 +56,9 @@ RT_STRING telsx___AcceptEncodingEncode( TELSX_ACCEPT_ENCODING acceptEncoding )
     TELSX_ASSERT( acceptEncoding );
     Ref<RT_STRING> text =
         acceptEncoding->contentCoding ? acceptEncoding->contentCoding : adopt( literal<"*">() );
-    if ( rt::present( acceptEncoding->qvalue ) )
-        append( text, ";q=", adopt( telsx___QvalueEncode( acceptEncoding->qvalue ) ) );
-    appendGenericParams( text, acceptEncoding->genericParams.get(),
-                         { { literal<"q">(), rt::present( acceptEncoding->qvalue ) } } );
+    ParamWriter params( text );
+    params.write<"q">( acceptEncoding->qvalue, telsx___QvalueEncode );
+    params.writeGeneric( acceptEncoding->genericParams );
     return text.take();
 }
 

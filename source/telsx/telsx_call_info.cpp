@@ -47,10 +47,9 @@ RT_STRING telsx___CallInfoEncode( TELSX_CALL_INFO callInfo )
     TELSX_ASSERT( callInfo );
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, callInfo->iri );
-    if ( callInfo->purpose )
-        append( text, ";purpose=", callInfo->purpose );
-    appendGenericParams( text, callInfo->genericParams.get(),
-                         { { literal<"purpose">(), rt::present( callInfo->purpose ) } } );
+    ParamWriter params( text );
+    params.write<"purpose">( callInfo->purpose );
+    params.writeGeneric( callInfo->genericParams );
     return text.take();
 }
 

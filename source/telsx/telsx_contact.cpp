@@ -78,25 +78,14 @@ RT_STRING telsx___ContactEncode( TELSX_CONTACT contact )
     TELSX_ASSERT( contact );
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, contact->iri, contact->displayName );
-    if ( rt::present( contact->qvalue ) )
-        append( text, ";q=", adopt( telsx___QvalueEncode( contact->qvalue ) ) );
-    if ( rt::present( contact->expires ) )
-        append( text, ";expires=", adopt( telsx___DeltaSecondsEncode( contact->expires ) ) );
-    if ( contact->rc )
-        append( text, ";rc=", contact->rc );
-    if ( contact->mp )
-        append( text, ";mp=", contact->mp );
-    if ( contact->np )
-        append( text, ";np=", contact->np );
-    if ( contact->sipInstance )
-        append( text, ";+sip.instance=\"", contact->sipInstance, '"' );
-    appendGenericParams( text, contact->genericParams.get(),
-                         { { literal<"q">(), rt::present( contact->qvalue ) },
-                           { literal<"expires">(), rt::present( contact->expires ) },
-                           { literal<"rc">(), rt::present( contact->rc ) },
-                           { literal<"mp">(), rt::present( contact->mp ) },
-                           { literal<"np">(), rt::present( contact->np ) },
-                           { literal<"+sip.instance">(), rt::present( contact->sipInstance ) } } );
+    ParamWriter params( text );
+    params.write<"q">( contact->qvalue, telsx___QvalueEncode );
+    params.write<"expires">( contact->expires, telsx___DeltaSecondsEncode );
+    params.write<"rc">( contact->rc );
+    params.write<"mp">( contact->mp );
+    params.write<"np">( contact->np );
+    params.writeInQuotes<"+sip.instance">( contact->sipInstance );
+    params.writeGeneric( contact->genericParams );
     return text.take();
 }
 

@@ -75,22 +75,13 @@ RT_STRING telsx___DiversionEncode( TELSX_DIVERSION diversion )
     TELSX_ASSERT( diversion );
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, diversion->iri, diversion->displayName );
-    if ( diversion->reason )
-        append( text, ";reason=", adopt( telsx___DiversionReasonEncode( diversion->reason.get() ) ) );
-    if ( rt::present( diversion->counter ) )
-        append( text, ";counter=", adopt( telsx___DiversionCounterEncode( diversion->counter ) ) );
-    if ( rt::present( diversion->limit ) )
-        append( text, ";limit=", adopt( telsx___DiversionLimitEncode( diversion->limit ) ) );
-    if ( diversion->privacy )
-        append( text, ";privacy=", adopt( telsx___DiversionPrivacyEncode( diversion->privacy.get() ) ) );
-    if ( diversion->screen )
-        append( text, ";screen=", adopt( telsx___DiversionScreenEncode( diversion->screen.get() ) ) );
-    appendGenericParams( text, diversion->genericParams.get(),
-                         { { literal<"reason">(), rt::present( diversion->reason ) },
-                           { literal<"counter">(), rt::present( diversion->counter ) },
-                           { literal<"limit">(), rt::present( diversion->limit ) },
-                           { literal<"privacy">(), rt::present( diversion->privacy ) },
-                           { literal<"screen">(), rt::present( diversion->screen ) } } );
+    ParamWriter params( text );
+    params.write<"reason">( diversion->reason, telsx___DiversionReasonEncode );
+    params.write<"counter">( diversion->counter, telsx___DiversionCounterEncode );
+    params.write<"limit">( diversion->limit, telsx___DiversionLimitEncode );
+    params.write<"privacy">( diversion->privacy, telsx___DiversionPrivacyEncode );
+    params.write<"screen">( diversion->screen, telsx___DiversionScreenEncode );
+    params.writeGeneric( diversion->genericParams );
     return text.take();
 }
 

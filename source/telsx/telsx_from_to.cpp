@@ -11,13 +11,10 @@ Ref<RT_STRING> encodeFromTo( const FromTo &hdr )
 {
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, hdr.iri, hdr.displayName );
-    if ( hdr.tag )
-        append( text, ";tag=", hdr.tag );
-    if ( hdr.epid )
-        append( text, ";epid=", hdr.epid );
-    appendGenericParams(
-        text, hdr.genericParams.get(),
-        { { literal<"tag">(), rt::present( hdr.tag ) }, { literal<"epid">(), rt::present( hdr.epid ) } } );
+    ParamWriter params( text );
+    params.write<"tag">( hdr.tag );
+    params.write<"epid">( hdr.epid );
+    params.writeGeneric( hdr.genericParams );
     return text;
 }
 

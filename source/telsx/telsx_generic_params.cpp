@@ -159,16 +159,13 @@ TELSX_GENERIC_PARAMS telsx___GenericParamsTryDecode( const RT_CHAR *chs, int64_t
 }
 
 void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS params,
-                                 std::initializer_list<FieldParam> fields )
+                                 std::span<const RT_STRING> without )
 {
     for ( int64_t i = 0; i < rtDictLength( params->params.get() ); ++i )
     {
         auto param = adopt( telsxGenericParamsParamAt( params, i ) );
-        bool standsInField =
-            std::any_of( fields.begin(), fields.end(),
-                         [&]( const FieldParam &field )
-                         { return field.isPresent && rtStringEquals( field.name, param->name.get() ); } );
-        if ( !standsInField )
+        auto isItsName = [&]( RT_STRING name ) { return rtStringEquals( name, param->name.get() ); };
+        if ( std::none_of( without.begin(), without.end(), isItsName ) )
             append( text, ';', adopt( telsx___GenericParamEncode( param.get() ) ) );
     }
 }

@@ -1,10 +1,11 @@
 // The inside of a set of generic parameters, and its text beside the fields that stand for some of them.
 #pragma once
 
-#include <initializer_list>
+#include <span>
 
 #include "telsx/telsx_frame.hpp"
 #include "telsx/telsx_generic_params.h"
+#include "telsx/telsx_text.hpp"
 
 struct TELSX_GENERIC_PARAMS_
 {
@@ -17,15 +18,76 @@ struct TELSX_GENERIC_PARAMS_
 namespace telsx
 {
 
-// A parameter that has a field of its own, by its name in lower case.
-struct FieldParam
-{
-    RT_STRING name;
-    bool isPresent;
-};
-
-// Appends the parameters, a semicolon before each, but for those that a present field stands for.
+// Appends the parameters, a semicolon before each, but for those with one of these names in lower case.
 void appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS params,
-                          std::initializer_list<FieldParam> fields = {} );
+                          std::span<const RT_STRING> without = {} );
+
+// Writes the parameters of a value: each field that is present under its name, and after them the generic parameters,
+// without those that a field stands for.
+//
+//     ParamWriter params( text );
+//     params.write<"cause">( reason->cause );
+//     params.write<"text">( reason->text, telsx___QuotableStringEncode );
+//     params.writeGeneric( reason->genericParams );
+class ParamWriter
+{
+public:
+    explicit ParamWriter( Ref<RT_STRING> &to ) : text( to ) {}
+
+    // A text or a number as it is, or as the encoder writes it.
+    template <rt::Ascii NAME>
+    void write( const Ref<RT_STRING> &field )
+    {
+        if ( field )
+            append( text, ';', noted<NAME>(), '=', field );
+    }
+    template <rt::Ascii NAME>
+    void write( int64_t field )
+    {
+        if ( rt::present( field ) )
+            append( text, ';', noted<NAME>(), '=', Decimal( field ) );
+    }
+    template <rt::Ascii NAME, class HANDLE>
+    void write( const Ref<HANDLE> &field, RT_STRING ( *encode )( HANDLE ) )
+    {
+        if ( field )
+            append( text, ';', noted<NAME>(), '=', adopt( encode( field.get() ) ) );
+    }
+    template <rt::Ascii NAME>
+    void write( int64_t field, RT_STRING ( *encode )( int64_t ) )
+    {
+        if ( rt::present( field ) )
+            append( text, ';', noted<NAME>(), '=', adopt( encode( field ) ) );
+    }
+
+    template <rt::Ascii NAME>
+    void writeInQuotes( const Ref<RT_STRING> &field )
+    {
+        if ( field )
+            append( text, ';', noted<NAME>(), "=\"", field, '"' );
+    }
+    template <rt::Ascii NAME>
+    void writeMark( RT_BOOL field )
+    {
+        if ( field )
+            append( text, ';', noted<NAME>() );
+    }
+
+    void writeGeneric( const Ref<TELSX_GENERIC_PARAMS> &params )
+    {
+        appendGenericParams( text, params.get(), std::span( written, count ) );
+    }
+
+private:
+    template <rt::Ascii NAME>
+    RT_STRING noted()
+    {
+        return written[count++] = literal<NAME>();
+    }
+
+    Ref<RT_STRING> &text;
+    RT_STRING written[16]; // No value has as many fields.
+    std::size_t count = 0;
+};
 
 } // namespace telsx

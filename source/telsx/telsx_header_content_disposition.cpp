@@ -43,10 +43,9 @@ TELSX_MESSAGE_HEADER telsxHeaderContentDispositionEncode( TELSX_HEADER_CONTENT_D
 {
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->dispositionType;
-    if ( hdr->handling )
-        append( line, ";handling=", hdr->handling );
-    appendGenericParams( line, hdr->genericParams.get(),
-                         { { literal<"handling">(), rt::present( hdr->handling ) } } );
+    ParamWriter params( line );
+    params.write<"handling">( hdr->handling );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Content-Disposition">(), line );
 }
 

@@ -45,9 +45,9 @@ TELSX_MESSAGE_HEADER telsxHeaderEventEncode( TELSX_HEADER_EVENT hdr )
 {
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->eventType;
-    if ( hdr->id )
-        append( line, ";id=", hdr->id );
-    appendGenericParams( line, hdr->genericParams.get(), { { literal<"id">(), rt::present( hdr->id ) } } );
+    ParamWriter params( line );
+    params.write<"id">( hdr->id );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Event">(), line );
 }
 

@@ -51,9 +51,9 @@ TELSX_MESSAGE_HEADER telsxHeaderReferredByEncode( TELSX_HEADER_REFERRED_BY hdr )
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = adopt( rtStringCreate() );
     appendAddress( line, hdr->iri, hdr->displayName );
-    if ( hdr->cid )
-        append( line, ";cid=\"", hdr->cid, '"' );
-    appendGenericParams( line, hdr->genericParams.get(), { { literal<"cid">(), rt::present( hdr->cid ) } } );
+    ParamWriter params( line );
+    params.writeInQuotes<"cid">( hdr->cid );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Referred-By">(), line );
 }
 

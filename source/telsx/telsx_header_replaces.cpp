@@ -66,16 +66,11 @@ TELSX_MESSAGE_HEADER telsxHeaderReplacesEncode( TELSX_HEADER_REPLACES hdr )
 {
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->callId;
-    if ( hdr->fromTag )
-        append( line, ";from-tag=", hdr->fromTag );
-    if ( hdr->toTag )
-        append( line, ";to-tag=", hdr->toTag );
-    if ( hdr->earlyOnly )
-        append( line, ";early-only" );
-    appendGenericParams( line, hdr->genericParams.get(),
-                         { { literal<"from-tag">(), rt::present( hdr->fromTag ) },
-                           { literal<"to-tag">(), rt::present( hdr->toTag ) },
-                           { literal<"early-only">(), hdr->earlyOnly != 0 } } );
+    ParamWriter params( line );
+    params.write<"from-tag">( hdr->fromTag );
+    params.write<"to-tag">( hdr->toTag );
+    params.writeMark<"early-only">( hdr->earlyOnly );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Replaces">(), line );
 }
 

@@ -47,10 +47,9 @@ TELSX_MESSAGE_HEADER telsxHeaderRetryAfterEncode( TELSX_HEADER_RETRY_AFTER hdr )
 {
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) );
-    if ( rt::present( hdr->duration ) )
-        append( line, ";duration=", Decimal( hdr->duration ) );
-    appendGenericParams( line, hdr->genericParams.get(),
-                         { { literal<"duration">(), rt::present( hdr->duration ) } } );
+    ParamWriter params( line );
+    params.write<"duration">( hdr->duration );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Retry-After">(), line );
 }
 

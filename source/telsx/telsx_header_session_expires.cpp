@@ -43,10 +43,9 @@ TELSX_MESSAGE_HEADER telsxHeaderSessionExpiresEncode( TELSX_HEADER_SESSION_EXPIR
 {
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) );
-    if ( hdr->refresher )
-        append( line, ";refresher=", hdr->refresher );
-    appendGenericParams( line, hdr->genericParams.get(),
-                         { { literal<"refresher">(), rt::present( hdr->refresher ) } } );
+    ParamWriter params( line );
+    params.write<"refresher">( hdr->refresher );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Session-Expires">(), line );
 }
 

@@ -67,16 +67,11 @@ TELSX_MESSAGE_HEADER telsxHeaderSubscriptionStateEncode( TELSX_HEADER_SUBSCRIPTI
 {
     TELSX_ASSERT( hdr );
     Ref<RT_STRING> line = hdr->substateValue;
-    if ( hdr->reason )
-        append( line, ";reason=", hdr->reason );
-    if ( rt::present( hdr->expires ) )
-        append( line, ";expires=", Decimal( hdr->expires ) );
-    if ( rt::present( hdr->retryAfter ) )
-        append( line, ";retry-after=", Decimal( hdr->retryAfter ) );
-    appendGenericParams( line, hdr->genericParams.get(),
-                         { { literal<"reason">(), rt::present( hdr->reason ) },
-                           { literal<"expires">(), rt::present( hdr->expires ) },
-                           { literal<"retry-after">(), rt::present( hdr->retryAfter ) } } );
+    ParamWriter params( line );
+    params.write<"reason">( hdr->reason );
+    params.write<"expires">( hdr->expires );
+    params.write<"retry-after">( hdr->retryAfter );
+    params.writeGeneric( hdr->genericParams );
     return createHeader( literal<"Subscription-State">(), line );
 }
 

@@ -65,18 +65,12 @@ RT_STRING telsx___HistoryInfoEncode( TELSX_HISTORY_INFO hi )
     TELSX_ASSERT( hi );
     Ref<RT_STRING> text = adopt( rtStringCreate() );
     appendAddress( text, hi->iri, hi->displayName );
-    append( text, ";index=", hi->index );
-    if ( hi->rc )
-        append( text, ";rc=", hi->rc );
-    if ( hi->mp )
-        append( text, ";mp=", hi->mp );
-    if ( hi->np )
-        append( text, ";np=", hi->np );
-    appendGenericParams( text, hi->genericParams.get(),
-                         { { literal<"index">(), true },
-                           { literal<"rc">(), rt::present( hi->rc ) },
-                           { literal<"mp">(), rt::present( hi->mp ) },
-                           { literal<"np">(), rt::present( hi->np ) } } );
+    ParamWriter params( text );
+    params.write<"index">( hi->index );
+    params.write<"rc">( hi->rc );
+    params.write<"mp">( hi->mp );
+    params.write<"np">( hi->np );
+    params.writeGeneric( hi->genericParams );
     return text.take();
 }
 

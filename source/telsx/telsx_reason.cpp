@@ -45,13 +45,10 @@ RT_STRING telsx___ReasonEncode( TELSX_REASON reason )
 {
     TELSX_ASSERT( reason );
     Ref<RT_STRING> text = reason->protocol;
-    if ( reason->cause )
-        append( text, ";cause=", reason->cause );
-    if ( reason->text )
-        append( text, ";text=", adopt( telsx___QuotableStringEncode( reason->text.get() ) ) );
-    appendGenericParams( text, reason->genericParams.get(),
-                         { { literal<"cause">(), rt::present( reason->cause ) },
-                           { literal<"text">(), rt::present( reason->text ) } } );
+    ParamWriter params( text );
+    params.write<"cause">( reason->cause );
+    params.write<"text">( reason->text, telsx___QuotableStringEncode );
+    params.writeGeneric( reason->genericParams );
     return text.take();
 }
 

@@ -140,24 +140,14 @@ RT_STRING telsx___ViaEncode( TELSX_VIA via )
             adopt( telsx___HostEncode( via->host.get() ) ) );
     if ( rt::present( via->port ) )
         append( text, ':', adopt( telsx___PortEncode( via->port ) ) );
-    if ( rt::present( via->ttl ) )
-        append( text, ";ttl=", adopt( telsx___TtlEncode( via->ttl ) ) );
-    if ( via->maddr )
-        append( text, ";maddr=", adopt( telsx___HostEncode( via->maddr.get() ) ) );
-    if ( via->received )
-        append( text, ";received=", adopt( netAddressToStringShrink( via->received.get() ) ) );
-    if ( via->rportEmpty )
-        append( text, ";rport" );
-    else if ( rt::present( via->rportNumeric ) )
-        append( text, ";rport=", adopt( telsx___PortEncode( via->rportNumeric ) ) );
-    if ( via->branch )
-        append( text, ";branch=", via->branch );
-    appendGenericParams( text, via->genericParams.get(),
-                         { { literal<"ttl">(), rt::present( via->ttl ) },
-                           { literal<"maddr">(), rt::present( via->maddr ) },
-                           { literal<"received">(), rt::present( via->received ) },
-                           { literal<"rport">(), bool( telsxViaHasRport( via ) ) },
-                           { literal<"branch">(), rt::present( via->branch ) } } );
+    ParamWriter params( text );
+    params.write<"ttl">( via->ttl, telsx___TtlEncode );
+    params.write<"maddr">( via->maddr, telsx___HostEncode );
+    params.write<"received">( via->received, netAddressToStringShrink );
+    params.writeMark<"rport">( via->rportEmpty );
+    params.write<"rport">( via->rportNumeric, telsx___PortEncode );
+    params.write<"branch">( via->branch );
+    params.writeGeneric( via->genericParams );
     return text.take();
 }
 
