@@ -82,9 +82,9 @@ sub expanded
     for ( $body =~ /([A-Z_]+\( [^;]*? \)(?= [A-Za-z]|$)|\S[^;]*;)/g )
     {
         if (/^[A-Z_]+\(/) { push @items, expanded( $_, $comment ); next; }
-        my ($suffix) = /\b$prefix(\w*)\(/;
+        my ($suffix) = /\b(?:$prefix|telsx___$arguments[0])(\w*)\(/;
         my $section = /___/ ? 'internal' : ( grep { $_->[0] eq $name } @sections ) ? $name : '';
-        my $text = $suffix ? row( $macro, \%value, $suffix ) || die "$call: nothing tells of $suffix\n" : $macro->{comment};
+        my $text = $suffix && %{ $macro->{rows} } ? row( $macro, \%value, $suffix ) || die "$call: nothing tells of $suffix\n" : $macro->{comment};
         push @items, /^typedef/ ? [ '', $_, $comment || 'The handle of an object of the type.' ] : [ $section, $_, $text ];
     }
     return @items;

@@ -18,7 +18,7 @@ struct NET_ADDRESS_
     int64_t high;   // the groups of an IPv6 address, 64 bits each; an IPv4 address is the last 32
     int64_t low;
 
-    static auto fields( auto &self ) { return std::tie( self.family, self.high, self.low ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.family, self.high, self.low ); }
     static auto order( auto &self )
     {
         return std::tuple( self.family, static_cast<uint64_t>( self.high ),

@@ -8,7 +8,7 @@
 //         rt::Ref<RT_STRING> protocol;
 //         rt::Ref<RT_STRING> cause;
 //
-//         static auto fields( auto &self ) { return std::tie( self.protocol, self.cause ); }
+//         static constexpr auto fields( auto &self ) { return std::tie( self.protocol, self.cause ); }
 //     };
 //
 // A field is a Ref, an int64_t or an RT_BOOL. Copying, comparing and freeing go through the list, in its
@@ -107,7 +107,7 @@ public:
             retain( asObj( handle ) );
     }
     Ref( Ref &&other ) noexcept : handle( other.take() ) {}
-    ~Ref()
+    constexpr ~Ref()
     {
         if ( handle )
             releaseHandle( handle );
@@ -204,21 +204,39 @@ void put( F &field, F given )
     field = given;
 }
 
-// The size of an object with these fields behind the runtime's header.
-template <class... FIELD>
-consteval std::size_t sizeWith( std::type_identity<std::tuple<FIELD &...>> )
+// How many members and bases a plain structure has, which is how many values of any type can initialise it.
+struct AnyValue
 {
-    std::size_t size = sizeof( RT_OBJECT ), align = alignof( RT_OBJECT );
-    ( ( size = ( size + alignof( FIELD ) - 1 ) / alignof( FIELD ) * alignof( FIELD ) + sizeof( FIELD ) ),
-      ... );
-    return ( size + align - 1 ) / align * align;
+    template <class U>
+    operator U() const;
+};
+template <class T, class... VALUE>
+consteval std::size_t countMembers()
+{
+    if constexpr ( requires { T{ VALUE()..., AnyValue() }; } )
+        return countMembers<T, VALUE..., AnyValue>();
+    else
+        return sizeof...( VALUE );
 }
 
-// Whether a type's list names all its fields.
+// Whether a type's list names each of its fields once. A structure that adds nothing to its base has the base's list, for
+// which this is to be asked.
 template <class T>
 consteval bool listsAllFields()
 {
-    return sizeWith( std::type_identity<decltype( T::fields( std::declval<T &>() ) )>() ) == sizeof( T );
+    T object = {};
+    constexpr bool addsNothing = countMembers<T>() == 1;
+    return std::apply(
+        []( const auto &...field )
+        {
+            const void *places[] = { &field... };
+            for ( const void **one = places; one != std::end( places ); ++one )
+                for ( const void **other = places; other != one; ++other )
+                    if ( *one == *other )
+                        return false;
+            return addsNothing || countMembers<T>() == 1 + sizeof...( field );
+        },
+        T::fields( object ) );
 }
 
 // A new object with all fields absent. The runtime has filled the header, so only the fields are made.

@@ -11,7 +11,7 @@ struct RT_STORE_
     RT_OBJECT object;
     Ref<RT_DICT> entries; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.entries ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.entries ); }
 };
 
 static void freeFunc( RT_OBJ obj ) { rt::clearFields( rtStoreFrom( obj ) ); }

@@ -12,7 +12,7 @@ struct RT_TIME_
     RT_OBJECT object;
     int64_t year, month, day, hour, minute, second;
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.year, self.month, self.day, self.hour, self.minute, self.second );
     }

@@ -16,7 +16,7 @@ struct TELSX_ACCEPT_
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
     int64_t qvalue;                          // thousandths
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.mediaType, self.mediaSubtype, self.genericParams, self.qvalue );
     }

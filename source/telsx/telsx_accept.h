@@ -12,7 +12,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( Accept, ACCEPT )
+TELSX_VALUE_OBJECT( Accept, ACCEPT )
+TELSX_COMPARE_FUNC( Accept )
+TELSX_TO_STRING_FUNC( Accept )
 
 /* A value that takes every body: star, slash, star. */
 RT_API TELSX_ACCEPT telsxAcceptCreate( void );
@@ -38,14 +40,6 @@ RT_API void telsxAcceptDelQvalue( TELSX_ACCEPT *accept );
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxAcceptGenericParams( TELSX_ACCEPT accept );
 RT_API void telsxAcceptSetGenericParams( TELSX_ACCEPT *accept, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipAccept, is in telsx_skip.h. */
-RT_API RT_STRING telsx___AcceptEncode( TELSX_ACCEPT accept );
-RT_API TELSX_ACCEPT telsx___AcceptTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( Accept )
-TELSX_COMPARE_FUNC( Accept )
-TELSX_TO_STRING_FUNC( Accept )
 
 RT_END
 

@@ -14,7 +14,7 @@ struct TELSX_ACCEPT_ENCODING_
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
     int64_t qvalue;                          // thousandths
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.contentCoding, self.genericParams, self.qvalue );
     }

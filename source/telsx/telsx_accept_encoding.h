@@ -13,7 +13,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( AcceptEncoding, ACCEPT_ENCODING )
+TELSX_VALUE_OBJECT( AcceptEncoding, ACCEPT_ENCODING )
+TELSX_COMPARE_FUNC( AcceptEncoding )
+TELSX_TO_STRING_FUNC( AcceptEncoding )
 
 /* The value *, and one with this coding. The latter aborts unless telsxContentCodingOk. */
 RT_API TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreate( void );
@@ -38,15 +40,6 @@ RT_API void telsxAcceptEncodingDelQvalue( TELSX_ACCEPT_ENCODING *acceptEncoding 
 RT_API TELSX_GENERIC_PARAMS telsxAcceptEncodingGenericParams( TELSX_ACCEPT_ENCODING acceptEncoding );
 RT_API void telsxAcceptEncodingSetGenericParams( TELSX_ACCEPT_ENCODING *acceptEncoding,
                                                  TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipAcceptEncoding, is in
- * telsx_skip.h. */
-RT_API RT_STRING telsx___AcceptEncodingEncode( TELSX_ACCEPT_ENCODING acceptEncoding );
-RT_API TELSX_ACCEPT_ENCODING telsx___AcceptEncodingTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( AcceptEncoding )
-TELSX_COMPARE_FUNC( AcceptEncoding )
-TELSX_TO_STRING_FUNC( AcceptEncoding )
 
 RT_END
 

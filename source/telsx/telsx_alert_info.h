@@ -10,7 +10,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( AlertInfo, ALERT_INFO )
+TELSX_VALUE_OBJECT( AlertInfo, ALERT_INFO )
+TELSX_COMPARE_FUNC( AlertInfo )
+TELSX_TO_STRING_FUNC( AlertInfo )
 
 /* A value with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_ALERT_INFO telsxAlertInfoCreate( RT_STRING iri );
@@ -22,14 +24,6 @@ RT_API void telsxAlertInfoSetIri( TELSX_ALERT_INFO *alertInfo, RT_STRING iri );
 /* The parameters, never null. Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxAlertInfoGenericParams( TELSX_ALERT_INFO alertInfo );
 RT_API void telsxAlertInfoSetGenericParams( TELSX_ALERT_INFO *alertInfo, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipAlertInfo, is in telsx_skip.h. */
-RT_API RT_STRING telsx___AlertInfoEncode( TELSX_ALERT_INFO alertInfo );
-RT_API TELSX_ALERT_INFO telsx___AlertInfoTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( AlertInfo )
-TELSX_COMPARE_FUNC( AlertInfo )
-TELSX_TO_STRING_FUNC( AlertInfo )
 
 RT_END
 

@@ -11,7 +11,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( CallInfo, CALL_INFO )
+TELSX_VALUE_OBJECT( CallInfo, CALL_INFO )
+TELSX_COMPARE_FUNC( CallInfo )
+TELSX_TO_STRING_FUNC( CallInfo )
 
 /* A value with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_CALL_INFO telsxCallInfoCreate( RT_STRING iri );
@@ -30,14 +32,6 @@ RT_API void telsxCallInfoDelPurpose( TELSX_CALL_INFO *callInfo );
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxCallInfoGenericParams( TELSX_CALL_INFO callInfo );
 RT_API void telsxCallInfoSetGenericParams( TELSX_CALL_INFO *callInfo, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipCallInfo, is in telsx_skip.h. */
-RT_API RT_STRING telsx___CallInfoEncode( TELSX_CALL_INFO callInfo );
-RT_API TELSX_CALL_INFO telsx___CallInfoTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( CallInfo )
-TELSX_COMPARE_FUNC( CallInfo )
-TELSX_TO_STRING_FUNC( CallInfo )
 
 RT_END
 

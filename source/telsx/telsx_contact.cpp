@@ -24,7 +24,7 @@ struct TELSX_CONTACT_
     Ref<RT_STRING> np;
     Ref<RT_STRING> sipInstance; // with its angle brackets
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.iri, self.displayName, self.genericParams, self.qvalue, self.expires, self.rc,
                          self.mp, self.np, self.sipInstance );

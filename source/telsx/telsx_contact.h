@@ -7,7 +7,8 @@
  *     hi-param = ( "rc" / "mp" / "np" ) EQUAL index-val
  *     c-p-instance = "+sip.instance" EQUAL DQUOTE "<" instance-val ">" DQUOTE
  *
- * (RFC 3261, 25.1; RFC 7044, 10.3; RFC 5626, 10) Values sort by the fields in the order below. */
+ * (RFC 3261, 25.1; RFC 7044, 10.3; RFC 5626, 10) The address is always written in angle brackets. Values sort by the fields in the order
+ * below. */
 #ifndef TELSX_TELSX_CONTACT_H
 #define TELSX_TELSX_CONTACT_H
 
@@ -15,7 +16,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( Contact, CONTACT )
+TELSX_VALUE_OBJECT( Contact, CONTACT )
+TELSX_COMPARE_FUNC( Contact )
+TELSX_TO_STRING_FUNC( Contact )
 
 /* A contact with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_CONTACT telsxContactCreate( RT_STRING iri );
@@ -68,15 +71,6 @@ RT_API void telsxContactDelSipInstance( TELSX_CONTACT *contact );
  * aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxContactGenericParams( TELSX_CONTACT contact );
 RT_API void telsxContactSetGenericParams( TELSX_CONTACT *contact, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, with the address in angle brackets always, a new
- * reference. TryDecode takes one whole value and gives a new reference, or null for bad text. The skipper,
- * telsx___SkipContact, is in telsx_skip.h. */
-RT_API RT_STRING telsx___ContactEncode( TELSX_CONTACT contact );
-RT_API TELSX_CONTACT telsx___ContactTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( Contact )
-TELSX_COMPARE_FUNC( Contact )
-TELSX_TO_STRING_FUNC( Contact )
 
 RT_END
 

@@ -24,7 +24,7 @@ struct TELSX_DIVERSION_
     Ref<RT_STRING> screen;                   // lower case
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.iri, self.displayName, self.reason, self.counter, self.limit, self.privacy,
                          self.screen, self.genericParams );

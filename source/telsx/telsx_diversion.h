@@ -12,7 +12,7 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( Diversion, DIVERSION )
+TELSX_VALUE_OBJECT( Diversion, DIVERSION )
 
 /* A diversion by this address, with this display name or without one. They abort unless telsxIriOk and
  * telsxDisplayNameOk. */
@@ -64,12 +64,6 @@ RT_API void telsxDiversionDelScreen( TELSX_DIVERSION *diversion );
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxDiversionGenericParams( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetGenericParams( TELSX_DIVERSION *diversion, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipDiversion, is in telsx_skip.h. */
-RT_API RT_STRING telsx___DiversionEncode( TELSX_DIVERSION diversion );
-RT_API TELSX_DIVERSION telsx___DiversionTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( Diversion )
 
 RT_END
 

@@ -10,7 +10,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( ErrorInfo, ERROR_INFO )
+TELSX_VALUE_OBJECT( ErrorInfo, ERROR_INFO )
+TELSX_COMPARE_FUNC( ErrorInfo )
+TELSX_TO_STRING_FUNC( ErrorInfo )
 
 /* A value with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_ERROR_INFO telsxErrorInfoCreate( RT_STRING iri );
@@ -22,14 +24,6 @@ RT_API void telsxErrorInfoSetIri( TELSX_ERROR_INFO *errorInfo, RT_STRING iri );
 /* The parameters, never null. Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxErrorInfoGenericParams( TELSX_ERROR_INFO errorInfo );
 RT_API void telsxErrorInfoSetGenericParams( TELSX_ERROR_INFO *errorInfo, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipErrorInfo, is in telsx_skip.h. */
-RT_API RT_STRING telsx___ErrorInfoEncode( TELSX_ERROR_INFO errorInfo );
-RT_API TELSX_ERROR_INFO telsx___ErrorInfoTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( ErrorInfo )
-TELSX_COMPARE_FUNC( ErrorInfo )
-TELSX_TO_STRING_FUNC( ErrorInfo )
 
 RT_END
 

@@ -18,11 +18,12 @@ struct FromTo
     Ref<RT_STRING> epid;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.iri, self.displayName, self.tag, self.epid, self.genericParams );
     }
 };
+static_assert( rt::listsAllFields<FromTo>() );
 
 // The content of either header, for the unit of the other.
 inline FromTo *asFromTo( TELSX_HEADER_FROM hdr ) { return reinterpret_cast<FromTo *>( hdr ); }

@@ -11,5 +11,5 @@ struct TELSX_GENERIC_PARAM_
     int64_t valueType;        // -1 without a value
     rt::Ref<RT_STRING> value; // as it was set; of a quotable string the plain text
 
-    static auto fields( auto &self ) { return std::tie( self.name, self.valueType, self.value ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.name, self.valueType, self.value ); }
 };

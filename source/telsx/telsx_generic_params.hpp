@@ -12,7 +12,7 @@ struct TELSX_GENERIC_PARAMS_
     RT_OBJECT object;
     rt::Ref<RT_DICT> params; // from names in lower case to parameters, never null
 
-    static auto fields( auto &self ) { return std::tie( self.params ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.params ); }
 };
 
 namespace telsx

@@ -11,7 +11,7 @@ struct TELSX_HEADER_CALL_ID_
     RT_OBJECT object;
     Ref<RT_STRING> callId; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.callId ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.callId ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderCallId, HEADER_CALL_ID, id, "Call-Id" )

@@ -11,7 +11,7 @@ struct TELSX_HEADER_CONTACT_
     RT_BOOL starForm;      // then there are no values
     Ref<RT_VECTOR> values; // texts, never null
 
-    static auto fields( auto &self ) { return std::tie( self.starForm, self.values ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.starForm, self.values ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
     void beforeChange() { starForm = 0; }
     template <class VALUE>

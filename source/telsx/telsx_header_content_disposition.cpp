@@ -15,7 +15,7 @@ struct TELSX_HEADER_CONTENT_DISPOSITION_
     Ref<RT_STRING> handling;                 // lower case
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.dispositionType, self.handling, self.genericParams );
     }

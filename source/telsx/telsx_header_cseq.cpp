@@ -14,7 +14,7 @@ struct TELSX_HEADER_CSEQ_
     int64_t cseq;
     Ref<RT_STRING> method; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.cseq, self.method ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.cseq, self.method ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderCseq, HEADER_CSEQ, cs, "Cseq" )

@@ -12,7 +12,7 @@ struct TELSX_HEADER_DATE_
     RT_OBJECT object;
     Ref<RT_TIME> time; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.time ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.time ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderDate, HEADER_DATE, hdr, "Date" )

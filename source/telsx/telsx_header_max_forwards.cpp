@@ -12,7 +12,7 @@ struct TELSX_HEADER_MAX_FORWARDS_
     RT_OBJECT object;
     int64_t maxForwards; // 0 to 255
 
-    static auto fields( auto &self ) { return std::tie( self.maxForwards ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.maxForwards ); }
 };
 
 TELSX_DEFINE_OBJECT( HeaderMaxForwards, HEADER_MAX_FORWARDS, nullptr, telsx___HeaderMaxForwardsCompareFunc,

@@ -11,7 +11,7 @@ struct TELSX_HEADER_MIN_EXPIRES_
     RT_OBJECT object;
     int64_t deltaSeconds; // 0 or more
 
-    static auto fields( auto &self ) { return std::tie( self.deltaSeconds ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.deltaSeconds ); }
 };
 
 TELSX_DEFINE_OBJECT( HeaderMinExpires, HEADER_MIN_EXPIRES, nullptr, telsx___HeaderMinExpiresCompareFunc,

@@ -13,7 +13,7 @@ struct TELSX_HEADER_MIN_SE_
     int64_t deltaSeconds;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.deltaSeconds, self.genericParams ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.deltaSeconds, self.genericParams ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderMinSe, HEADER_MIN_SE, hdr, "Min-Se" )

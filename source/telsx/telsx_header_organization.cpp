@@ -11,7 +11,7 @@ struct TELSX_HEADER_ORGANIZATION_
     RT_OBJECT object;
     Ref<RT_STRING> organization; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.organization ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.organization ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderOrganization, HEADER_ORGANIZATION, hdr, "Organization" )

@@ -11,7 +11,7 @@ struct TELSX_HEADER_PRIORITY_
     RT_OBJECT object;
     Ref<RT_STRING> priorityValue; // lower case, never null
 
-    static auto fields( auto &self ) { return std::tie( self.priorityValue ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.priorityValue ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderPriority, HEADER_PRIORITY, hdr, "Priority" )

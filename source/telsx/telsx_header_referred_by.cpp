@@ -17,7 +17,7 @@ struct TELSX_HEADER_REFERRED_BY_
     Ref<RT_STRING> cid;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.iri, self.displayName, self.cid, self.genericParams );
     }

@@ -17,7 +17,7 @@ struct TELSX_HEADER_REPLACES_
     RT_BOOL earlyOnly;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.callId, self.fromTag, self.toTag, self.earlyOnly, self.genericParams );
     }

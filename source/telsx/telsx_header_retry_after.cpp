@@ -14,7 +14,7 @@ struct TELSX_HEADER_RETRY_AFTER_
     int64_t duration;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.deltaSeconds, self.duration, self.genericParams );
     }

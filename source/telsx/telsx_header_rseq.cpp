@@ -12,7 +12,7 @@ struct TELSX_HEADER_RSEQ_
     RT_OBJECT object;
     int64_t responseNum; // 1 to 4294967295
 
-    static auto fields( auto &self ) { return std::tie( self.responseNum ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.responseNum ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderRseq, HEADER_RSEQ, hdr, "Rseq" )

@@ -11,7 +11,7 @@ struct TELSX_HEADER_SERVER_
     RT_OBJECT object;
     Ref<RT_STRING> server; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.server ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.server ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderServer, HEADER_SERVER, hdr, "Server" )

@@ -15,7 +15,7 @@ struct TELSX_HEADER_SESSION_EXPIRES_
     Ref<RT_STRING> refresher;                // lower case
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.deltaSeconds, self.refresher, self.genericParams );
     }

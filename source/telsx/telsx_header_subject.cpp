@@ -11,7 +11,7 @@ struct TELSX_HEADER_SUBJECT_
     RT_OBJECT object;
     Ref<RT_STRING> subject; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.subject ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.subject ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderSubject, HEADER_SUBJECT, hdr, "Subject" )

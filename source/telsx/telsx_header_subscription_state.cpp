@@ -18,7 +18,7 @@ struct TELSX_HEADER_SUBSCRIPTION_STATE_
     int64_t retryAfter;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.substateValue, self.reason, self.expires, self.retryAfter, self.genericParams );
     }

@@ -11,7 +11,7 @@ struct TELSX_HEADER_TIMESTAMP_
     RT_OBJECT object;
     Ref<RT_STRING> timestampValue; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.timestampValue ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.timestampValue ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderTimestamp, HEADER_TIMESTAMP, hdr, "Timestamp" )

@@ -11,7 +11,7 @@ struct TELSX_HEADER_USER_AGENT_
     RT_OBJECT object;
     Ref<RT_STRING> userAgent; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.userAgent ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.userAgent ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderUserAgent, HEADER_USER_AGENT, hdr, "User-Agent" )

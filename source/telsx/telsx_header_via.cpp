@@ -12,7 +12,7 @@ struct TELSX_HEADER_VIA_
     Ref<RT_VECTOR> values;           // texts, never null
     ReadValue<TELSX_VIA> firstValue; // the top Via, for which most readers ask
 
-    static auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
     void beforeChange() { clear( firstValue ); }
     template <class VALUE>

@@ -19,7 +19,7 @@ struct TELSX_HISTORY_INFO_
     Ref<RT_STRING> np;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.iri, self.displayName, self.index, self.rc, self.mp, self.np,
                          self.genericParams );

@@ -14,7 +14,8 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( HistoryInfo, HISTORY_INFO )
+TELSX_VALUE_OBJECT( HistoryInfo, HISTORY_INFO )
+TELSX_COMPARE_FUNC( HistoryInfo )
 
 /* A value with this address and index and nothing else. Aborts unless telsxIriOk and
  * telsxHistoryInfoIndexOk. */
@@ -52,13 +53,6 @@ RT_API void telsxHistoryInfoDelNp( TELSX_HISTORY_INFO *hi );
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHistoryInfoGenericParams( TELSX_HISTORY_INFO hi );
 RT_API void telsxHistoryInfoSetGenericParams( TELSX_HISTORY_INFO *hi, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipHistoryInfo, is in telsx_skip.h. */
-RT_API RT_STRING telsx___HistoryInfoEncode( TELSX_HISTORY_INFO hi );
-RT_API TELSX_HISTORY_INFO telsx___HistoryInfoTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( HistoryInfo )
-TELSX_COMPARE_FUNC( HistoryInfo )
 
 RT_END
 

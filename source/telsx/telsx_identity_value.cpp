@@ -13,7 +13,7 @@ struct TELSX_IDENTITY_VALUE_
     Ref<RT_STRING> iri; // never null
     Ref<RT_STRING> displayName;
 
-    static auto fields( auto &self ) { return std::tie( self.iri, self.displayName ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.displayName ); }
 };
 
 TELSX_DEFINE_OBJECT( IdentityValue, IDENTITY_VALUE, telsx___IdentityValueFreeFunc,

@@ -12,7 +12,8 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( IdentityValue, IDENTITY_VALUE )
+TELSX_VALUE_OBJECT( IdentityValue, IDENTITY_VALUE )
+TELSX_COMPARE_FUNC( IdentityValue )
 
 /* An identity with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_IDENTITY_VALUE telsxIdentityValueCreate( RT_STRING iri );
@@ -26,13 +27,6 @@ RT_API RT_STRING telsxIdentityValueDisplayName( TELSX_IDENTITY_VALUE value );
 RT_API RT_BOOL telsxIdentityValueHasDisplayName( TELSX_IDENTITY_VALUE value );
 RT_API void telsxIdentityValueSetDisplayName( TELSX_IDENTITY_VALUE *value, RT_STRING displayName );
 RT_API void telsxIdentityValueDelDisplayName( TELSX_IDENTITY_VALUE *value );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipIdentityValue, is in telsx_skip.h. */
-RT_API RT_STRING telsx___IdentityValueEncode( TELSX_IDENTITY_VALUE value );
-RT_API TELSX_IDENTITY_VALUE telsx___IdentityValueTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( IdentityValue )
-TELSX_COMPARE_FUNC( IdentityValue )
 
 RT_END
 

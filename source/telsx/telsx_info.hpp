@@ -23,8 +23,9 @@ struct Info
     Ref<RT_STRING> iri;                      // never null
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.iri, self.genericParams ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.genericParams ); }
 };
+static_assert( rt::listsAllFields<Info>() );
 
 inline RT_STRING encodeInfo( const Info &info )
 {

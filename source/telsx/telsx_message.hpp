@@ -9,5 +9,5 @@ struct TELSX_MESSAGE_
     RT_OBJECT object;
     rt::Ref<TELSX_MESSAGE_FRAGMENT> fragment; // a request or a response, never null
 
-    static auto fields( auto &self ) { return std::tie( self.fragment ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.fragment ); }
 };

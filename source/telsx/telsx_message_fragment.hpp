@@ -15,7 +15,7 @@ struct TELSX_MESSAGE_FRAGMENT_
     rt::Ref<telsx::HeaderTable *> headers;   // never null
     rt::Ref<RT_BUFFER> body;
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.requestMethod, self.requestIri, self.responseStatusCode,
                          self.responseReasonPhrase, self.version, self.headers, self.body );

@@ -11,7 +11,7 @@ struct TELSX_MESSAGE_HEADER_
     rt::Ref<RT_STRING> name;  // canonical, never null
     rt::Ref<RT_VECTOR> lines; // of strings, never null
 
-    static auto fields( auto &self ) { return std::tie( self.name, self.lines ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.name, self.lines ); }
 };
 
 namespace telsx

@@ -15,7 +15,7 @@ struct TELSX_MESSAGE_STREAM_DECODER_
     int64_t scanOffset;    // where the search for the blank line goes on; of a pending message, its body
     int64_t contentLength; // of the last head
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.error, self.buffer, self.pendingMessage, self.scanOffset, self.contentLength );
     }

@@ -29,4 +29,16 @@
 #define TELSX_COMPARE_FUNC( NAME ) RT_API int64_t telsx___##NAME##CompareFunc( RT_OBJ objA, RT_OBJ objB );
 #define TELSX_TO_STRING_FUNC( NAME ) RT_API RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj );
 
+/* A value of a list header, and what such a header needs of it:
+ *
+ *   Encode            the value's text, a new reference; null aborts
+ *   TryDecode         one whole value: a new reference, or null for bad text. A negative length aborts, and so does null
+ *                     with a length
+ *   FreeFunc          what the sort record's slot calls */
+#define TELSX_VALUE_OBJECT( NAME, SORT )                                                 \
+    TELSX_OBJECT( NAME, SORT )                                                           \
+    RT_API RT_STRING telsx___##NAME##Encode( TELSX_##SORT value );                       \
+    RT_API TELSX_##SORT telsx___##NAME##TryDecode( const RT_CHAR *chs, int64_t length ); \
+    RT_API void telsx___##NAME##FreeFunc( RT_OBJ obj );
+
 #endif

@@ -17,7 +17,7 @@ struct TELSX_REASON_
     Ref<RT_STRING> text;                     // plain
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.protocol, self.cause, self.text, self.genericParams );
     }

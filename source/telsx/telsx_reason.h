@@ -13,7 +13,7 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( Reason, REASON )
+TELSX_VALUE_OBJECT( Reason, REASON )
 
 /* A reason with this protocol and nothing else. Aborts unless telsxReasonProtocolOk. */
 RT_API TELSX_REASON telsxReasonCreate( RT_STRING reasonProtocol );
@@ -38,12 +38,6 @@ RT_API void telsxReasonDelText( TELSX_REASON *reason );
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxReasonGenericParams( TELSX_REASON reason );
 RT_API void telsxReasonSetGenericParams( TELSX_REASON *reason, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipReason, is in telsx_skip.h. */
-RT_API RT_STRING telsx___ReasonEncode( TELSX_REASON reason );
-RT_API TELSX_REASON telsx___ReasonTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( Reason )
 
 RT_END
 

@@ -12,7 +12,8 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( Route, ROUTE )
+TELSX_VALUE_OBJECT( Route, ROUTE )
+TELSX_COMPARE_FUNC( Route )
 
 /* A route with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_ROUTE telsxRouteCreate( RT_STRING iri );
@@ -30,14 +31,6 @@ RT_API void telsxRouteDelDisplayName( TELSX_ROUTE *route );
 /* The parameters, never null. Those of the address, such as lr, are part of the IRI. Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxRouteGenericParams( TELSX_ROUTE route );
 RT_API void telsxRouteSetGenericParams( TELSX_ROUTE *route, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value, with
- * its address in brackets or bare, and gives a new reference, or null for bad text. The skipper,
- * telsx___SkipRoute, is in telsx_skip.h. */
-RT_API RT_STRING telsx___RouteEncode( TELSX_ROUTE route );
-RT_API TELSX_ROUTE telsx___RouteTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( Route )
-TELSX_COMPARE_FUNC( Route )
 
 RT_END
 

@@ -13,8 +13,9 @@ struct TokenList
     RT_OBJECT object;
     Ref<RT_VECTOR> tokens; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.tokens ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.tokens ); }
 };
+static_assert( rt::listsAllFields<TokenList>() );
 
 // Fills a new list with the tokens of the raw header; false for bad text, and for no lines.
 bool decodeTokens( TokenList *list, HeaderLines &lines, Skipper skipToken,

@@ -13,8 +13,9 @@ struct TokenSet
     RT_OBJECT object;
     Ref<RT_DICT> tokens; // never null
 
-    static auto fields( auto &self ) { return std::tie( self.tokens ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.tokens ); }
 };
+static_assert( rt::listsAllFields<TokenSet>() );
 
 // What stands between two tokens.
 struct Separator

@@ -44,7 +44,7 @@ struct ValueList
     RT_OBJECT object;
     Ref<RT_VECTOR> values; // texts, never null
 
-    static auto fields( auto &self ) { return std::tie( self.values ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.values ); }
 
     // Drops what doesn't hold any more when the list changes.
     void beforeChange() {}
@@ -56,6 +56,7 @@ struct ValueList
         return nullptr;
     }
 };
+static_assert( rt::listsAllFields<ValueList>() );
 
 // A new header with an empty list.
 template <class T>

@@ -14,7 +14,7 @@ struct TELSX_VERSION_
     Ref<RT_STRING> protocolName;    // upper case, never null
     Ref<RT_STRING> protocolVersion; // lower case, never null
 
-    static auto fields( auto &self ) { return std::tie( self.protocolName, self.protocolVersion ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.protocolName, self.protocolVersion ); }
 };
 
 TELSX_DEFINE_OBJECT( Version, VERSION, telsx___VersionFreeFunc, telsx___VersionCompareFunc,

@@ -26,7 +26,7 @@ struct TELSX_VIA_
     Ref<RT_STRING> branch;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static auto fields( auto &self )
+    static constexpr auto fields( auto &self )
     {
         return std::tie( self.version, self.transport, self.host, self.port, self.ttl, self.maddr,
                          self.received, self.rportEmpty, self.rportNumeric, self.branch, self.genericParams );

@@ -20,7 +20,9 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( Via, VIA )
+TELSX_VALUE_OBJECT( Via, VIA )
+TELSX_COMPARE_FUNC( Via )
+TELSX_TO_STRING_FUNC( Via )
 
 /* A Via with these fields and nothing else; the dummy is of transport UDP and host localhost. They abort for
  * a null version and unless telsxTransportOk, telsxHostOk and telsxPortOk. */
@@ -84,14 +86,6 @@ RT_API void telsxViaDelRport( TELSX_VIA *via );
  * aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxViaGenericParams( TELSX_VIA via );
 RT_API void telsxViaSetGenericParams( TELSX_VIA *via, TELSX_GENERIC_PARAMS genericParams );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipVia, is in telsx_skip.h. */
-RT_API RT_STRING telsx___ViaEncode( TELSX_VIA via );
-RT_API TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( Via )
-TELSX_COMPARE_FUNC( Via )
-TELSX_TO_STRING_FUNC( Via )
 
 RT_END
 

@@ -10,7 +10,8 @@
 
 RT_BEGIN
 
-TELSX_OBJECT( WarningValue, WARNING_VALUE )
+TELSX_VALUE_OBJECT( WarningValue, WARNING_VALUE )
+TELSX_COMPARE_FUNC( WarningValue )
 
 /* A warning with the usual text of the code, or with one of the caller's. They abort unless
  * telsxWarnCodeOk, telsxWarnAgentOk and telsxWarnTextOk. */
@@ -30,13 +31,6 @@ RT_API void telsxWarningValueSetWarnAgent( TELSX_WARNING_VALUE *wv, RT_STRING wa
 /* The text, plain, never null, possibly empty. Set aborts unless telsxWarnTextOk. */
 RT_API RT_STRING telsxWarningValueWarnText( TELSX_WARNING_VALUE wv );
 RT_API void telsxWarningValueSetWarnText( TELSX_WARNING_VALUE *wv, RT_STRING warnText );
-
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
- * gives a new reference, or null for bad text. The skipper, telsx___SkipWarningValue, is in telsx_skip.h. */
-RT_API RT_STRING telsx___WarningValueEncode( TELSX_WARNING_VALUE wv );
-RT_API TELSX_WARNING_VALUE telsx___WarningValueTryDecode( const RT_CHAR *chs, int64_t length );
-TELSX_FREE_FUNC( WarningValue )
-TELSX_COMPARE_FUNC( WarningValue )
 
 RT_END
 
