@@ -209,6 +209,12 @@ void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name
     delHeader( TELSX_OWN( frag )->headers, headerName( normal.get() ) );
 }
 
+RT_BOOL telsxMessageFragmentHasLoneLineEnds( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return haveLineEnds( frag->headers.get() );
+}
+
 // Body
 
 TELSX_DEFINE_FIELD( MessageFragment, frag, Body, body, body )
