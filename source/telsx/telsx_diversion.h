@@ -29,8 +29,8 @@ RT_API RT_BOOL telsxDiversionHasDisplayName( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetDisplayName( TELSX_DIVERSION *diversion, RT_STRING displayName );
 RT_API void telsxDiversionDelDisplayName( TELSX_DIVERSION *diversion );
 
-/* Why the call was diverted, or null. Set takes any text and keeps it in lower case; null aborts, and a
- * text with CR or LF can't be written. */
+/* Why the call was diverted, or null. Set takes any text but null, which aborts, and keeps it in lower case. A text with CR
+ * or LF can be set but not encoded: whatever encodes or appends the value then aborts. Ask telsxQuotableStringOk first. */
 RT_API RT_STRING telsxDiversionReason( TELSX_DIVERSION diversion );
 RT_API RT_BOOL telsxDiversionHasReason( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetReason( TELSX_DIVERSION *diversion, RT_STRING reason );
@@ -50,7 +50,8 @@ RT_API RT_BOOL telsxDiversionHasLimit( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetLimit( TELSX_DIVERSION *diversion, int64_t limit );
 RT_API void telsxDiversionDelLimit( TELSX_DIVERSION *diversion );
 
-/* How the diverting party wants to be shown, and whether it was verified: texts like the reason. */
+/* How the diverting party wants to be shown, and whether it was verified: texts like the reason, which can likewise be set
+ * with CR or LF and not encoded. */
 RT_API RT_STRING telsxDiversionPrivacy( TELSX_DIVERSION diversion );
 RT_API RT_BOOL telsxDiversionHasPrivacy( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetPrivacy( TELSX_DIVERSION *diversion, RT_STRING privacy );
@@ -65,7 +66,8 @@ RT_API void telsxDiversionDelScreen( TELSX_DIVERSION *diversion );
 RT_API TELSX_GENERIC_PARAMS telsxDiversionGenericParams( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetGenericParams( TELSX_DIVERSION *diversion, TELSX_GENERIC_PARAMS genericParams );
 
-/* For the library's own units. Encode gives the text, a new reference. TryDecode takes one whole value and
+/* For the library's own units. Encode gives the text, a new reference; it aborts for a reason, privacy or screen with CR or
+ * LF. TryDecode takes one whole value and
  * gives a new reference, or null for bad text. The skipper, telsx___SkipDiversion, is in telsx_skip.h. */
 RT_API RT_STRING telsx___DiversionEncode( TELSX_DIVERSION diversion );
 RT_API TELSX_DIVERSION telsx___DiversionTryDecode( const RT_CHAR *chs, int64_t length );

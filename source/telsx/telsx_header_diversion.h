@@ -24,7 +24,8 @@ RT_API TELSX_HEADER_DIVERSION telsxHeaderDiversionCreate( void );
 RT_API int64_t telsxHeaderDiversionDiversionsLength( TELSX_HEADER_DIVERSION hdr );
 RT_API TELSX_DIVERSION telsxHeaderDiversionTryDecodeDiversionAt( TELSX_HEADER_DIVERSION hdr, int64_t index );
 
-/* Changes of the list. The header keeps the text of the value and not the value; null aborts. */
+/* Changes of the list. The header keeps the text of the value and not the value. Set, Prepend, Append and Insert abort for
+ * null and for a value that can't be encoded, since its reason, privacy or screen holds CR or LF. */
 RT_API void telsxHeaderDiversionSetDiversionAt( TELSX_HEADER_DIVERSION *hdr, int64_t index,
                                                 TELSX_DIVERSION diversion );
 RT_API void telsxHeaderDiversionDelDiversionAt( TELSX_HEADER_DIVERSION *hdr, int64_t index );
