@@ -22,9 +22,13 @@ static void freeFunc( RT_OBJ obj )
     table->others = {};
 }
 
-static constexpr RT_SORT_ sort = {
-    RT_STATIC_OBJECT, &telsx___module, "TELSX_HEADER_TABLE", freeFunc, nullptr, nullptr, {}
-};
+static constexpr RT_SORT_ sort = { RT_STATIC_OBJECT( &rt___sort_RT_SORT ),
+                                   &telsx___module,
+                                   "TELSX_HEADER_TABLE",
+                                   freeFunc,
+                                   nullptr,
+                                   nullptr,
+                                   {} };
 
 Ref<HeaderTable *> createHeaderTable( Bytes bytes, bool isAscii )
 {
