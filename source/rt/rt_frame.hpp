@@ -193,6 +193,18 @@ bool present( const Ref<HANDLE> &field )
 }
 inline bool present( const int64_t &field ) { return field != -1; }
 
+// Whether a setter is given something: any number is.
+template <class HANDLE>
+bool given( HANDLE handle )
+{
+    return handle != nullptr;
+}
+template <Number F>
+bool given( F )
+{
+    return true;
+}
+
 // What a getter returns, and what a setter stores.
 template <class HANDLE>
 HANDLE value( const Ref<HANDLE> &field )

@@ -47,6 +47,7 @@ void telsxHeaderContentEncodingSetContentCodingAt( TELSX_HEADER_CONTENT_ENCODING
                                                    RT_STRING contentCoding )
 {
     TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( contentCoding );
     Ref<RT_STRING> normal = adopt( telsxContentCodingNormalize( contentCoding ) );
     rtVectorSetStringAt( TELSX_OWN( hdr )->contentCodings.address(), index, normal.get() );
 }
@@ -61,6 +62,7 @@ void telsxHeaderContentEncodingPrependContentCoding( TELSX_HEADER_CONTENT_ENCODI
                                                      RT_STRING contentCoding )
 {
     TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( contentCoding );
     Ref<RT_STRING> normal = adopt( telsxContentCodingNormalize( contentCoding ) );
     rtVectorPrependString( TELSX_OWN( hdr )->contentCodings.address(), normal.get() );
 }
@@ -69,6 +71,7 @@ void telsxHeaderContentEncodingAppendContentCoding( TELSX_HEADER_CONTENT_ENCODIN
                                                     RT_STRING contentCoding )
 {
     TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( contentCoding );
     Ref<RT_STRING> normal = adopt( telsxContentCodingNormalize( contentCoding ) );
     rtVectorAppendString( TELSX_OWN( hdr )->contentCodings.address(), normal.get() );
 }
@@ -77,6 +80,7 @@ void telsxHeaderContentEncodingInsertContentCoding( TELSX_HEADER_CONTENT_ENCODIN
                                                     RT_STRING contentCoding )
 {
     TELSX_ASSERT_HANDLE( hdr );
+    TELSX_ASSERT( contentCoding );
     Ref<RT_STRING> normal = adopt( telsxContentCodingNormalize( contentCoding ) );
     rtVectorInsertString( TELSX_OWN( hdr )->contentCodings.address(), index, normal.get() );
 }

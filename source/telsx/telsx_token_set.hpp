@@ -59,18 +59,21 @@ void setEach( T **hdr, RT_VECTOR vec, void ( *set )( T **hdr, RT_STRING element 
     RT_BOOL telsx##NAME##Has##WORD( TELSX_HANDLE( NAME ) hdr, RT_STRING element )                   \
     {                                                                                               \
         TELSX_ASSERT( hdr );                                                                        \
+        TELSX_CHECK( element, nullptr, "element" );                                                 \
         TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );          \
         return rtDictHasStringKey( hdr->tokens.get(), telsx::adopt( NORMALIZE( element ) ).get() ); \
     }                                                                                               \
     void telsx##NAME##Set##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                    \
     {                                                                                               \
         TELSX_ASSERT_HANDLE( hdr );                                                                 \
+        TELSX_CHECK( element, nullptr, "element" );                                                 \
         TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );          \
         telsx::setToken( TELSX_OWN( hdr )->tokens, telsx::adopt( NORMALIZE( element ) ) );          \
     }                                                                                               \
     void telsx##NAME##Del##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                    \
     {                                                                                               \
         TELSX_ASSERT_HANDLE( hdr );                                                                 \
+        TELSX_CHECK( element, nullptr, "element" );                                                 \
         TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );          \
         auto token = telsx::adopt( NORMALIZE( element ) );                                          \
         rtDictDelStringKey( TELSX_OWN( hdr )->tokens.address(), token.get() );                      \
