@@ -141,6 +141,7 @@ RT_VECTOR telsxMessageHeaderLinesVector( TELSX_MESSAGE_HEADER header )
 void telsxMessageHeaderSetLinesVector( TELSX_MESSAGE_HEADER *header, RT_VECTOR lines )
 {
     TELSX_ASSERT_HANDLE( header );
+    TELSX_ASSERT( lines );
     TELSX_ASSERT( rtVectorContainsOnly( lines, rtStringSort() ) );
     for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
     {
