@@ -90,6 +90,8 @@ constexpr Family families[] = {
     { "parameters of a Via", "Via", REPEAT( "Via: SIP/2.0/UDP a", ";p" + digits( i ) + "=a", "\r\n" ), nullptr },
     { "parameters of a Via, one name", "Via", REPEAT( "Via: SIP/2.0/UDP a", ";branch=a", "\r\n" ), nullptr },
     { "values of a Contact", "Contact", REPEAT( "Contact: <sip:a>", ",<sip:a>", "\r\n" ), nullptr },
+    { "bare addresses of a Contact", "Contact", REPEAT( "Contact: sip:a", ",sip:a", "\r\n" ), nullptr },
+    { "commas of an address", "Contact", REPEAT( "Contact: sip:a", ",sip", "\r\n" ), nullptr },
     { "values of a Route", "Route", REPEAT( "Route: <sip:a>", ",<sip:a>", "\r\n" ), nullptr },
     { "values of an Accept", "Accept", REPEAT( "Accept: a/b", ",a/b", "\r\n" ), nullptr },
     { "tokens of an Allow", "Allow", REPEAT( "Allow: A", ",M" + digits( i ), "\r\n" ), nullptr },

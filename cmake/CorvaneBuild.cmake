@@ -57,8 +57,10 @@ function( corvane_library NAME )
     target_include_directories( ${NAME} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>" )
     target_link_libraries( ${NAME} PUBLIC ${ARG_NEEDS}
         PRIVATE "$<BUILD_INTERFACE:corvane-flags>" ${ARG_PRIVATE_NEEDS} )
-    # Nobody replaces functions of the libraries, so that they may be bound and inlined inside.
-    target_compile_options( ${NAME} PRIVATE -fno-exceptions -fno-rtti -fno-semantic-interposition )
+    # Nobody replaces functions of the libraries, so that they may be bound and inlined inside. The one exception is
+    # rt___Abort; a program's own may throw, which takes the tables for unwinding.
+    target_compile_options( ${NAME} PRIVATE -fno-exceptions -fno-rtti -fno-semantic-interposition
+        -fasynchronous-unwind-tables )
     target_link_options( ${NAME} PRIVATE -Wl,-Bsymbolic-functions )
     set( map "${CMAKE_CURRENT_BINARY_DIR}/${NAME}.map" )
     file( CONFIGURE OUTPUT "${map}" CONTENT "{ global: ${NAME}*; local: *; };\n" )

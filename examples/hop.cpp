@@ -246,6 +246,16 @@ Message refuseExtensions( const Message &request, To to, const std::string &tag 
     return response;
 }
 
+// The 400 for a request with a CR or LF that ends no line here: whoever takes it for a line end would see other headers than
+// this proxy did. Nothing if the response would hold one too.
+Message refuseLineEnds( const Message &request, To to, const std::string &tag )
+{
+    Message response = respond( request, 400, std::move( to ), tag );
+    if ( telsxMessageHasLoneLineEnds( response.get() ) )
+        throw std::runtime_error( "a CR or LF stands alone in what a response repeats" );
+    return response;
+}
+
 // What the proxy sends when it gets the message; what it reads there goes to the stream. Throws a
 // std::runtime_error for bad ones.
 Message hop( Message message, const Place &place, std::ostream &read )
@@ -278,10 +288,19 @@ Message hop( Message message, const Place &place, std::ostream &read )
     telsxHeaderViaSetViaAt( vias.address(), 0, top.get() );
     telsxHeaderViaEncodeToMessage( vias.get(), message.address() );
     std::string method = toUtf8( Owned( telsxMessageRequestMethod( message.get() ) ) );
-    if ( !countHop( message ) )
+    auto needsAnswer = [&method]( const char *fault )
     {
         if ( method == "ACK" )
-            throw std::runtime_error( "an ACK has no answer, and this one no hop left" );
+            throw std::runtime_error( std::string( "an ACK has no answer, and this one " ) + fault );
+    };
+    if ( telsxMessageHasLoneLineEnds( message.get() ) )
+    {
+        needsAnswer( "a lone CR or LF" );
+        return refuseLineEnds( message, std::move( to ), mark );
+    }
+    if ( !countHop( message ) )
+    {
+        needsAnswer( "no hop left" );
         return respond( message, 483, std::move( to ), mark );
     }
     if ( telsxHeaderProxyRequirePresentInMessage( message.get() ) && method != "ACK" )

@@ -44,7 +44,7 @@ static constexpr rt::CharSet plainCharsUntil( RT_CHAR end )
 {
     rt::CharSet chars;
     for ( unsigned char ch = 0; ch < 0x80; ++ch )
-        if ( uriChars[ch] && ch != '#' && ch != '?' && ch != '-' && ch != end )
+        if ( uriChars[ch] && ch != '#' && ch != '?' && ch != '-' && ch != ',' && ch != end )
             chars.add( ch );
     return chars;
 }
@@ -110,6 +110,18 @@ static int64_t skipScheme( Text text )
     return length;
 }
 
+// Whether the text begins with a scheme that is usual in lists of addresses.
+static bool beginsAddress( Text text )
+{
+    for ( std::string_view scheme : { "sip:", "sips:", "tel:" } )
+        if ( text.length >= std::ssize( scheme )
+             && std::equal( scheme.begin(), scheme.end(), text.chs,
+                            []( char a, RT_CHAR b )
+                            { return RT_CHAR( a ) == ( isLetter( b, 'z' ) ? b | 0x20 : b ); } ) )
+            return true;
+    return false;
+}
+
 // The IRI, of which the character is no part.
 static Found find( Text text, RT_CHAR end = UINT32_MAX )
 {
@@ -138,12 +150,14 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
             rest.take( 2 );
             continue;
         }
-        if ( ch == end || !place.takes( ch ) )
+        if ( ch == end || !place.takes( ch ) || ( ch == ',' && beginsAddress( rest.behind( 1 ) ) ) )
             break;
         found.unicode |= ch >= 0x80;
         found.convertible |= ch == '-' && rest.length > 1 && rest.chs[1] == '-';
     }
     found.length = text.length - rest.length;
+    while ( text.chs[found.length - 1] == ',' )
+        --found.length;
     found.convertible |= found.unicode;
     return found;
 }

@@ -2,7 +2,9 @@
  *
  * An IRI is a scheme, a colon and the characters of RFC 3987. Two things are wider than there: square
  * brackets may stand anywhere behind the scheme, since SIP writes them in hosts, parameters and headers; and
- * nothing else is asked of the order of the parts. A percent sign needs two hex digits behind it. */
+ * nothing else is asked of the order of the parts. A percent sign needs two hex digits behind it. One thing is
+ * narrower, so that addresses without brackets can stand in a list: a comma that "sip:", "sips:" or "tel:", in any case,
+ * directly follows ends an IRI, and commas at the end of an IRI are no part of it. */
 #ifndef RSC_RSC_IRI_H
 #define RSC_RSC_IRI_H
 

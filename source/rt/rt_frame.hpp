@@ -23,6 +23,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <string_view>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -33,22 +34,33 @@
 // Ends the process if a condition that the caller owes doesn't hold. The text must be taken by # in the macro
 // that the unit writes: an argument handed on to another macro is expanded on the way.
 #define RT_CHECK( CONDITION, MESSAGE, EXPRESSION ) \
-    ( ( CONDITION ) ? void() : rt::fail( MESSAGE, __FILE__, __LINE__, EXPRESSION ) )
+    ( ( CONDITION ) ? void() : rt::fail<__FILE__>( MESSAGE, __LINE__, EXPRESSION ) )
 #define RT_ASSERT( ... ) RT_CHECK( ( __VA_ARGS__ ), nullptr, #__VA_ARGS__ )
 
 namespace rt
 {
 
-// The runtime is told the unit, "source/telsx/telsx_reason", and not the compiler's name for the file.
-[[noreturn, gnu::cold, gnu::noinline]] inline void fail( const char *message, const char *file, int line,
-                                                         const char *expression )
+// The unit, "source/telsx/telsx_reason", of the compiler's name for its file. As the parameter of a template it exists
+// as long as the library is loaded.
+struct Unit
 {
-    for ( const char *at = file; ( at = std::strstr( at, "source/" ) ) != nullptr; ++at )
-        file = at;
-    char unit[128] = "";
-    std::size_t length = std::strcspn( file, "." );
-    std::memcpy( unit, file, length < sizeof unit ? length : sizeof unit - 1 );
-    rt___Abort( message, unit, line, expression );
+    char name[64] = "";
+
+    template <std::size_t SIZE>
+    consteval Unit( const char ( &file )[SIZE] )
+    {
+        std::string_view path( file, SIZE - 1 );
+        std::size_t source = path.rfind( "source/" );
+        path.remove_prefix( source != path.npos ? source : path.rfind( '/' ) + 1 );
+        path = path.substr( 0, path.find( '.' ) );
+        path.copy( name, sizeof name - 1 );
+    }
+};
+
+template <Unit UNIT>
+[[noreturn, gnu::cold, gnu::noinline]] void fail( const char *message, int line, const char *expression )
+{
+    rt___Abort( message, UNIT.name, line, expression );
 }
 
 // Every handle points to a structure that begins with the runtime's header.
@@ -181,6 +193,18 @@ bool present( const Ref<HANDLE> &field )
 }
 inline bool present( const int64_t &field ) { return field != -1; }
 
+// Whether a setter is given something: any number is.
+template <class HANDLE>
+bool given( HANDLE handle )
+{
+    return handle != nullptr;
+}
+template <Number F>
+bool given( F )
+{
+    return true;
+}
+
 // What a getter returns, and what a setter stores.
 template <class HANDLE>
 HANDLE value( const Ref<HANDLE> &field )
@@ -294,9 +318,10 @@ T *own( T **handle )
 
 // The sort record of the type, and the eight functions that every type has. MODULE is the module's prefix,
 // telsx, and MODULE_OBJECT the address of its module object or null.
-#define RT_DEFINE_STDFUNCS( MODULE, MODULE_OBJECT, NAME, HANDLE, FREE, COMPARE, TO_STRING )                \
-    static constexpr RT_SORT_ MODULE##___sort_##HANDLE = { RT_STATIC_OBJECT, MODULE_OBJECT, #HANDLE, FREE, \
-                                                           COMPARE,          TO_STRING,     {} };          \
+#define RT_DEFINE_STDFUNCS( MODULE, MODULE_OBJECT, NAME, HANDLE, FREE, COMPARE, TO_STRING )          \
+    static constexpr RT_SORT_ MODULE##___sort_##HANDLE = {                                           \
+        RT_STATIC_OBJECT( &rt___sort_RT_SORT ), MODULE_OBJECT, #HANDLE, FREE, COMPARE, TO_STRING, {} \
+    };                                                                                               \
     RT_DEFINE_OPERATIONS( MODULE, NAME, HANDLE )
 #define RT_DEFINE_OPERATIONS( MODULE, NAME, HANDLE )                              \
     RT_SORT MODULE##NAME##Sort( void ) { return &MODULE##___sort_##HANDLE; }      \

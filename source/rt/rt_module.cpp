@@ -4,6 +4,7 @@
 #include <mutex>
 
 #include "rt/rt_memory.hpp"
+#include "rt/rt_string.h"
 
 // One started module, in a list of them all.
 struct Started
@@ -17,6 +18,15 @@ static constinit std::mutex mutex;
 static constinit Started *first = nullptr;
 
 static const RT_MODULE *asModule( RT_OBJ module ) { return reinterpret_cast<const RT_MODULE *>( module ); }
+
+static RT_STRING toStringFunc( RT_OBJ module )
+{
+    return rtStringCreateFromCstr( asModule( module )->record->name, -1 );
+}
+
+constexpr RT_SORT_ rt___sort_RT_MODULE = {
+    RT_STATIC_OBJECT( &rt___sort_RT_SORT ), nullptr, "RT_MODULE", nullptr, nullptr, toStringFunc, {}
+};
 
 // The link that leads to the module, or to null at the end of the list.
 static Started **find( RT_OBJ module )
@@ -44,19 +54,26 @@ RT_BOOL rtModuleStart( RT_OBJ module )
     return 1;
 }
 
-void rtModuleStop( RT_OBJ module )
+// Whether the module was started.
+static bool stop( RT_OBJ module )
 {
-    RT_ASSERT( module );
     std::lock_guard lock( mutex );
     Started **link = find( module );
     Started *started = *link;
-    RT_ASSERT( started );
-    if ( --started->starts == 0 )
+    if ( started && --started->starts == 0 )
     {
         *link = started->next;
         std::free( started );
         asModule( module )->shutdown();
     }
+    return started;
+}
+
+void rtModuleStop( RT_OBJ module )
+{
+    RT_ASSERT( module );
+    bool started = stop( module );
+    RT_ASSERT( started ); // the lock is free again for programs that go on
 }
 
 const RT_MODULE_RECORD *rtModuleRecord( RT_OBJ module )

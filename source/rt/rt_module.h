@@ -26,13 +26,16 @@ typedef struct RT_MODULE_RECORD_
 /* The module object. */
 typedef struct RT_MODULE_
 {
-    RT_OBJECT object;               /* its beginning, static */
+    RT_OBJECT object;               /* its beginning, static: RT_STATIC_OBJECT( &rt___sort_RT_MODULE ) */
     const RT_MODULE_RECORD *record; /* static */
     RT_BOOL ( *startup )( void );   /* at the first start; whether it came off */
     void *reserved;                 /* null */
     void ( *shutdown )( void );     /* at the last stop */
     void *reservedToo[5];           /* null */
 } RT_MODULE;
+
+/* The sort of modules. The text of a module is its name. */
+extern RT_API const struct RT_SORT_ rt___sort_RT_MODULE;
 
 /* Starts a module, which is what its ...Module() function returns: before anything else of it is called.
  * Returns the module's own answer, true for started. May be called again, from any thread: only the first

@@ -1,8 +1,6 @@
 // Objects, their counts and their end.
 #include "rt/rt_object.h"
 
-#include <cstdio>
-
 #include "rt/rt_blocks.hpp"
 #include "rt/rt_memory.hpp"
 #include "rt/rt_string.hpp"
@@ -15,6 +13,15 @@ int64_t rtObjsAlive( void ) { return alive; }
 static void countAlive( int64_t ) {}
 int64_t rtObjsAlive( void ) { return -1; }
 #endif
+
+static RT_STRING nameOf( RT_OBJ obj )
+{
+    return rtStringCreateFromCstr( reinterpret_cast<RT_SORT>( obj )->name, -1 );
+}
+
+constexpr RT_SORT_ rt___sort_RT_SORT = {
+    RT_STATIC_OBJECT( &rt___sort_RT_SORT ), nullptr, "RT_SORT", nullptr, nullptr, nameOf, {}
+};
 
 void rtObjRetain( RT_OBJ obj )
 {
@@ -80,12 +87,4 @@ void rt___StringFree( RT_STRING string )
     if ( string->parent )
         rtStringRelease( string->parent );
     freeBlock( rt::asObj( string ) );
-}
-
-void rt___Abort( const char *message, const char *file, int64_t line, const char *expression )
-{
-    const char *between = message ? ": " : "";
-    std::fprintf( stderr, "%s:%lld: %s%s%s\n", file, static_cast<long long>( line ), message ? message : "",
-                  between, expression );
-    std::abort();
 }

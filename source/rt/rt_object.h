@@ -44,7 +44,7 @@ typedef struct RT_STRING_ *RT_STRING;
 /* What every object begins with. Callers leave it alone. */
 typedef struct RT_OBJECT_
 {
-    RT_SORT sort;  /* null in the static records of a module */
+    RT_SORT sort;  /* the type */
     int64_t count; /* references, atomic; RT_COUNT_IMMORTAL and above is never counted */
     int64_t size;  /* of the block in bytes; 0 for an object that exists from load on */
 } RT_OBJECT, *RT_OBJ;
@@ -52,10 +52,10 @@ typedef struct RT_OBJECT_
 /* The least count of an object that is never freed. */
 #define RT_COUNT_IMMORTAL ( (int64_t)1 << 62 )
 
-/* The header of an object that exists from load on and is never freed. */
-#define RT_STATIC_OBJECT           \
+/* The header of an object of that sort that exists from load on and is never freed. */
+#define RT_STATIC_OBJECT( SORT )   \
     {                              \
-        NULL, RT_COUNT_IMMORTAL, 0 \
+        SORT, RT_COUNT_IMMORTAL, 0 \
     }
 
 /* The sort record: the static descriptor of an object type, whose address is the type's identity. Each of
@@ -70,6 +70,9 @@ struct RT_SORT_
     RT_STRING ( *toStringFunc )( RT_OBJ obj );            /* a new reference */
     void *reserved[5];                                    /* null */
 };
+
+/* The sort of sort records, which are objects too. Its text is the name of the type. */
+extern RT_API const struct RT_SORT_ rt___sort_RT_SORT;
 
 /* The functions that every type has.
  *
@@ -122,7 +125,14 @@ extern RT_API RT_THREAD_LOCAL struct RT_BLOCK_LISTS_ *rt___blockLists;
 RT_API int64_t rtObjsAlive( void );
 
 /* Ends the process, with one line on standard error: the source unit, the line, the message unless it is
- * null, and the condition that did not hold. */
+ * null, and the condition that did not hold.
+ *
+ * A program may define this function itself, with C linkage. Its definition then serves all libraries, on the thread that
+ * broke the contract. The texts stay valid as long as the libraries are loaded. It must not return, but it may leave by
+ * longjmp or, in C++, by an exception. No destructor of the libraries runs on the way: what the call had allocated, and the
+ * references that it had taken, are never released. No lock is held, and all objects stay usable; one whose address
+ * the call was given may already have a part of the change. After the message "out of memory", which may come in the middle
+ * of a change, a program must not call the libraries again. */
 RT_NORETURN RT_API void rt___Abort( const char *message, const char *file, int64_t line,
                                     const char *expression );
 

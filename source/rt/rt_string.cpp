@@ -37,8 +37,9 @@ static int64_t compareFunc( RT_OBJ objA, RT_OBJ objB )
 
 static RT_STRING toStringFunc( RT_OBJ obj ) { return rt::share( rtStringFrom( obj ) ).take(); }
 
-constexpr RT_SORT_ rt___sort_RT_STRING = { RT_STATIC_OBJECT, nullptr,      "RT_STRING", freeFunc,
-                                           compareFunc,      toStringFunc, {} };
+constexpr RT_SORT_ rt___sort_RT_STRING = {
+    RT_STATIC_OBJECT( &rt___sort_RT_SORT ), nullptr, "RT_STRING", freeFunc, compareFunc, toStringFunc, {}
+};
 RT_DEFINE_OPERATIONS( rt, String, RT_STRING )
 
 // The length of a text argument, whose -1 means up to the zero.

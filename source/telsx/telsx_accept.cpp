@@ -44,7 +44,7 @@ TELSX_DEFINE_FIELD( Accept, accept, GenericParams, genericParams, genericParams 
 TELSX_ACCEPT telsxAcceptCreate( void )
 {
     TELSX_ACCEPT accept = rt::create<TELSX_ACCEPT_>( telsxAcceptSort() );
-    accept->genericParams = adopt( telsxGenericParamsCreate() );
+    accept->genericParams = noGenericParams();
     return accept;
 }
 

@@ -39,13 +39,13 @@ TELSX_DEFINE_FIELD( AcceptEncoding, acceptEncoding, GenericParams, genericParams
 TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreate( void )
 {
     TELSX_ACCEPT_ENCODING acceptEncoding = rt::create<TELSX_ACCEPT_ENCODING_>( telsxAcceptEncodingSort() );
-    acceptEncoding->genericParams = adopt( telsxGenericParamsCreate() );
+    acceptEncoding->genericParams = noGenericParams();
     return acceptEncoding;
 }
 
 TELSX_ACCEPT_ENCODING telsxAcceptEncodingCreateWithContentCoding( RT_STRING contentCoding )
 {
-    TELSX_ASSERT( telsxContentCodingOk( contentCoding ) );
+    TELSX_ASSERT_OK( telsxContentCodingOk, contentCoding );
     TELSX_ACCEPT_ENCODING acceptEncoding = telsxAcceptEncodingCreate();
     acceptEncoding->contentCoding = adopt( telsxContentCodingNormalize( contentCoding ) );
     return acceptEncoding;

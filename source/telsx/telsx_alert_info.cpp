@@ -22,10 +22,10 @@ static TELSX_ALERT_INFO create() { return rt::create<TELSX_ALERT_INFO_>( telsxAl
 
 TELSX_ALERT_INFO telsxAlertInfoCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_ALERT_INFO alertInfo = create();
     alertInfo->iri = share( iri );
-    alertInfo->genericParams = adopt( telsxGenericParamsCreate() );
+    alertInfo->genericParams = noGenericParams();
     return alertInfo;
 }
 

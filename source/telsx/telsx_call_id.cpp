@@ -6,10 +6,15 @@
 
 using namespace telsx;
 
-RT_BOOL telsxCallIdOk( RT_STRING callId ) { return covers( telsx___SkipCallId, callId ); }
+RT_BOOL telsxCallIdOk( RT_STRING callId )
+{
+    TELSX_ASSERT( callId );
+    return covers( telsx___SkipCallId, callId );
+}
 
 int64_t telsx___SkipCallId( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
     if ( !rest.take( telsx___SkipWord ) )
         return 0;

@@ -32,13 +32,13 @@ static Ref<TELSX_CALL_INFO> create( Ref<RT_STRING> iri )
 {
     auto callInfo = adopt( rt::create<TELSX_CALL_INFO_>( telsxCallInfoSort() ) );
     callInfo->iri = std::move( iri );
-    callInfo->genericParams = adopt( telsxGenericParamsCreate() );
+    callInfo->genericParams = noGenericParams();
     return callInfo;
 }
 
 TELSX_CALL_INFO telsxCallInfoCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     return create( share( iri ) ).take();
 }
 

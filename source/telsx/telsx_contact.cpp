@@ -63,13 +63,13 @@ static Ref<TELSX_CONTACT> create( Address address )
     auto contact = adopt( rt::create<TELSX_CONTACT_>( telsxContactSort() ) );
     contact->iri = std::move( address.iri );
     contact->displayName = std::move( address.displayName );
-    contact->genericParams = adopt( telsxGenericParamsCreate() );
+    contact->genericParams = noGenericParams();
     return contact;
 }
 
 TELSX_CONTACT telsxContactCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     return create( { .iri = share( iri ) } ).take();
 }
 

@@ -1,6 +1,7 @@
 // Delta seconds (RFC 3261, 25.1).
 #include "telsx/telsx_delta_seconds.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_skip.h"
 
@@ -22,5 +23,6 @@ int64_t telsx___DeltaSecondsTryDecode( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipDeltaSeconds( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipDigits( chs, length );
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classDigit>( { chs, length } );
 }

@@ -4,7 +4,6 @@
 #include "telsx/telsx_quotable_string.h"
 #include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
-#include "telsx/telsx_token.h"
 
 using namespace telsx;
 

@@ -1,13 +1,14 @@
 // Disposition type (RFC 3261, 25.1).
 #include "telsx/telsx_disposition_type.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_text.hpp"
-#include "telsx/telsx_token.h"
 
 using namespace telsx;
 
 RT_BOOL telsxDispositionTypeOk( RT_STRING dispositionType )
 {
+    TELSX_ASSERT( dispositionType );
     return covers( telsx___SkipDispositionType, dispositionType );
 }
 
@@ -19,5 +20,6 @@ RT_STRING telsxDispositionTypeNormalize( RT_STRING dispositionType )
 
 int64_t telsx___SkipDispositionType( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipToken( chs, length );
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classToken>( { chs, length } );
 }

@@ -53,13 +53,13 @@ static Ref<TELSX_DIVERSION> create( Address address )
     auto diversion = adopt( rt::create<TELSX_DIVERSION_>( telsxDiversionSort() ) );
     diversion->iri = std::move( address.iri );
     diversion->displayName = std::move( address.displayName );
-    diversion->genericParams = adopt( telsxGenericParamsCreate() );
+    diversion->genericParams = noGenericParams();
     return diversion;
 }
 
 TELSX_DIVERSION telsxDiversionCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     return create( { .iri = share( iri ) } ).take();
 }
 

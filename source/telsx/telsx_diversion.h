@@ -12,6 +12,7 @@
 
 RT_BEGIN
 
+/* Encoding aborts for a reason, privacy or screen that holds CR or LF. */
 TELSX_VALUE_OBJECT( Diversion, DIVERSION )
 
 /* A diversion by this address, with this display name or without one. They abort unless telsxIriOk and
@@ -29,8 +30,8 @@ RT_API RT_BOOL telsxDiversionHasDisplayName( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetDisplayName( TELSX_DIVERSION *diversion, RT_STRING displayName );
 RT_API void telsxDiversionDelDisplayName( TELSX_DIVERSION *diversion );
 
-/* Why the call was diverted, or null. Set takes any text and keeps it in lower case; null aborts, and a
- * text with CR or LF can't be written. */
+/* Why the call was diverted, or null. Set takes any text but null, which aborts, and keeps it in lower case. A text with CR
+ * or LF can be set but not encoded: whatever encodes or appends the value then aborts. Ask telsxQuotableStringOk first. */
 RT_API RT_STRING telsxDiversionReason( TELSX_DIVERSION diversion );
 RT_API RT_BOOL telsxDiversionHasReason( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetReason( TELSX_DIVERSION *diversion, RT_STRING reason );
@@ -50,7 +51,8 @@ RT_API RT_BOOL telsxDiversionHasLimit( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetLimit( TELSX_DIVERSION *diversion, int64_t limit );
 RT_API void telsxDiversionDelLimit( TELSX_DIVERSION *diversion );
 
-/* How the diverting party wants to be shown, and whether it was verified: texts like the reason. */
+/* How the diverting party wants to be shown, and whether it was verified: texts like the reason, which can likewise be set
+ * with CR or LF and not encoded. */
 RT_API RT_STRING telsxDiversionPrivacy( TELSX_DIVERSION diversion );
 RT_API RT_BOOL telsxDiversionHasPrivacy( TELSX_DIVERSION diversion );
 RT_API void telsxDiversionSetPrivacy( TELSX_DIVERSION *diversion, RT_STRING privacy );

@@ -1,6 +1,7 @@
 // Diversion limit (RFC 5806, 4).
 #include "telsx/telsx_diversion_limit.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_skip.h"
 
@@ -25,6 +26,7 @@ int64_t telsx___DiversionLimitTryDecode( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipDiversionLimit( const RT_CHAR *chs, int64_t length )
 {
-    int64_t digits = telsx___SkipDigits( chs, length );
+    TELSX_ASSERT_CHARS( chs, length );
+    int64_t digits = runOf<classDigit>( { chs, length } );
     return digits <= 2 ? digits : 0;
 }

@@ -7,6 +7,7 @@ using namespace telsx;
 
 RT_BOOL telsxDiversionPrivacyOk( RT_STRING diversionPrivacy )
 {
+    TELSX_ASSERT( diversionPrivacy );
     return covers( telsx___SkipDiversionPrivacy, diversionPrivacy );
 }
 
@@ -29,5 +30,6 @@ RT_STRING telsx___DiversionPrivacyTryDecode( const RT_CHAR *chs, int64_t length 
 
 int64_t telsx___SkipDiversionPrivacy( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipTokenOrQuoted( { chs, length } );
 }

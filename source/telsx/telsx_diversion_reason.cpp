@@ -7,6 +7,7 @@ using namespace telsx;
 
 RT_BOOL telsxDiversionReasonOk( RT_STRING diversionReason )
 {
+    TELSX_ASSERT( diversionReason );
     return covers( telsx___SkipDiversionReason, diversionReason );
 }
 
@@ -29,5 +30,6 @@ RT_STRING telsx___DiversionReasonTryDecode( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipDiversionReason( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipTokenOrQuoted( { chs, length } );
 }

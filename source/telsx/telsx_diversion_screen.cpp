@@ -7,6 +7,7 @@ using namespace telsx;
 
 RT_BOOL telsxDiversionScreenOk( RT_STRING diversionScreen )
 {
+    TELSX_ASSERT( diversionScreen );
     return covers( telsx___SkipDiversionScreen, diversionScreen );
 }
 
@@ -29,5 +30,6 @@ RT_STRING telsx___DiversionScreenTryDecode( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipDiversionScreen( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipTokenOrQuoted( { chs, length } );
 }

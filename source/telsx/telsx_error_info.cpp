@@ -22,10 +22,10 @@ static TELSX_ERROR_INFO create() { return rt::create<TELSX_ERROR_INFO_>( telsxEr
 
 TELSX_ERROR_INFO telsxErrorInfoCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_ERROR_INFO errorInfo = create();
     errorInfo->iri = share( iri );
-    errorInfo->genericParams = adopt( telsxGenericParamsCreate() );
+    errorInfo->genericParams = noGenericParams();
     return errorInfo;
 }
 

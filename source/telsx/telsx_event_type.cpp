@@ -6,9 +6,14 @@
 
 using namespace telsx;
 
-RT_BOOL telsxEventTypeOk( RT_STRING eventType ) { return covers( telsx___SkipEventType, eventType ); }
+RT_BOOL telsxEventTypeOk( RT_STRING eventType )
+{
+    TELSX_ASSERT( eventType );
+    return covers( telsx___SkipEventType, eventType );
+}
 
 int64_t telsx___SkipEventType( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipDotted( { chs, length }, telsx___SkipTokenNodot );
 }

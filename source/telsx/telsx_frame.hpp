@@ -14,6 +14,10 @@
     ( TELSX_CHECK( ( LENGTH ) >= 0, nullptr, #LENGTH " >= 0" ), \
       TELSX_CHECK( ( CHS ) || ( LENGTH ) == 0, nullptr, #CHS " || " #LENGTH " == 0" ) )
 
+// A text that an operation is given, and what the operation asks of it.
+#define TELSX_ASSERT_OK( OK, TEXT ) \
+    ( TELSX_CHECK( TEXT, nullptr, #TEXT ), TELSX_CHECK( OK( TEXT ), nullptr, #OK "( " #TEXT " )" ) )
+
 // The handle and its address that an operation is given which changes the object.
 #define TELSX_ASSERT_HANDLE( HANDLE ) \
     ( TELSX_CHECK( HANDLE, nullptr, #HANDLE ), TELSX_CHECK( *HANDLE, nullptr, "*" #HANDLE ) )
@@ -86,6 +90,7 @@ using rt::share;
                                  decltype( rt::value( ( *SELF )->MEMBER ) ) MEMBER ) \
     {                                                                                \
         TELSX_ASSERT_HANDLE( SELF );                                                 \
+        TELSX_CHECK( rt::given( MEMBER ), nullptr, #MEMBER );                        \
         TELSX_CHECK( OK, nullptr, #OK );                                             \
         rt::put( TELSX_OWN( SELF )->MEMBER, MEMBER );                                \
     }
@@ -96,6 +101,7 @@ using rt::share;
     void telsx##NAME##Set##WORD( TELSX_HANDLE( NAME ) * SELF, RT_STRING MEMBER ) \
     {                                                                            \
         TELSX_ASSERT_HANDLE( SELF );                                             \
+        TELSX_CHECK( MEMBER, nullptr, #MEMBER );                                 \
         TELSX_CHECK( OK, nullptr, #OK );                                         \
         auto normal = rt::adopt( NORMALIZE( MEMBER ) );                          \
         TELSX_OWN( SELF )->MEMBER = std::move( normal );                         \

@@ -26,7 +26,7 @@ bool decodeFromTo( FromTo &hdr, Text line )
         return false;
     hdr.iri = std::move( address.iri );
     hdr.displayName = std::move( address.displayName );
-    hdr.genericParams = adopt( telsxGenericParamsCreate() );
+    hdr.genericParams = noGenericParams();
 
     ParamReader param( rest );
     while ( param.next() )

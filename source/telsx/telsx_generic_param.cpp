@@ -6,7 +6,6 @@
 #include "telsx/telsx_host.h"
 #include "telsx/telsx_quotable_string.h"
 #include "telsx/telsx_text.hpp"
-#include "telsx/telsx_token.h"
 
 using namespace telsx;
 
@@ -33,7 +32,7 @@ int64_t telsx___GenericParamCompareFunc( RT_OBJ objA, RT_OBJ objB )
 
 TELSX_GENERIC_PARAM telsxGenericParamCreate( RT_STRING name )
 {
-    TELSX_ASSERT( telsxGenericParamNameOk( name ) );
+    TELSX_ASSERT_OK( telsxGenericParamNameOk, name );
     TELSX_GENERIC_PARAM param = rt::create<TELSX_GENERIC_PARAM_>( telsxGenericParamSort() );
     param->name = adopt( telsxGenericParamNameNormalize( name ) );
     return param;
@@ -61,6 +60,7 @@ RT_STRING telsxGenericParamValueNormalized( TELSX_GENERIC_PARAM param )
 void telsxGenericParamSetValue( TELSX_GENERIC_PARAM *param, int64_t type, RT_STRING value )
 {
     TELSX_ASSERT_HANDLE( param );
+    TELSX_ASSERT( value );
     TELSX_ASSERT( telsxGenericParamValueOk( type, value ) );
     TELSX_GENERIC_PARAM own = TELSX_OWN( param );
     own->valueType = type;

@@ -16,19 +16,11 @@ TELSX_DEFINE_FREE_FUNC( GenericParams, params )
 TELSX_DEFINE_COMPARE_FUNC( GenericParams, params )
 TELSX_DEFINE_TO_STRING_FUNC( GenericParams, params )
 
-// One empty set serves all; the first change makes another. It has the shape of the type without its Ref.
-static constexpr struct
-{
-    RT_OBJECT object;
-    const RT_DICT_ *params;
-} emptyParams = { { &telsx___sort_TELSX_GENERIC_PARAMS, RT_COUNT_IMMORTAL, 0 }, &rt___emptyDict };
-static_assert( sizeof emptyParams == sizeof( TELSX_GENERIC_PARAMS_ ) );
+constinit const EmptyGenericParams telsx::emptyGenericParams = {
+    { &telsx___sort_TELSX_GENERIC_PARAMS, RT_COUNT_IMMORTAL, 0 }, &rt___emptyDict
+};
 
-TELSX_GENERIC_PARAMS telsxGenericParamsCreate( void )
-{
-    return const_cast<TELSX_GENERIC_PARAMS>(
-        reinterpret_cast<const TELSX_GENERIC_PARAMS_ *>( &emptyParams ) );
-}
+TELSX_GENERIC_PARAMS telsxGenericParamsCreate( void ) { return rt::createFrom( noGenericParams().get() ); }
 
 // All parameters
 
@@ -81,6 +73,7 @@ RT_STRING telsxGenericParamsParamValueNonNormalizedAt( TELSX_GENERIC_PARAMS para
 TELSX_GENERIC_PARAM telsxGenericParamsParam( TELSX_GENERIC_PARAMS params, RT_STRING name )
 {
     TELSX_ASSERT( params );
+    TELSX_ASSERT( name );
     Ref<RT_STRING> normal = adopt( telsxGenericParamNameNormalize( name ) );
     return telsxGenericParamFrom( rtDictStringKey( params->params.get(), normal.get() ) );
 }
@@ -101,6 +94,7 @@ void telsxGenericParamsSetParam( TELSX_GENERIC_PARAMS *params, TELSX_GENERIC_PAR
 void telsxGenericParamsDelParam( TELSX_GENERIC_PARAMS *params, RT_STRING name )
 {
     TELSX_ASSERT_HANDLE( params );
+    TELSX_ASSERT( name );
     Ref<RT_STRING> normal = adopt( telsxGenericParamNameNormalize( name ) );
     rtDictDelStringKey( TELSX_OWN( params )->params.address(), normal.get() );
 }
@@ -126,6 +120,9 @@ RT_STRING telsxGenericParamsParamValueNonNormalized( TELSX_GENERIC_PARAMS params
 void telsxGenericParamsSetParamValue( TELSX_GENERIC_PARAMS *params, RT_STRING name, int64_t type,
                                       RT_STRING value )
 {
+    TELSX_ASSERT_HANDLE( params );
+    TELSX_ASSERT( name );
+    TELSX_ASSERT( value );
     telsxGenericParamsSetParam( params,
                                 adopt( telsxGenericParamCreateWithValue( name, type, value ) ).get() );
 }

@@ -118,18 +118,18 @@
  *   Clear<WORD>s         empties the list
  *   Set<WORD>sVector     fills the emptied list with the vector's elements; aborts for null, for an element that is not
  *                        a string, and for one that is not telsx<WORD>Ok */
-#define TELSX_HEADER_OF_LIST( NAME, SORT, WORD )                                                   \
+#define TELSX_HEADER_OF_LIST( NAME, SORT, WORD, ELEMENT )                                          \
     TELSX_HEADER( NAME, SORT )                                                                     \
     TELSX_FREE_FUNC( NAME )                                                                        \
     RT_API TELSX_##SORT telsx##NAME##Create( void );                                               \
     RT_API RT_VECTOR telsx##NAME##WORD##sVector( TELSX_##SORT hdr );                               \
     RT_API int64_t telsx##NAME##WORD##sLength( TELSX_##SORT hdr );                                 \
     RT_API RT_STRING telsx##NAME##WORD##At( TELSX_##SORT hdr, int64_t index );                     \
-    RT_API void telsx##NAME##Set##WORD##At( TELSX_##SORT *hdr, int64_t index, RT_STRING element ); \
+    RT_API void telsx##NAME##Set##WORD##At( TELSX_##SORT *hdr, int64_t index, RT_STRING ELEMENT ); \
     RT_API void telsx##NAME##Del##WORD##At( TELSX_##SORT *hdr, int64_t index );                    \
-    RT_API void telsx##NAME##Prepend##WORD( TELSX_##SORT *hdr, RT_STRING element );                \
-    RT_API void telsx##NAME##Append##WORD( TELSX_##SORT *hdr, RT_STRING element );                 \
-    RT_API void telsx##NAME##Insert##WORD( TELSX_##SORT *hdr, int64_t index, RT_STRING element );  \
+    RT_API void telsx##NAME##Prepend##WORD( TELSX_##SORT *hdr, RT_STRING ELEMENT );                \
+    RT_API void telsx##NAME##Append##WORD( TELSX_##SORT *hdr, RT_STRING ELEMENT );                 \
+    RT_API void telsx##NAME##Insert##WORD( TELSX_##SORT *hdr, int64_t index, RT_STRING ELEMENT );  \
     RT_API void telsx##NAME##Clear##WORD##s( TELSX_##SORT *hdr );                                  \
     RT_API void telsx##NAME##Set##WORD##sVector( TELSX_##SORT *hdr, RT_VECTOR vec );
 

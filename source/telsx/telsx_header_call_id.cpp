@@ -26,7 +26,7 @@ static TELSX_HEADER_CALL_ID create( Ref<RT_STRING> callId )
 
 TELSX_HEADER_CALL_ID telsxHeaderCallIdCreate( RT_STRING callId )
 {
-    TELSX_ASSERT( telsxCallIdOk( callId ) );
+    TELSX_ASSERT_OK( telsxCallIdOk, callId );
     return create( share( callId ) );
 }
 

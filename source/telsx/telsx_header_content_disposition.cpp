@@ -35,7 +35,7 @@ TELSX_HEADER_CONTENT_DISPOSITION telsxHeaderContentDispositionCreate( RT_STRING 
     TELSX_HEADER_CONTENT_DISPOSITION hdr =
         rt::create<TELSX_HEADER_CONTENT_DISPOSITION_>( telsxHeaderContentDispositionSort() );
     hdr->dispositionType = adopt( telsxDispositionTypeNormalize( dispositionType ) );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

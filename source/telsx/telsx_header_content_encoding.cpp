@@ -11,4 +11,4 @@ struct TELSX_HEADER_CONTENT_ENCODING_ : TokenList
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderContentEncoding, HEADER_CONTENT_ENCODING, hdr, "Content-Encoding" )
-TELSX_DEFINE_TOKEN_LIST( HeaderContentEncoding, "Content-Encoding", ContentCoding )
+TELSX_DEFINE_TOKEN_LIST( HeaderContentEncoding, "Content-Encoding", ContentCoding, contentCoding )

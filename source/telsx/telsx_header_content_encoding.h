@@ -10,7 +10,7 @@
 
 RT_BEGIN
 
-TELSX_HEADER_OF_LIST( HeaderContentEncoding, HEADER_CONTENT_ENCODING, ContentCoding )
+TELSX_HEADER_OF_LIST( HeaderContentEncoding, HEADER_CONTENT_ENCODING, ContentCoding, contentCoding )
 
 RT_END
 

@@ -31,7 +31,7 @@ void telsxHeaderCseqSetCseq( TELSX_HEADER_CSEQ *cs, int64_t cseq )
 void telsxHeaderCseqSetMethod( TELSX_HEADER_CSEQ *cs, RT_STRING method )
 {
     TELSX_ASSERT_HANDLE( cs );
-    TELSX_ASSERT( telsxMethodOk( method ) );
+    TELSX_ASSERT_OK( telsxMethodOk, method );
     rt::put( TELSX_OWN( cs )->method, method );
 }
 
@@ -46,7 +46,7 @@ static TELSX_HEADER_CSEQ create( int64_t cseq, Ref<RT_STRING> method )
 TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
 {
     TELSX_ASSERT( telsxCseqOk( cseq ) );
-    TELSX_ASSERT( telsxMethodOk( method ) );
+    TELSX_ASSERT_OK( telsxMethodOk, method );
     return create( cseq, share( method ) );
 }
 

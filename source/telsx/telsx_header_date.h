@@ -17,12 +17,13 @@ RT_BEGIN
 TELSX_HEADER( HeaderDate, HEADER_DATE )
 TELSX_FREE_FUNC( HeaderDate )
 
-/* A header with this time, which is UTC and must be a valid one to be written; and one with the current
- * time. Null aborts. */
+/* A header with this time, which is UTC; and one with the current time. Null aborts. Any time can be set, but one that is not
+ * rtTimeValid must not be encoded: whatever encodes it writes no date, or aborts if its year, month or day is out of
+ * the bounds of rtTimeWeekday. */
 RT_API TELSX_HEADER_DATE telsxHeaderDateCreate( RT_TIME tm );
 RT_API TELSX_HEADER_DATE telsxHeaderDateCreateFromCurrentTime( void );
 
-/* The time, never null. Set aborts for null. */
+/* The time, never null. Set aborts for null, and takes any other time as Create does. */
 RT_API RT_TIME telsxHeaderDateTime( TELSX_HEADER_DATE hdr );
 RT_API void telsxHeaderDateSetTime( TELSX_HEADER_DATE *hdr, RT_TIME tm );
 

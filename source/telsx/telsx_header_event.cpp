@@ -28,16 +28,16 @@ TELSX_DEFINE_OPTION( HeaderEvent, hdr, Id, id )
 void telsxHeaderEventSetId( TELSX_HEADER_EVENT *hdr, RT_STRING token )
 {
     TELSX_ASSERT_HANDLE( hdr );
-    TELSX_ASSERT( telsxTokenOk( token ) );
+    TELSX_ASSERT_OK( telsxTokenOk, token );
     rt::put( TELSX_OWN( hdr )->id, token );
 }
 
 TELSX_HEADER_EVENT telsxHeaderEventCreate( RT_STRING eventType )
 {
-    TELSX_ASSERT( telsxEventTypeOk( eventType ) );
+    TELSX_ASSERT_OK( telsxEventTypeOk, eventType );
     TELSX_HEADER_EVENT hdr = rt::create<TELSX_HEADER_EVENT_>( telsxHeaderEventSort() );
     hdr->eventType = share( eventType );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

@@ -28,10 +28,10 @@ static TELSX_HEADER_FROM create() { return rt::create<TELSX_HEADER_FROM_>( telsx
 
 TELSX_HEADER_FROM telsxHeaderFromCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_HEADER_FROM hdr = create();
     hdr->iri = share( iri );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

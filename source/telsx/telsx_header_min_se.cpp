@@ -25,7 +25,7 @@ TELSX_HEADER_MIN_SE telsxHeaderMinSeCreate( int64_t deltaSeconds )
     TELSX_ASSERT( telsxDeltaSecondsOk( deltaSeconds ) );
     TELSX_HEADER_MIN_SE hdr = rt::create<TELSX_HEADER_MIN_SE_>( telsxHeaderMinSeSort() );
     hdr->deltaSeconds = deltaSeconds;
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

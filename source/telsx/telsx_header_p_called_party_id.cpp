@@ -24,10 +24,10 @@ static TELSX_HEADER_P_CALLED_PARTY_ID create()
 
 TELSX_HEADER_P_CALLED_PARTY_ID telsxHeaderPCalledPartyIdCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_HEADER_P_CALLED_PARTY_ID hdr = create();
     hdr->iri = share( iri );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

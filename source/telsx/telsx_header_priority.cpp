@@ -20,7 +20,7 @@ TELSX_DEFINE_NORMAL_FIELD( HeaderPriority, hdr, PriorityValue, priorityValue,
 
 TELSX_HEADER_PRIORITY telsxHeaderPriorityCreate( RT_STRING priorityValue )
 {
-    TELSX_ASSERT( telsxPriorityValueOk( priorityValue ) );
+    TELSX_ASSERT_OK( telsxPriorityValueOk, priorityValue );
     TELSX_HEADER_PRIORITY hdr = rt::create<TELSX_HEADER_PRIORITY_>( telsxHeaderPrioritySort() );
     hdr->priorityValue = adopt( telsxPriorityValueNormalize( priorityValue ) );
     return hdr;

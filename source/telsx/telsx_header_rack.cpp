@@ -28,7 +28,7 @@ TELSX_HEADER_RACK telsxHeaderRackCreate( int64_t responseNum, int64_t cseq, RT_S
 {
     TELSX_ASSERT( telsxResponseNumOk( responseNum ) );
     TELSX_ASSERT( telsxCseqOk( cseq ) );
-    TELSX_ASSERT( telsxMethodOk( method ) );
+    TELSX_ASSERT_OK( telsxMethodOk, method );
     TELSX_HEADER_RACK hdr = rt::create<TELSX_HEADER_RACK_>( telsxHeaderRackSort() );
     hdr->responseNum = responseNum;
     hdr->cseq = cseq;

@@ -24,10 +24,10 @@ static TELSX_HEADER_REFER_TO create()
 
 TELSX_HEADER_REFER_TO telsxHeaderReferToCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_HEADER_REFER_TO hdr = create();
     hdr->iri = share( iri );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

@@ -36,13 +36,13 @@ static Ref<TELSX_HEADER_REFERRED_BY> create( Address address )
     auto hdr = adopt( rt::create<TELSX_HEADER_REFERRED_BY_>( telsxHeaderReferredBySort() ) );
     hdr->iri = std::move( address.iri );
     hdr->displayName = std::move( address.displayName );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 
 TELSX_HEADER_REFERRED_BY telsxHeaderReferredByCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     return create( { .iri = share( iri ) } ).take();
 }
 

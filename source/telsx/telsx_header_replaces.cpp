@@ -36,14 +36,14 @@ TELSX_DEFINE_GETTER( HeaderReplaces, hdr, EarlyOnly, earlyOnly )
 void telsxHeaderReplacesSetFromTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
 {
     TELSX_ASSERT_HANDLE( hdr );
-    TELSX_ASSERT( telsxTagOk( tag ) );
+    TELSX_ASSERT_OK( telsxTagOk, tag );
     rt::put( TELSX_OWN( hdr )->fromTag, tag );
 }
 
 void telsxHeaderReplacesSetToTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
 {
     TELSX_ASSERT_HANDLE( hdr );
-    TELSX_ASSERT( telsxTagOk( tag ) );
+    TELSX_ASSERT_OK( telsxTagOk, tag );
     rt::put( TELSX_OWN( hdr )->toTag, tag );
 }
 
@@ -55,10 +55,10 @@ void telsxHeaderReplacesSetEarlyOnly( TELSX_HEADER_REPLACES *hdr, RT_BOOL earlyO
 
 TELSX_HEADER_REPLACES telsxHeaderReplacesCreate( RT_STRING callId )
 {
-    TELSX_ASSERT( telsxCallIdOk( callId ) );
+    TELSX_ASSERT_OK( telsxCallIdOk, callId );
     TELSX_HEADER_REPLACES hdr = rt::create<TELSX_HEADER_REPLACES_>( telsxHeaderReplacesSort() );
     hdr->callId = share( callId );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

@@ -39,7 +39,7 @@ TELSX_HEADER_RETRY_AFTER telsxHeaderRetryAfterCreate( int64_t deltaSeconds )
     TELSX_ASSERT( telsxDeltaSecondsOk( deltaSeconds ) );
     TELSX_HEADER_RETRY_AFTER hdr = rt::create<TELSX_HEADER_RETRY_AFTER_>( telsxHeaderRetryAfterSort() );
     hdr->deltaSeconds = deltaSeconds;
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

@@ -19,7 +19,7 @@ TELSX_DEFINE_FIELD( HeaderServer, hdr, Server, server, telsxServerOk( server ) )
 
 TELSX_HEADER_SERVER telsxHeaderServerCreate( RT_STRING server )
 {
-    TELSX_ASSERT( telsxServerOk( server ) );
+    TELSX_ASSERT_OK( telsxServerOk, server );
     TELSX_HEADER_SERVER hdr = rt::create<TELSX_HEADER_SERVER_>( telsxHeaderServerSort() );
     hdr->server = share( server );
     return hdr;

@@ -35,7 +35,7 @@ TELSX_HEADER_SESSION_EXPIRES telsxHeaderSessionExpiresCreate( int64_t deltaSecon
     TELSX_HEADER_SESSION_EXPIRES hdr =
         rt::create<TELSX_HEADER_SESSION_EXPIRES_>( telsxHeaderSessionExpiresSort() );
     hdr->deltaSeconds = deltaSeconds;
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

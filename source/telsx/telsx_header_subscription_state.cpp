@@ -55,11 +55,11 @@ void telsxHeaderSubscriptionStateSetRetryAfter( TELSX_HEADER_SUBSCRIPTION_STATE 
 
 TELSX_HEADER_SUBSCRIPTION_STATE telsxHeaderSubscriptionStateCreate( RT_STRING substateValue )
 {
-    TELSX_ASSERT( telsxSubstateValueOk( substateValue ) );
+    TELSX_ASSERT_OK( telsxSubstateValueOk, substateValue );
     TELSX_HEADER_SUBSCRIPTION_STATE hdr =
         rt::create<TELSX_HEADER_SUBSCRIPTION_STATE_>( telsxHeaderSubscriptionStateSort() );
     hdr->substateValue = adopt( telsxSubstateValueNormalize( substateValue ) );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

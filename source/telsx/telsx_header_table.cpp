@@ -22,9 +22,13 @@ static void freeFunc( RT_OBJ obj )
     table->others = {};
 }
 
-static constexpr RT_SORT_ sort = {
-    RT_STATIC_OBJECT, &telsx___module, "TELSX_HEADER_TABLE", freeFunc, nullptr, nullptr, {}
-};
+static constexpr RT_SORT_ sort = { RT_STATIC_OBJECT( &rt___sort_RT_SORT ),
+                                   &telsx___module,
+                                   "TELSX_HEADER_TABLE",
+                                   freeFunc,
+                                   nullptr,
+                                   nullptr,
+                                   {} };
 
 Ref<HeaderTable *> createHeaderTable( Bytes bytes, bool isAscii )
 {
@@ -141,6 +145,40 @@ RT_VECTOR headersVector( HeaderTable *table )
         if ( entry.name )
             rtVectorAppend( &headers, rt::asObj( headerAt( table, entry ) ) );
     return headers;
+}
+
+static bool hasLineEnd( Bytes line )
+{
+    return line.find( '\r' ) != line.npos || line.find( '\n' ) != line.npos;
+}
+
+static bool hasLineEnd( RT_VECTOR lines )
+{
+    auto isLineEnd = []( RT_CHAR ch ) { return ch == RT_CHAR_CARRIAGE_RETURN || ch == RT_CHAR_LINE_FEED; };
+    for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
+    {
+        Text line = textOf( rtStringFrom( rt___VectorObjBorrowed( lines, i ) ) );
+        if ( std::any_of( line.chs, line.chs + line.length, isLineEnd ) )
+            return true;
+    }
+    return false;
+}
+
+static bool hasLineEnd( HeaderTable *table, const HeaderEntry &entry )
+{
+    if ( entry.first.begin == -1 )
+        return hasLineEnd( entry.header->lines.get() );
+    bool found = hasLineEnd( table->lineOf( entry.first ) );
+    for ( int64_t next = entry.first.next; next != -1 && !found; next = table->moreLines[next].next )
+        found = hasLineEnd( table->lineOf( table->moreLines[next] ) );
+    return found;
+}
+
+bool haveLineEnds( HeaderTable *table )
+{
+    return std::any_of( table->entries.begin(), table->entries.end(),
+                        [table]( const HeaderEntry &entry )
+                        { return entry.name && hasLineEnd( table, entry ); } );
 }
 
 // A table with the headers of another, without the gaps that taking out has left.

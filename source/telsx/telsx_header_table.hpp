@@ -160,6 +160,9 @@ TELSX_MESSAGE_HEADER headerAt( HeaderTable *table, HeaderEntry &entry );
 
 RT_VECTOR headersVector( HeaderTable *table );
 
+// Whether a line of a header holds a CR or LF.
+bool haveLineEnds( HeaderTable *table );
+
 // Change the table, a private copy of it if somebody else has it too.
 void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header );
 void delHeader( Ref<HeaderTable *> &table, HeaderName name );

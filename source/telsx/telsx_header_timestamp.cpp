@@ -20,7 +20,7 @@ TELSX_DEFINE_FIELD( HeaderTimestamp, hdr, TimestampValue, timestampValue,
 
 TELSX_HEADER_TIMESTAMP telsxHeaderTimestampCreate( RT_STRING timestampValue )
 {
-    TELSX_ASSERT( telsxTimestampValueOk( timestampValue ) );
+    TELSX_ASSERT_OK( telsxTimestampValueOk, timestampValue );
     TELSX_HEADER_TIMESTAMP hdr = rt::create<TELSX_HEADER_TIMESTAMP_>( telsxHeaderTimestampSort() );
     hdr->timestampValue = share( timestampValue );
     return hdr;

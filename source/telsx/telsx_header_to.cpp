@@ -28,10 +28,10 @@ static TELSX_HEADER_TO create() { return rt::create<TELSX_HEADER_TO_>( telsxHead
 
 TELSX_HEADER_TO telsxHeaderToCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_HEADER_TO hdr = create();
     hdr->iri = share( iri );
-    hdr->genericParams = adopt( telsxGenericParamsCreate() );
+    hdr->genericParams = noGenericParams();
     return hdr;
 }
 

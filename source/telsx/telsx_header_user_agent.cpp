@@ -19,7 +19,7 @@ TELSX_DEFINE_FIELD( HeaderUserAgent, hdr, UserAgent, userAgent, telsxUserAgentOk
 
 TELSX_HEADER_USER_AGENT telsxHeaderUserAgentCreate( RT_STRING userAgent )
 {
-    TELSX_ASSERT( telsxUserAgentOk( userAgent ) );
+    TELSX_ASSERT_OK( telsxUserAgentOk, userAgent );
     TELSX_HEADER_USER_AGENT hdr = rt::create<TELSX_HEADER_USER_AGENT_>( telsxHeaderUserAgentSort() );
     hdr->userAgent = share( userAgent );
     return hdr;

@@ -47,14 +47,14 @@ static Ref<TELSX_HISTORY_INFO> create( Address address )
     auto hi = adopt( rt::create<TELSX_HISTORY_INFO_>( telsxHistoryInfoSort() ) );
     hi->iri = std::move( address.iri );
     hi->displayName = std::move( address.displayName );
-    hi->genericParams = adopt( telsxGenericParamsCreate() );
+    hi->genericParams = noGenericParams();
     return hi;
 }
 
 TELSX_HISTORY_INFO telsxHistoryInfoCreate( RT_STRING iri, RT_STRING index )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
-    TELSX_ASSERT( telsxHistoryInfoIndexOk( index ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
+    TELSX_ASSERT_OK( telsxHistoryInfoIndexOk, index );
     Ref<TELSX_HISTORY_INFO> hi = create( { .iri = share( iri ) } );
     hi->index = share( index );
     return hi.take();

@@ -1,4 +1,4 @@
-// History-Info index (RFC 7044, 5.1).
+// History-Info index (RFC 7044, 5).
 #include "telsx/telsx_history_info_index.h"
 
 #include "telsx/telsx_skip.h"

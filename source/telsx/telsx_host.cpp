@@ -61,6 +61,7 @@ int64_t telsx___SkipIpV6Address( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipIpV6Reference( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
     if ( !rest.take( telsx___SkipChar( chs, length, '[' ) ) || !rest.take( telsx___SkipIpV6Address ) )
         return 0;
@@ -69,13 +70,15 @@ int64_t telsx___SkipIpV6Reference( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipHost( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     // An IPv4 address is a hostname too.
-    int64_t name = telsx___SkipHostname( chs, length );
+    int64_t name = skipLabels<true>( { chs, length } );
     return name ? name : telsx___SkipIpV6Reference( chs, length );
 }
 
 int64_t telsx___SkipHostPort( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     int64_t host = telsx___SkipHost( chs, length );
     if ( !host || host == length || chs[host] != ':' )
         return host;

@@ -34,7 +34,7 @@ static Ref<TELSX_IDENTITY_VALUE> create( Address address )
 
 TELSX_IDENTITY_VALUE telsxIdentityValueCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     return create( { .iri = share( iri ) } ).take();
 }
 

@@ -40,7 +40,7 @@ inline bool decodeInfo( Info &info, Text text )
 {
     if ( !takeInfoAddress( text, info.iri ) )
         return false;
-    info.genericParams = adopt( telsxGenericParamsCreate() );
+    info.genericParams = noGenericParams();
     ParamReader param( text );
     while ( param.next() )
         param.storeGeneric( info.genericParams );

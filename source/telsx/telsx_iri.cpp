@@ -17,6 +17,7 @@ int64_t telsx___SkipUri( const RT_CHAR *chs, int64_t length ) { return rsc___Ski
 
 int64_t telsx___SkipAddrSpec( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return rsc___SkipIriUntil( chs, length, ';' );
 }
 

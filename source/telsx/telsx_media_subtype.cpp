@@ -1,13 +1,14 @@
 // Media subtype (RFC 3261, 25.1).
 #include "telsx/telsx_media_subtype.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_text.hpp"
-#include "telsx/telsx_token.h"
 
 using namespace telsx;
 
 RT_BOOL telsxMediaSubtypeOk( RT_STRING mediaSubtype )
 {
+    TELSX_ASSERT( mediaSubtype );
     return covers( telsx___SkipMediaSubtype, mediaSubtype );
 }
 
@@ -19,6 +20,7 @@ RT_STRING telsxMediaSubtypeNormalize( RT_STRING mediaSubtype )
 
 int64_t telsx___SkipMediaSubtype( const RT_CHAR *chs, int64_t length )
 {
-    int64_t token = telsx___SkipToken( chs, length );
+    TELSX_ASSERT_CHARS( chs, length );
+    int64_t token = runOf<classToken>( { chs, length } );
     return token == 1 && chs[0] == '*' ? 0 : token;
 }

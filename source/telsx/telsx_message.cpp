@@ -151,6 +151,11 @@ RT_BOOL telsxMessageHasHeaderWcstr( TELSX_MESSAGE msg, const wchar_t *name, int6
     return telsxMessageFragmentHasHeaderWcstr( read( msg ), name, length );
 }
 
+RT_BOOL telsxMessageHasLoneLineEnds( TELSX_MESSAGE msg )
+{
+    return telsxMessageFragmentHasLoneLineEnds( read( msg ) );
+}
+
 RT_BUFFER telsxMessageBody( TELSX_MESSAGE msg ) { return telsxMessageFragmentBody( read( msg ) ); }
 
 RT_BOOL telsxMessageHasBody( TELSX_MESSAGE msg ) { return telsxMessageFragmentHasBody( read( msg ) ); }

@@ -51,6 +51,7 @@ RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderWcstr( TELSX_MESSAGE msg, const wc
 RT_API RT_BOOL telsxMessageHasHeader( TELSX_MESSAGE msg, RT_STRING name );
 RT_API RT_BOOL telsxMessageHasHeaderCstr( TELSX_MESSAGE msg, const char *name, int64_t length );
 RT_API RT_BOOL telsxMessageHasHeaderWcstr( TELSX_MESSAGE msg, const wchar_t *name, int64_t length );
+RT_API RT_BOOL telsxMessageHasLoneLineEnds( TELSX_MESSAGE msg );
 RT_API RT_BUFFER telsxMessageBody( TELSX_MESSAGE msg );
 RT_API RT_BOOL telsxMessageHasBody( TELSX_MESSAGE msg );
 RT_API RT_BUFFER telsxMessageEncode( TELSX_MESSAGE msg );

@@ -26,8 +26,8 @@ void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION
 {
     TELSX_ASSERT_HANDLE( frag );
     TELSX_ASSERT( version );
-    TELSX_ASSERT( telsxMethodOk( method ) );
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxMethodOk, method );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
     own->version = share( version );
     own->requestMethod = share( method );
@@ -42,7 +42,7 @@ void telsxMessageFragmentSetResponseWithReasonPhrase( TELSX_MESSAGE_FRAGMENT *fr
     TELSX_ASSERT_HANDLE( frag );
     TELSX_ASSERT( version );
     TELSX_ASSERT( telsxStatusCodeOk( sc ) );
-    TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
+    TELSX_ASSERT_OK( telsxReasonPhraseOk, reasonPhrase );
     TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
     own->version = share( version );
     own->requestMethod = {};
@@ -140,7 +140,7 @@ void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRI
 {
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( requestMethod );
-    TELSX_ASSERT( telsxMethodOk( method ) );
+    TELSX_ASSERT_OK( telsxMethodOk, method );
     rt::put( TELSX_OWN( frag )->requestMethod, method );
 }
 
@@ -148,7 +148,7 @@ void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING 
 {
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( requestMethod );
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     rt::put( TELSX_OWN( frag )->requestIri, iri );
 }
 
@@ -168,7 +168,7 @@ void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, 
 {
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( responseReasonPhrase );
-    TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
+    TELSX_ASSERT_OK( telsxReasonPhraseOk, reasonPhrase );
     rt::put( TELSX_OWN( frag )->responseReasonPhrase, reasonPhrase );
 }
 
@@ -183,6 +183,7 @@ RT_VECTOR telsxMessageFragmentHeadersVector( TELSX_MESSAGE_FRAGMENT frag )
 TELSX_MESSAGE_HEADER telsxMessageFragmentHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name )
 {
     TELSX_ASSERT( frag );
+    TELSX_ASSERT( name );
     Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
     HeaderEntry *entry = findHeader( frag->headers.get(), headerName( normal.get() ) );
     return entry ? share( headerAt( frag->headers.get(), *entry ) ).take() : nullptr;
@@ -191,6 +192,7 @@ TELSX_MESSAGE_HEADER telsxMessageFragmentHeader( TELSX_MESSAGE_FRAGMENT frag, RT
 RT_BOOL telsxMessageFragmentHasHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name )
 {
     TELSX_ASSERT( frag );
+    TELSX_ASSERT( name );
     Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
     return findHeader( frag->headers.get(), headerName( normal.get() ) ) != nullptr;
 }
@@ -205,8 +207,15 @@ void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_
 void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name )
 {
     TELSX_ASSERT_HANDLE( frag );
+    TELSX_ASSERT( name );
     Ref<RT_STRING> normal = adopt( telsxMessageHeaderNameNormalize( name ) );
     delHeader( TELSX_OWN( frag )->headers, headerName( normal.get() ) );
+}
+
+RT_BOOL telsxMessageFragmentHasLoneLineEnds( TELSX_MESSAGE_FRAGMENT frag )
+{
+    TELSX_ASSERT( frag );
+    return haveLineEnds( frag->headers.get() );
 }
 
 // Body

@@ -119,6 +119,11 @@ RT_API void telsxMessageFragmentDelHeaderCstr( TELSX_MESSAGE_FRAGMENT *frag, con
 RT_API void telsxMessageFragmentDelHeaderWcstr( TELSX_MESSAGE_FRAGMENT *frag, const wchar_t *name,
                                                 int64_t length );
 
+/* Whether a line of a header, as it would be written, holds a CR or LF. Lines end in CR LF only, so that a CR or
+ * LF alone belongs to its line; a peer that takes it for a line end reads another message. The start line never has
+ * one. Looks at the bytes of a header that was decoded and not replaced, and at the text of any other. */
+RT_API RT_BOOL telsxMessageFragmentHasLoneLineEnds( TELSX_MESSAGE_FRAGMENT frag );
+
 /* The body, a new reference, or null; an empty buffer is a body. Set keeps the buffer itself; null aborts. */
 RT_API RT_BUFFER telsxMessageFragmentBody( TELSX_MESSAGE_FRAGMENT frag );
 RT_API RT_BOOL telsxMessageFragmentHasBody( TELSX_MESSAGE_FRAGMENT frag );

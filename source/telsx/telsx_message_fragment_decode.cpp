@@ -12,6 +12,7 @@
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_version.hpp"
 
 using namespace telsx;
 
@@ -58,14 +59,14 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
         int64_t length;
         frag->requestIri =
             adopt( rsc___TryConvertUriAtStart( second.chs, second.length, UINT32_MAX, &length ) );
-        frag->version = adopt( rest.as( telsx___VersionTryDecode ) );
+        frag->version = tryDecodeVersion( rest );
         if ( length < second.length || !frag->requestIri || !frag->version )
             return StartLine::bad;
         frag->requestMethod = std::move( method );
         return StartLine::good;
     }
     // The slash in it makes a version no method.
-    frag->version = adopt( first.as( telsx___VersionTryDecode ) );
+    frag->version = tryDecodeVersion( first );
     if ( !frag->version )
         return StartLine::none;
     int64_t sc = tryDecodeNumber( second );

@@ -3,7 +3,6 @@
 
 #include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_text.hpp"
-#include "telsx/telsx_token.h"
 
 using namespace telsx;
 
@@ -38,12 +37,11 @@ void telsx___MessageHeaderStartup( void )
 
 void telsx___MessageHeaderShutdown( void ) { rtDictRelease( std::exchange( shortToLongDict, nullptr ) ); }
 
-int64_t telsx___SkipMessageHeaderName( const RT_CHAR *chs, int64_t length )
+RT_BOOL telsxMessageHeaderNameOk( RT_STRING name )
 {
-    return telsx___SkipToken( chs, length );
+    TELSX_ASSERT( name );
+    return covers( telsx___SkipMessageHeaderName, name );
 }
-
-RT_BOOL telsxMessageHeaderNameOk( RT_STRING name ) { return covers( telsx___SkipMessageHeaderName, name ); }
 
 RT_STRING telsxMessageHeaderNameNormalize( RT_STRING name )
 {
@@ -99,6 +97,7 @@ void telsxMessageHeaderSetName( TELSX_MESSAGE_HEADER *header, RT_STRING name )
 
 RT_BOOL telsxMessageHeaderLineOk( RT_STRING line )
 {
+    TELSX_ASSERT( line );
     static constexpr RT_CHAR lineEnd[] = { RT_CHAR_CARRIAGE_RETURN, RT_CHAR_LINE_FEED };
     return rtStringFindChars( line, 0, lineEnd, 2 ) == -1;
 }
@@ -112,6 +111,7 @@ RT_VECTOR telsxMessageHeaderLinesVector( TELSX_MESSAGE_HEADER header )
 void telsxMessageHeaderSetLinesVector( TELSX_MESSAGE_HEADER *header, RT_VECTOR lines )
 {
     TELSX_ASSERT_HANDLE( header );
+    TELSX_ASSERT( lines );
     TELSX_ASSERT( rtVectorContainsOnly( lines, rtStringSort() ) );
     for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
     {
@@ -142,7 +142,7 @@ RT_STRING telsxMessageHeaderLineAt( TELSX_MESSAGE_HEADER header, int64_t index )
 void telsxMessageHeaderSetLineAt( TELSX_MESSAGE_HEADER *header, int64_t index, RT_STRING value )
 {
     TELSX_ASSERT_HANDLE( header );
-    TELSX_ASSERT( telsxMessageHeaderLineOk( value ) );
+    TELSX_ASSERT_OK( telsxMessageHeaderLineOk, value );
     rtVectorSetStringAt( TELSX_OWN( header )->lines.address(), index, value );
 }
 
@@ -155,7 +155,7 @@ void telsxMessageHeaderDelLineAt( TELSX_MESSAGE_HEADER *header, int64_t index )
 void telsxMessageHeaderAppendLine( TELSX_MESSAGE_HEADER *header, RT_STRING value )
 {
     TELSX_ASSERT_HANDLE( header );
-    TELSX_ASSERT( telsxMessageHeaderLineOk( value ) );
+    TELSX_ASSERT_OK( telsxMessageHeaderLineOk, value );
     rtVectorAppendString( TELSX_OWN( header )->lines.address(), value );
 }
 

@@ -87,7 +87,6 @@ RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderRestoreLinesWcstr( const wchar_t *
                                                                  RT_STORE store );
 
 /* For the library's own units. */
-RT_API int64_t telsx___SkipMessageHeaderName( const RT_CHAR *chs, int64_t length );
 RT_API void telsx___MessageHeaderStartup( void );
 RT_API void telsx___MessageHeaderShutdown( void );
 TELSX_FREE_FUNC( MessageHeader )

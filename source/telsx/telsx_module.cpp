@@ -4,8 +4,12 @@
 #include "telsx/telsx_message_header.h"
 #include "telsx/telsx_version.h"
 
-const RT_MODULE telsx___module = { RT_STATIC_OBJECT, &telsx___module_record, telsx___ModuleStartup,
-                                   nullptr,          telsx___ModuleShutdown, {} };
+const RT_MODULE telsx___module = { RT_STATIC_OBJECT( &rt___sort_RT_MODULE ),
+                                   &telsx___module_record,
+                                   telsx___ModuleStartup,
+                                   nullptr,
+                                   telsx___ModuleShutdown,
+                                   {} };
 
 RT_OBJ telsxModule( void ) { return reinterpret_cast<RT_OBJ>( const_cast<RT_MODULE *>( &telsx___module ) ); }
 

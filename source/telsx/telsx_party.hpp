@@ -32,7 +32,7 @@ inline bool decodeParty( Party &hdr, Address address, Text behind )
 {
     hdr.iri = std::move( address.iri );
     hdr.displayName = std::move( address.displayName );
-    hdr.genericParams = adopt( telsxGenericParamsCreate() );
+    hdr.genericParams = noGenericParams();
     ParamReader param( behind );
     while ( param.next() )
         param.storeGeneric( hdr.genericParams );

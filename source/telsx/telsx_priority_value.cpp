@@ -1,6 +1,7 @@
 // Priority value (RFC 3261, 25.1).
 #include "telsx/telsx_priority_value.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_text.hpp"
 #include "telsx/telsx_token.h"
 
@@ -20,5 +21,6 @@ RT_STRING telsxPriorityValueNormalize( RT_STRING priority )
 
 int64_t telsx___SkipPriorityValue( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipToken( chs, length );
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classToken>( { chs, length } );
 }

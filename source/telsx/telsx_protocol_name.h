@@ -2,7 +2,9 @@
  *
  *     protocol-name = "SIP" / token
  *
- * (RFC 3261, 25.1) */
+ * (RFC 3261, 25.1)
+ *
+ * The skipper, telsx___SkipProtocolName, is in telsx_skip.h. */
 #ifndef TELSX_TELSX_PROTOCOL_NAME_H
 #define TELSX_TELSX_PROTOCOL_NAME_H
 
@@ -15,9 +17,6 @@ RT_API RT_BOOL telsxProtocolNameOk( RT_STRING protocolName );
 
 /* The protocol name in upper case, a new reference. Aborts unless telsxProtocolNameOk. */
 RT_API RT_STRING telsxProtocolNameNormalize( RT_STRING protocolName );
-
-/* How many code points at the start of the text are a protocol name (see telsx_skip.h). */
-RT_API int64_t telsx___SkipProtocolName( const RT_CHAR *chs, int64_t length );
 
 RT_END
 

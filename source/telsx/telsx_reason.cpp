@@ -34,10 +34,10 @@ TELSX_DEFINE_FIELD( Reason, reason, GenericParams, genericParams, genericParams 
 
 TELSX_REASON telsxReasonCreate( RT_STRING reasonProtocol )
 {
-    TELSX_ASSERT( telsxReasonProtocolOk( reasonProtocol ) );
+    TELSX_ASSERT_OK( telsxReasonProtocolOk, reasonProtocol );
     TELSX_REASON reason = rt::create<TELSX_REASON_>( telsxReasonSort() );
     reason->protocol = share( reasonProtocol );
-    reason->genericParams = adopt( telsxGenericParamsCreate() );
+    reason->genericParams = noGenericParams();
     return reason;
 }
 

@@ -30,13 +30,13 @@ static Ref<TELSX_ROUTE> create( Address address )
     auto route = adopt( rt::create<TELSX_ROUTE_>( telsxRouteSort() ) );
     route->iri = std::move( address.iri );
     route->displayName = std::move( address.displayName );
-    route->genericParams = adopt( telsxGenericParamsCreate() );
+    route->genericParams = noGenericParams();
     return route;
 }
 
 TELSX_ROUTE telsxRouteCreate( RT_STRING iri )
 {
-    TELSX_ASSERT( telsxIriOk( iri ) );
+    TELSX_ASSERT_OK( telsxIriOk, iri );
     return create( { .iri = share( iri ) } ).take();
 }
 

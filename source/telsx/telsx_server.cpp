@@ -6,4 +6,8 @@
 
 using namespace telsx;
 
-RT_BOOL telsxServerOk( RT_STRING server ) { return covers( telsx___SkipServer, server ); }
+RT_BOOL telsxServerOk( RT_STRING server )
+{
+    TELSX_ASSERT( server );
+    return covers( telsx___SkipServer, server );
+}

@@ -7,10 +7,15 @@
 
 using namespace telsx;
 
-RT_BOOL telsxSipInstanceOk( RT_STRING sipInstance ) { return covers( telsx___SkipSipInstance, sipInstance ); }
+RT_BOOL telsxSipInstanceOk( RT_STRING sipInstance )
+{
+    TELSX_ASSERT( sipInstance );
+    return covers( telsx___SkipSipInstance, sipInstance );
+}
 
 int64_t telsx___SkipSipInstance( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
     if ( !rest.take( telsx___SkipChar( chs, length, '<' ) ) || !rest.take( telsx___SkipUric ) )
         return 0;

@@ -12,14 +12,10 @@
 #include "telsx/telsx_media_subtype.h"
 #include "telsx/telsx_media_type.h"
 #include "telsx/telsx_port.h"
-#include "telsx/telsx_protocol_name.h"
-#include "telsx/telsx_protocol_version.h"
 #include "telsx/telsx_reason_protocol.h"
 #include "telsx/telsx_text.hpp"
-#include "telsx/telsx_token.h"
 #include "telsx/telsx_transport.h"
 #include "telsx/telsx_warn_agent.h"
-#include "telsx/telsx_warn_code.h"
 
 using namespace telsx;
 
@@ -76,6 +72,35 @@ int64_t telsx___SkipAtom( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     return runOf<classTokenNodot>( { chs, length } );
+}
+
+int64_t telsx___SkipToken( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classToken>( { chs, length } );
+}
+
+int64_t telsx___SkipTokenNodot( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classTokenNodot>( { chs, length } );
+}
+
+int64_t telsx___SkipMethod( const RT_CHAR *chs, int64_t length ) { return telsx___SkipToken( chs, length ); }
+
+int64_t telsx___SkipProtocolName( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipToken( chs, length );
+}
+
+int64_t telsx___SkipProtocolVersion( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipToken( chs, length );
+}
+
+int64_t telsx___SkipMessageHeaderName( const RT_CHAR *chs, int64_t length )
+{
+    return telsx___SkipToken( chs, length );
 }
 
 static bool isWhite( RT_CHAR ch ) { return ch <= ' ' && ( ch == ' ' || ch == '\t' ); }
@@ -375,11 +400,13 @@ int64_t telsx___SkipErrorInfo( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipReason( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipWithParams( { chs, length }, telsx___SkipReasonProtocol( chs, length ) );
 }
 
 int64_t telsx___SkipAcceptEncoding( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return skipWithParams( { chs, length }, telsx___SkipContentCoding( chs, length ) );
 }
 
@@ -391,6 +418,7 @@ static int64_t skipStar( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     Text text = { chs, length };
     int64_t range = skipAll( text, telsx___SkipMediaType, telsx___SkipSlash, telsx___SkipMediaSubtype );
     if ( !range )
@@ -434,6 +462,18 @@ int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length )
         return 0;
     int64_t address = skipAny( rest, telsx___SkipIpV6Address, telsx___SkipIpV4Address );
     return address ? length - rest.length + address : 0;
+}
+
+int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length )
+{
+    int64_t digits = telsx___SkipDigits( chs, length );
+    return digits == 3 ? digits : 0;
+}
+
+int64_t telsx___SkipWarnAgent( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return skipAny( { chs, length }, telsx___SkipHostPort, telsx___SkipPseudonym );
 }
 
 int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length )

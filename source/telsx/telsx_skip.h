@@ -8,7 +8,7 @@
  * stands behind the element is the caller's to judge. A negative length aborts, and so does null with a
  * length.
  *
- * The elements that have a unit of their own have their skippers there. */
+ * Other elements that have a unit of their own have their skippers there. */
 #ifndef TELSX_TELSX_SKIP_H
 #define TELSX_TELSX_SKIP_H
 
@@ -24,12 +24,20 @@ RT_API int64_t telsx___SkipChars( const RT_CHAR *chs, int64_t length, const RT_C
 RT_API int64_t telsx___SkipCharsAsciiCaseFold( const RT_CHAR *chs, int64_t length, const RT_CHAR *skipChs,
                                                int64_t skipLength );
 
-/* Runs of a class: digits, token without dot, word (RFC 3261, 25.1), atom (RFC 3892), white space. */
+/* Runs of a class: digits, token, token without dot, word (RFC 3261, 25.1), atom (RFC 3892), white space. */
 RT_API int64_t telsx___SkipDigits( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipToken( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipTokenNodot( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipWord( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipAtom( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipSws( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipLws( const RT_CHAR *chs, int64_t length );
+
+/* Tokens under other names (RFC 3261, 25.1). */
+RT_API int64_t telsx___SkipMethod( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipProtocolName( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipProtocolVersion( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipMessageHeaderName( const RT_CHAR *chs, int64_t length );
 
 /* A character with white space before it, behind it, on both sides; without the character 0. */
 RT_API int64_t telsx___SkipSwsChar( const RT_CHAR *chs, int64_t length, RT_CHAR ch );
@@ -115,9 +123,14 @@ RT_API int64_t telsx___SkipVia( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length );
 
-/* Warning values (RFC 3261, 20.43).
+/* Warning values (RFC 3261, 20.43). More than three digits give no warn code. A pseudonym that begins like a host is
+ * taken for one and cut where no host goes on.
  *
+ *     warn-code = 3DIGIT
+ *     warn-agent = hostport / pseudonym
  *     warning-value = warn-code LWS warn-agent LWS quoted-string */
+RT_API int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length );
+RT_API int64_t telsx___SkipWarnAgent( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length );
 
 /* Server and User-Agent texts (RFC 3261, 20.35 and 20.41). White space must be followed by a value, so that

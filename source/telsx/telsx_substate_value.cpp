@@ -1,6 +1,7 @@
 // Subscription state (RFC 6665, 8.4).
 #include "telsx/telsx_substate_value.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_text.hpp"
 #include "telsx/telsx_token.h"
 
@@ -8,6 +9,7 @@ using namespace telsx;
 
 RT_BOOL telsxSubstateValueOk( RT_STRING substateValue )
 {
+    TELSX_ASSERT( substateValue );
     return covers( telsx___SkipSubstateValue, substateValue );
 }
 
@@ -19,5 +21,6 @@ RT_STRING telsxSubstateValueNormalize( RT_STRING substateValue )
 
 int64_t telsx___SkipSubstateValue( const RT_CHAR *chs, int64_t length )
 {
-    return telsx___SkipToken( chs, length );
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classToken>( { chs, length } );
 }

@@ -1,6 +1,7 @@
 // Timestamp value (RFC 3261, 25.1, Timestamp).
 #include "telsx/telsx_timestamp_value.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
@@ -8,6 +9,7 @@ using namespace telsx;
 
 RT_BOOL telsxTimestampValueOk( RT_STRING timestampValue )
 {
+    TELSX_ASSERT( timestampValue );
     return covers( telsx___SkipTimestampValue, timestampValue );
 }
 
@@ -23,7 +25,8 @@ static int64_t skipDecimal( Text text )
 
 int64_t telsx___SkipTimestampValue( const RT_CHAR *chs, int64_t length )
 {
-    if ( !telsx___SkipDigits( chs, length ) )
+    TELSX_ASSERT_CHARS( chs, length );
+    if ( !runOf<classDigit>( { chs, length } ) )
         return 0;
     Text rest = { chs, length };
     rest.take( skipDecimal( rest ) );

@@ -6,16 +6,14 @@
 
 using namespace telsx;
 
-RT_BOOL telsxTokenOk( RT_STRING token ) { return covers( telsx___SkipToken, token ); }
+RT_BOOL telsxTokenOk( RT_STRING token )
+{
+    TELSX_ASSERT( token );
+    return covers( telsx___SkipToken, token );
+}
 
 RT_STRING telsxTokenNormalize( RT_STRING token )
 {
     TELSX_ASSERT( telsxTokenOk( token ) );
     return lowerCase( token );
-}
-
-int64_t telsx___SkipToken( const RT_CHAR *chs, int64_t length )
-{
-    TELSX_ASSERT_CHARS( chs, length );
-    return runOf<classToken>( { chs, length } );
 }

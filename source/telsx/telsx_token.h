@@ -2,7 +2,9 @@
  *
  *     token = 1*(alphanum / "-" / "." / "!" / "%" / "*" / "_" / "+" / "`" / "'" / "~")
  *
- * (RFC 3261, 25.1) */
+ * (RFC 3261, 25.1)
+ *
+ * The skipper, telsx___SkipToken, is in telsx_skip.h. */
 #ifndef TELSX_TELSX_TOKEN_H
 #define TELSX_TELSX_TOKEN_H
 
@@ -15,9 +17,6 @@ RT_API RT_BOOL telsxTokenOk( RT_STRING token );
 
 /* The token in lower case, a new reference. Aborts unless telsxTokenOk. */
 RT_API RT_STRING telsxTokenNormalize( RT_STRING token );
-
-/* How many code points at the start of the text are a token (see telsx_skip.h). */
-RT_API int64_t telsx___SkipToken( const RT_CHAR *chs, int64_t length );
 
 RT_END
 

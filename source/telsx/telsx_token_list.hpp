@@ -23,8 +23,8 @@ bool decodeTokens( TokenList *list, HeaderLines &lines, Skipper skipToken,
 
 } // namespace telsx
 
-// The unit of the header NAME, a list of WORDs, after its frame line.
-#define TELSX_DEFINE_TOKEN_LIST( NAME, SIP_NAME, WORD )                                                    \
+// The unit of the header NAME, a list of WORDs, after its frame line. ELEMENT is what functions call one of them.
+#define TELSX_DEFINE_TOKEN_LIST( NAME, SIP_NAME, WORD, ELEMENT )                                           \
     TELSX_DEFINE_GETTER( NAME, hdr, WORD##sVector, tokens )                                                \
     TELSX_HANDLE( NAME ) telsx##NAME##Create( void )                                                       \
     {                                                                                                      \
@@ -59,10 +59,11 @@ bool decodeTokens( TokenList *list, HeaderLines &lines, Skipper skipToken,
         TELSX_ASSERT( hdr );                                                                               \
         return rtStringFrom( rtVectorObjAt( hdr->tokens.get(), index ) );                                  \
     }                                                                                                      \
-    void telsx##NAME##Set##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index, RT_STRING element )        \
+    void telsx##NAME##Set##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index, RT_STRING ELEMENT )        \
     {                                                                                                      \
         TELSX_ASSERT_HANDLE( hdr );                                                                        \
-        auto token = telsx::adopt( telsx##WORD##Normalize( element ) );                                    \
+        TELSX_CHECK( ELEMENT, nullptr, #ELEMENT );                                                         \
+        auto token = telsx::adopt( telsx##WORD##Normalize( ELEMENT ) );                                    \
         rtVectorSetStringAt( TELSX_OWN( hdr )->tokens.address(), index, token.get() );                     \
     }                                                                                                      \
     void telsx##NAME##Del##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index )                           \
@@ -70,22 +71,25 @@ bool decodeTokens( TokenList *list, HeaderLines &lines, Skipper skipToken,
         TELSX_ASSERT_HANDLE( hdr );                                                                        \
         rtVectorDelAt( TELSX_OWN( hdr )->tokens.address(), index );                                        \
     }                                                                                                      \
-    void telsx##NAME##Prepend##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                       \
+    void telsx##NAME##Prepend##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING ELEMENT )                       \
     {                                                                                                      \
         TELSX_ASSERT_HANDLE( hdr );                                                                        \
-        auto token = telsx::adopt( telsx##WORD##Normalize( element ) );                                    \
+        TELSX_CHECK( ELEMENT, nullptr, #ELEMENT );                                                         \
+        auto token = telsx::adopt( telsx##WORD##Normalize( ELEMENT ) );                                    \
         rtVectorPrependString( TELSX_OWN( hdr )->tokens.address(), token.get() );                          \
     }                                                                                                      \
-    void telsx##NAME##Append##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                        \
+    void telsx##NAME##Append##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING ELEMENT )                        \
     {                                                                                                      \
         TELSX_ASSERT_HANDLE( hdr );                                                                        \
-        auto token = telsx::adopt( telsx##WORD##Normalize( element ) );                                    \
+        TELSX_CHECK( ELEMENT, nullptr, #ELEMENT );                                                         \
+        auto token = telsx::adopt( telsx##WORD##Normalize( ELEMENT ) );                                    \
         rtVectorAppendString( TELSX_OWN( hdr )->tokens.address(), token.get() );                           \
     }                                                                                                      \
-    void telsx##NAME##Insert##WORD( TELSX_HANDLE( NAME ) * hdr, int64_t index, RT_STRING element )         \
+    void telsx##NAME##Insert##WORD( TELSX_HANDLE( NAME ) * hdr, int64_t index, RT_STRING ELEMENT )         \
     {                                                                                                      \
         TELSX_ASSERT_HANDLE( hdr );                                                                        \
-        auto token = telsx::adopt( telsx##WORD##Normalize( element ) );                                    \
+        TELSX_CHECK( ELEMENT, nullptr, #ELEMENT );                                                         \
+        auto token = telsx::adopt( telsx##WORD##Normalize( ELEMENT ) );                                    \
         rtVectorInsertString( TELSX_OWN( hdr )->tokens.address(), index, token.get() );                    \
     }                                                                                                      \
     void telsx##NAME##Set##WORD##sVector( TELSX_HANDLE( NAME ) * hdr, RT_VECTOR vec )                      \

@@ -6,16 +6,14 @@
 
 using namespace telsx;
 
-RT_BOOL telsxTokenNodotOk( RT_STRING tokenNodot ) { return covers( telsx___SkipTokenNodot, tokenNodot ); }
+RT_BOOL telsxTokenNodotOk( RT_STRING tokenNodot )
+{
+    TELSX_ASSERT( tokenNodot );
+    return covers( telsx___SkipTokenNodot, tokenNodot );
+}
 
 RT_STRING telsxTokenNodotNormalize( RT_STRING tokenNodot )
 {
     TELSX_ASSERT( telsxTokenNodotOk( tokenNodot ) );
     return lowerCase( tokenNodot );
-}
-
-int64_t telsx___SkipTokenNodot( const RT_CHAR *chs, int64_t length )
-{
-    TELSX_ASSERT_CHARS( chs, length );
-    return runOf<classTokenNodot>( { chs, length } );
 }

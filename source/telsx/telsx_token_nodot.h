@@ -2,7 +2,9 @@
  *
  *     token-nodot = 1*(alphanum / "-" / "!" / "%" / "*" / "_" / "+" / "`" / "'" / "~")
  *
- * (RFC 6665, 8.4) */
+ * (RFC 6665, 8.4)
+ *
+ * The skipper, telsx___SkipTokenNodot, is in telsx_skip.h. */
 #ifndef TELSX_TELSX_TOKEN_NODOT_H
 #define TELSX_TELSX_TOKEN_NODOT_H
 
@@ -15,9 +17,6 @@ RT_API RT_BOOL telsxTokenNodotOk( RT_STRING tokenNodot );
 
 /* The token nodot in lower case, a new reference. Aborts unless telsxTokenNodotOk. */
 RT_API RT_STRING telsxTokenNodotNormalize( RT_STRING tokenNodot );
-
-/* How many code points at the start of the text are a token nodot (see telsx_skip.h). */
-RT_API int64_t telsx___SkipTokenNodot( const RT_CHAR *chs, int64_t length );
 
 RT_END
 

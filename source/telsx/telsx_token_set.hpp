@@ -88,18 +88,21 @@ void setEach( T **hdr, RT_VECTOR vec, void ( *set )( T **hdr, RT_STRING element 
     RT_BOOL telsx##NAME##Has##WORD( TELSX_HANDLE( NAME ) hdr, RT_STRING element )                  \
     {                                                                                              \
         TELSX_ASSERT( hdr );                                                                       \
+        TELSX_CHECK( element, nullptr, "element" );                                                \
         TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );         \
         return telsx::hasToken( hdr, telsx::adopt( NORMALIZE( element ) ) );                       \
     }                                                                                              \
     void telsx##NAME##Set##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                   \
     {                                                                                              \
         TELSX_ASSERT_HANDLE( hdr );                                                                \
+        TELSX_CHECK( element, nullptr, "element" );                                                \
         TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );         \
         telsx::setToken( TELSX_OWN( hdr ), telsx::adopt( NORMALIZE( element ) ) );                 \
     }                                                                                              \
     void telsx##NAME##Del##WORD( TELSX_HANDLE( NAME ) * hdr, RT_STRING element )                   \
     {                                                                                              \
         TELSX_ASSERT_HANDLE( hdr );                                                                \
+        TELSX_CHECK( element, nullptr, "element" );                                                \
         TELSX_CHECK( telsx##WORD##Ok( element ), nullptr, "telsx" #WORD "Ok( element )" );         \
         auto token = telsx::adopt( NORMALIZE( element ) );                                         \
         telsx::delToken( TELSX_OWN( hdr ), token );                                                \

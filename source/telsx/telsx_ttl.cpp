@@ -1,6 +1,7 @@
 // Time to live of a multicast packet (RFC 3261, 25.1).
 #include "telsx/telsx_ttl.h"
 
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_skip.h"
 
@@ -20,4 +21,8 @@ int64_t telsx___TtlTryDecode( const RT_CHAR *chs, int64_t length )
     return tryDecodeNumber( { chs, length }, telsxTtlOk );
 }
 
-int64_t telsx___SkipTtl( const RT_CHAR *chs, int64_t length ) { return telsx___SkipDigits( chs, length ); }
+int64_t telsx___SkipTtl( const RT_CHAR *chs, int64_t length )
+{
+    TELSX_ASSERT_CHARS( chs, length );
+    return runOf<classDigit>( { chs, length } );
+}

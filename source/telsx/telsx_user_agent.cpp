@@ -6,4 +6,8 @@
 
 using namespace telsx;
 
-RT_BOOL telsxUserAgentOk( RT_STRING userAgent ) { return covers( telsx___SkipUserAgent, userAgent ); }
+RT_BOOL telsxUserAgentOk( RT_STRING userAgent )
+{
+    TELSX_ASSERT( userAgent );
+    return covers( telsx___SkipUserAgent, userAgent );
+}

@@ -5,6 +5,7 @@
 #include "telsx/telsx_protocol_version.h"
 #include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_version.hpp"
 
 using namespace telsx;
 
@@ -48,8 +49,8 @@ static TELSX_VERSION create( Ref<RT_STRING> protocolName, Ref<RT_STRING> protoco
 
 TELSX_VERSION telsxVersionCreate( RT_STRING protocolName, RT_STRING protocolVersion )
 {
-    TELSX_ASSERT( telsxProtocolNameOk( protocolName ) );
-    TELSX_ASSERT( telsxProtocolVersionOk( protocolVersion ) );
+    TELSX_ASSERT_OK( telsxProtocolNameOk, protocolName );
+    TELSX_ASSERT_OK( telsxProtocolVersionOk, protocolVersion );
     return create( adopt( telsxProtocolNameNormalize( protocolName ) ),
                    adopt( telsxProtocolVersionNormalize( protocolVersion ) ) );
 }
@@ -67,7 +68,7 @@ RT_BOOL telsxVersionIsSip20( TELSX_VERSION version )
     return telsxVersionIsSip( version ) && rtStringEquals( version->protocolVersion.get(), literal<"2.0">() );
 }
 
-static TELSX_VERSION tryDecodeOther( Text rest )
+static TELSX_VERSION tryDecode( Text rest )
 {
     Text protocolName = rest.take( telsx___SkipProtocolName );
     if ( !protocolName || !rest.take( telsx___SkipSlash ) )
@@ -81,8 +82,13 @@ static TELSX_VERSION tryDecodeOther( Text rest )
 TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    Text text = { chs, length };
-    return telsx___VersionSip20 && equals<"SIP/2.0">( text ) ? telsx___VersionSip20 : tryDecodeOther( text );
+    return tryDecode( { chs, length } );
+}
+
+Ref<TELSX_VERSION> telsx::tryDecodeVersion( Text text )
+{
+    return adopt( telsx___VersionSip20 && equals<"SIP/2.0">( text ) ? telsx___VersionSip20
+                                                                    : tryDecode( text ) );
 }
 
 RT_STRING telsx___VersionEncode( TELSX_VERSION version )

@@ -7,6 +7,7 @@
 #include "telsx/telsx_transport.hpp"
 #include "telsx/telsx_ttl.h"
 #include "telsx/telsx_value.hpp"
+#include "telsx/telsx_version.hpp"
 #include "telsx/telsx_via.hpp"
 
 using namespace telsx;
@@ -64,15 +65,15 @@ static TELSX_VIA create( Ref<TELSX_VERSION> version, Ref<RT_STRING> transport, R
     via->version = std::move( version );
     via->transport = std::move( transport );
     via->host = std::move( host );
-    via->genericParams = adopt( telsxGenericParamsCreate() );
+    via->genericParams = noGenericParams();
     return via;
 }
 
 TELSX_VIA telsxViaCreate( TELSX_VERSION version, RT_STRING transport, RT_STRING host )
 {
     TELSX_ASSERT( version );
-    TELSX_ASSERT( telsxTransportOk( transport ) );
-    TELSX_ASSERT( telsxHostOk( host ) );
+    TELSX_ASSERT_OK( telsxTransportOk, transport );
+    TELSX_ASSERT_OK( telsxHostOk, host );
     return create( share( version ), adopt( telsxTransportNormalize( transport ) ), share( host ) );
 }
 
@@ -159,7 +160,7 @@ static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
 
 Ref<TELSX_VIA> telsx::takeVia( Text &rest )
 {
-    auto version = adopt( rest.take( telsx___SkipVersion ).as( telsx___VersionTryDecode ) );
+    auto version = tryDecodeVersion( rest.take( telsx___SkipVersion ) );
     if ( !version || !rest.take( telsx___SkipSlash ) )
         return {};
     Text transport = rest.take( telsx___SkipTransport );

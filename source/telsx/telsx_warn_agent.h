@@ -14,9 +14,7 @@ RT_BEGIN
 /* Whether the text is a warn agent; the empty text is none. Null aborts. */
 RT_API RT_BOOL telsxWarnAgentOk( RT_STRING warnAgent );
 
-/* How many code points at the start of the text are the element (see telsx_skip.h). A pseudonym that begins
- * like a host is taken for one and cut where no host goes on. */
-RT_API int64_t telsx___SkipWarnAgent( const RT_CHAR *chs, int64_t length );
+/* How many code points at the start of the text are a pseudonym (see telsx_skip.h, where telsx___SkipWarnAgent is). */
 RT_API int64_t telsx___SkipPseudonym( const RT_CHAR *chs, int64_t length );
 
 RT_END

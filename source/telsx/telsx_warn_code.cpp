@@ -36,9 +36,3 @@ int64_t telsx___WarnCodeDecode( const RT_CHAR *chs, int64_t length )
     TELSX_ASSERT( rtFormatTryDecodeIntChars( chs, length, 10, &result, &charsRead ) && charsRead == length );
     return result;
 }
-
-int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length )
-{
-    int64_t digits = telsx___SkipDigits( chs, length );
-    return digits == 3 ? digits : 0;
-}

@@ -18,12 +18,10 @@ RT_API RT_BOOL telsxWarnCodeOk( int64_t warnCode );
 RT_API RT_STRING telsxWarnCodeToString( int64_t warnCode );
 
 /* For the library's own units. Encode gives the number without leading zeros, so that a code below 100 comes
- * out shorter than it must be to be read again; it aborts unless telsxWarnCodeOk. Decode takes what the
- * skipper has found and aborts for anything but digits. The skipper gives 3 for exactly three digits, and 0
- * for more. */
+ * out shorter than it must be to be read again; it aborts unless telsxWarnCodeOk. Decode takes what
+ * telsx___SkipWarnCode (telsx_skip.h) has found and aborts for anything but digits. */
 RT_API RT_STRING telsx___WarnCodeEncode( int64_t warnCode );
 RT_API int64_t telsx___WarnCodeDecode( const RT_CHAR *chs, int64_t length );
-RT_API int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length );
 
 RT_END
 

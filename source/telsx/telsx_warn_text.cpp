@@ -15,5 +15,6 @@ RT_BOOL telsxWarnTextOk( RT_STRING warnText )
 
 int64_t telsx___SkipWarnText( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
     return telsx___SkipQuotedString( chs, length );
 }

@@ -39,8 +39,8 @@ TELSX_WARNING_VALUE telsxWarningValueCreateWithWarnText( int64_t warnCode, RT_ST
                                                          RT_STRING warnText )
 {
     TELSX_ASSERT( telsxWarnCodeOk( warnCode ) );
-    TELSX_ASSERT( telsxWarnAgentOk( warnAgent ) );
-    TELSX_ASSERT( telsxWarnTextOk( warnText ) );
+    TELSX_ASSERT_OK( telsxWarnAgentOk, warnAgent );
+    TELSX_ASSERT_OK( telsxWarnTextOk, warnText );
     TELSX_WARNING_VALUE wv = rt::create<TELSX_WARNING_VALUE_>( telsxWarningValueSort() );
     wv->warnCode = warnCode;
     wv->warnAgent = share( warnAgent );

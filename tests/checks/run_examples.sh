@@ -174,6 +174,10 @@ prints "Via: SIP/2.0/TCP 192.0.2.1;branch=z9hG4bK1"
 grep -q '^To: <sip:b@b>;tag=' "$scratch/out" || fail "there is no tag in To"
 prints_nothing_like '^Record-Route'
 
+# A line feed alone hides a header from the proxy, though not from all others.
+hops 'INVITE sip:b@b' $'Subject: a\nRoute: <sip:c>'
+prints "SIP/2.0 400 Bad request"
+
 printf 'SIP/2.0 200 OK\r\n\r\n' >"$scratch/bad0"
 request 'ACK sip:b@b' 'Max-Forwards: 0' >"$scratch/bad1"
 request 'BYE sip:b@b' 'Max-Forwards: x' >"$scratch/bad2"
@@ -181,6 +185,8 @@ request 'BYE sip:b@b' 'Route: x' >"$scratch/bad3"
 request 'BYE sip:b@b' 'Record-Route: x' >"$scratch/bad4"
 request 'BYE sip:b@b' | grep -v '^Call-ID' >"$scratch/bad5"
 request 'BYE sip:b@b' | sed 's/192.0.2.1/&:99999999999999999999/' >"$scratch/bad6"
+request 'ACK sip:b@b' $'Subject: a\rb' >"$scratch/bad7"
+request 'BYE sip:b@b' $'From: a\nb' 'From: <sip:a>' >"$scratch/bad8"
 for bad in "$scratch"/bad? "$scratch/garbage" "$scratch/missing"; do
     expect 1 "$hop" "$bad"
     one_complaint

@@ -40,10 +40,16 @@ TEST( RscIri, TheLongestIriIsMeasured )
     expectStops( []( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIriUntil( chs, length, ',' ); },
                  "sip:a;b|,c sip:a-|,-,b x:ä|, x:|, |,x:" );
     expectStops( []( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIriUntil( chs, length, ';' ); },
-                 "sip:a,b|;c sip:a-,|;-,b" );
+                 "sip:a,b|;c sip:a-|,;-,b sip:a,si|;p:b" );
+    // A comma ends an IRI where an address of these schemes follows it, or nothing of the IRI.
+    expectStops(
+        rsc___SkipIri,
+        "sip:a@b|,sip:c@d sip:a|,SiPs:b x:|,TEL: sip:a,si:b sip:a,sipss:b sip:a,tel sip:a,,x,tel|,,tel:1 "
+        "sip:a|, sip:a|,,, sip:a|,,>b x:|, sip:a,b@c| sip:a;x=1,2|> http://h/a,b |,sip:a" );
     EXPECT_TRUE( iriOk( str( "sip:ä@b" ) ) );
     EXPECT_FALSE( iriOk( str( "sip:a b" ) ) );
-    EXPECT_FALSE( iriOk( str( "" ) ) );
+    for ( const char *bad : { "", "sip:a,", "sip:a,tel:b" } )
+        EXPECT_FALSE( iriOk( str( bad ) ) ) << bad;
 }
 
 TEST( RscIri, PortsAndAddressesAreMeasured )
@@ -114,12 +120,12 @@ TEST( RscIri, WhatDoesNotChangeIsShared )
 
 TEST( RscIri, EveryTextKeepsTheLaws )
 {
-    const char *pieces[] = { "xn--",      "XN--",   "4ca",    "MNCHEN-3YA", "%C3", "%A4",       "%c3%a4",
-                             "%E3%80%82", "ä",      "ß",      "。",         "１",  "：",        "＠",
-                             "\u0300",    "\u200E", "\uE000", "[",          "]",   "::1",       "@",
-                             ":",         "/",      "//",     "?",          "#",   ";",         ".",
-                             "..",        "-",      "_",      "a",          "%2E", "%E2%80%8E", "％",
-                             "♥",         "\u00AD" };
+    const char *pieces[] = { "xn--",      "XN--",   "4ca",    "MNCHEN-3YA", "%C3",  "%A4",       "%c3%a4",
+                             "%E3%80%82", "ä",      "ß",      "。",         "１",   "：",        "＠",
+                             "\u0300",    "\u200E", "\uE000", "[",          "]",    "::1",       "@",
+                             ":",         "/",      "//",     "?",          "#",    ";",         ".",
+                             "..",        "-",      "_",      "a",          "%2E",  "%E2%80%8E", "％",
+                             "♥",         "\u00AD", ",",      "，",         "tel:", "ＴＥＬ" };
     const char *starts[] = { "sip:", "SIPS:a@", "http://", "x:", "sip:" };
     std::mt19937 random( 1 );
     int iris = 0;

@@ -113,12 +113,17 @@ TEST( RtObject, ComparesAnyTwo )
     EXPECT_NE( 0, rtObjCompare( a, b ) );
     EXPECT_NE( rtObjCompare( a, b ) < 0, rtObjCompare( b, a ) < 0 );
 
-    RT_SORT_ plain = { RT_STATIC_OBJECT, nullptr, "PLAIN", nullptr, nullptr, nullptr, {} };
+    RT_SORT_ plain = {
+        RT_STATIC_OBJECT( &rt___sort_RT_SORT ), nullptr, "PLAIN", nullptr, nullptr, nullptr, {}
+    };
     Ref<RT_OBJ> c = adopt( rt___ObjCreate( sizeof( RT_OBJECT ), &plain ) ),
                 d = adopt( rt___ObjCreate( sizeof( RT_OBJECT ), &plain ) );
     EXPECT_EQ( 0, rtObjCompare( c.get(), c.get() ) );
     EXPECT_NE( 0, rtObjCompare( c.get(), d.get() ) );
     EXPECT_EQ( "PLAIN", utf8( rtObjToString( c.get() ) ) );
+    // Sort records are objects too.
+    EXPECT_EQ( "PLAIN", utf8( rtObjToString( &plain.object ) ) );
+    EXPECT_STREQ( "RT_SORT", rtObjSort( &plain.object )->name );
 }
 
 TEST( RtObject, AbortsInOneLine )
@@ -144,8 +149,12 @@ static RT_BOOL startup( void )
 static void shutdown( void ) { ++stops; }
 
 static RT_MODULE_RECORD record = { 2, "", "", {}, "", "", "", "counting", "", "", "", "" };
-static RT_MODULE module = { RT_STATIC_OBJECT, &record, startup, nullptr, shutdown, {} };
-static RT_MODULE second = { RT_STATIC_OBJECT, &record, startup, nullptr, shutdown, {} };
+static RT_MODULE module = {
+    RT_STATIC_OBJECT( &rt___sort_RT_MODULE ), &record, startup, nullptr, shutdown, {}
+};
+static RT_MODULE second = {
+    RT_STATIC_OBJECT( &rt___sort_RT_MODULE ), &record, startup, nullptr, shutdown, {}
+};
 
 TEST( RtModule, StartsOnceAndStopsWithTheLast )
 {

@@ -152,6 +152,33 @@ TEST( Decoding, OfAHeadAloneTellsContentLength )
     EXPECT_ABORT( telsxMessageTryDecode( nullptr ), "buf" );
 }
 
+TEST( Decoding, KeepsLoneLineEndsAndTellsOfThem )
+{
+    const std::pair<const char *, bool> rows[] = {
+        { "G: a\r\n b\r\nV: c\r\nv: d\r\n\r\n\n", false },
+        { "G: a\rb\r\n", true },
+        { "G: a\nb\r\n", true },
+        { "G: a\r\r\n", true },
+        { "V: a\r\nv: b\r\nv: c\nd\r\n", true },
+    };
+    for ( auto &[head, expected] : rows )
+        EXPECT_EQ( expected, telsxMessageFragmentHasLoneLineEnds( fragment( head ).get() ) != 0 ) << head;
+
+    // What counts is what would be written.
+    Ref<TELSX_MESSAGE> msg = message( "A b:c D/1\r\nV: a\r\nv: b\nc\r\n\r\n" );
+    auto hasThem = [&msg] { return telsxMessageHasLoneLineEnds( msg.get() ) != 0; };
+    adopt( telsxMessageHeaderCstr( msg.get(), "V", -1 ) );
+    EXPECT_TRUE( hasThem() );
+    telsxMessageSetHeader( msg.address(), header( "V", { "a" } ).get() );
+    EXPECT_FALSE( hasThem() );
+    telsxMessageSetHeader( msg.address(), header( "G", { "a", "b\r" } ).get() );
+    EXPECT_TRUE( hasThem() );
+    telsxMessageDelHeaderCstr( msg.address(), "g", -1 );
+    EXPECT_FALSE( hasThem() );
+    EXPECT_ABORT( telsxMessageHasLoneLineEnds( nullptr ), "msg" );
+    EXPECT_ABORT( telsxMessageFragmentHasLoneLineEnds( nullptr ), "frag" );
+}
+
 // A message cut off at any byte is decoded or refused, and leaves nothing behind.
 TEST( Decoding, TakesEveryFrontOfAMessage )
 {

@@ -133,6 +133,8 @@ TEST_P( EveryType, AbortsForNullAndForOtherTypes )
 TEST( Module, DescribesItself )
 {
     const RT_MODULE_RECORD *record = rtModuleRecord( telsxModule() );
+    EXPECT_STREQ( "RT_MODULE", rtObjSort( telsxModule() )->name );
+    EXPECT_EQ( "telsx", utf8( rtObjToString( telsxModule() ) ) );
     EXPECT_EQ( &telsx___module_record, record );
     EXPECT_EQ( 2, record->form );
     EXPECT_STREQ( "telsx", record->name );
@@ -165,6 +167,7 @@ TEST( Version, IsDecodedWhole )
     {
         Ref<TELSX_VERSION> version = adopt( applied( telsx___VersionTryDecode, text ) );
         ASSERT_TRUE( version ) << text;
+        EXPECT_EQ( 1, telsxVersionObj( version.get() )->count ) << "a new object, also for SIP/2.0";
         EXPECT_EQ( expected, utf8( telsx___VersionEncode( version.get() ) ) );
         EXPECT_EQ( isSip, telsxVersionIsSip( version.get() ) ) << text;
         EXPECT_EQ( isSip20, telsxVersionIsSip20( version.get() ) ) << text;

@@ -177,6 +177,20 @@ TEST( GenericParams, EqualSetsHoldEqualParameters )
     EXPECT_NE( params( ";a" ), params( ";a=b" ) );
 }
 
+TEST( GenericParams, AreNewAlsoWhenEmpty )
+{
+    auto expectNew = []( Params made )
+    {
+        TELSX_GENERIC_PARAMS held = made.get();
+        EXPECT_EQ( 1, telsxGenericParamsObj( held )->count );
+        telsxGenericParamsSetParam( made.address(), param( "a" ).get() );
+        EXPECT_EQ( held, made.get() );
+    };
+    expectNew( adopt( telsxGenericParamsCreate() ) );
+    expectNew( params( "" ) );
+    expectNew( params( ";" ) );
+}
+
 TEST( GenericParams, AbortForBrokenContracts )
 {
     Param parameter = param( "a=b" ), noParam;

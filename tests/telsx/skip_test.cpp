@@ -143,25 +143,10 @@ TEST( Skip, NamesOfDates )
     expectNames( telsx___SkipWkday, 0, "Mon Tue Wed Thu Fri Sat Sun" );
 }
 
-// Decoders of elements ask the same of their text.
+// What all of them ask of their text is shown in tests/aborts.
 TEST( Skip, AbortsForBrokenContracts )
 {
     RT_CHAR ch = 'a';
-    for ( const elements::Element &element : elements::all )
-    {
-        SCOPED_TRACE( element.name );
-        auto expectAborts = [&]( auto *function )
-        {
-            if ( function )
-            {
-                EXPECT_ABORT( function( &ch, -1 ), "length >= 0" );
-                EXPECT_ABORT( function( nullptr, 20 ), "chs || length == 0" );
-            }
-        };
-        expectAborts( element.skip );
-        expectAborts( element.tryDecode );
-        expectAborts( element.tryDecodeNumber );
-    }
     EXPECT_ABORT( telsx___SkipChars( &ch, 1, &ch, -1 ), "skipLength >= 0" );
     EXPECT_ABORT( telsx___SkipCharsAsciiCaseFold( &ch, 1, nullptr, 1 ), "skipChs || skipLength == 0" );
     EXPECT_ABORT( telsx___SkipChar( &ch, 1, 0x110000 ), "RT_CHAR_OK( ch )" );
