@@ -1,5 +1,5 @@
-// The end of a process that broke a contract. In a file of its own, so that no compiler binds a call to this definition
-// where the program has another one.
+// The end of a process that broke a contract. It has a file of its own so that no compiler binds a call to this
+// definition when the program has another one.
 #include <cstdio>
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-// The blocks that objects stand in.
+// The blocks that hold objects.
 #include "rt/rt_blocks.hpp"
 
 #include <algorithm>
@@ -28,8 +28,8 @@ struct AtThreadEnd
     }
 };
 
-// False for a thread that has ended, and without memory. Only the pointer is the thread's own: a program that loads
-// the library while it runs has little room for such variables.
+// False if the thread has ended or memory has run out. Only the pointer is thread-local: a program that loads the
+// library while it runs has little room for thread-local variables.
 bool makeLists()
 {
     auto lists =

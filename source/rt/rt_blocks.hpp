@@ -1,10 +1,10 @@
-// The blocks that objects stand in. Small ones that were freed wait in lists of their thread for the next
-// object of their size, so that making and freeing a short-lived object costs a few instructions.
+// The blocks that hold objects. Small freed blocks wait in lists of their thread for the next object of their size, so
+// that making and freeing a short-lived object costs only a few instructions.
 #pragma once
 
 #include "rt/rt_object.h"
 
-// Sanitizers follow each block from malloc to free.
+// Sanitizers must see each block from malloc to free.
 #if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ )
 inline constexpr bool listsBlocks = false;
 #elif defined( __has_feature )
@@ -22,7 +22,7 @@ namespace rt
 
 inline constexpr int64_t blockStep = 16, mostListed = 4096, mostBytesInList = 16384;
 
-// Freed blocks, the first eight bytes of each leading to the next, by size.
+// Freed blocks of one size. The first eight bytes of each point to the next.
 struct BlockList
 {
     void *first;
@@ -47,13 +47,13 @@ inline BlockList &blockListOf( int64_t size )
     return rt___blockLists->of[static_cast<uint64_t>( size ) / static_cast<uint64_t>( blockStep )];
 }
 
-// Without lists a block has exactly its size, so that sanitizers see each byte behind it.
+// Without lists a block has exactly the requested size, so that sanitizers see any access past its end.
 inline int64_t roundedToBlock( int64_t size )
 {
     return listsBlocks ? ( size + blockStep - 1 ) & -blockStep : size;
 }
 
-// A block of that many bytes, rounded, out of the lists, or null.
+// A block of that many bytes, already rounded, from the lists, or null.
 inline RT_OBJ takeListedBlock( int64_t size )
 {
     if ( !rt___blockLists || size > mostListed )
@@ -68,7 +68,7 @@ inline RT_OBJ takeListedBlock( int64_t size )
     return static_cast<RT_OBJ>( block );
 }
 
-// A block of at least that many bytes; the size becomes the block's own.
+// A block of at least that many bytes; size becomes the size of the block.
 inline RT_OBJ allocateBlock( int64_t *size )
 {
     *size = roundedToBlock( *size );
@@ -76,7 +76,7 @@ inline RT_OBJ allocateBlock( int64_t *size )
     return block ? block : allocateNewBlock( *size );
 }
 
-// What rt___ObjCreate does, in place where a block is at hand.
+// What rt___ObjCreate does, inline if a free block is at hand.
 inline RT_OBJ createObject( int64_t size, RT_SORT sort )
 {
 #ifndef RT_COUNT_OBJECTS
@@ -108,8 +108,8 @@ inline void freeBlock( RT_OBJ obj )
     freeUnlistedBlock( obj );
 }
 
-// A block of at least that many bytes with the object of another, which is gone; the size in the object
-// becomes the block's.
+// Moves an object to a block of at least that many bytes and frees the old block; the size in the object becomes that
+// of the new block.
 RT_OBJ growBlock( RT_OBJ obj, int64_t size );
 
 } // namespace rt

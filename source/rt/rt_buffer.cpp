@@ -1,5 +1,5 @@
-// Buffers: one block whose bytes begin at an offset, so that taking out the first ones moves nothing. A buffer that
-// is small when it is made has it behind its structure.
+// Buffers: one block whose bytes begin at an offset, so that removing the first ones moves nothing. In a buffer that is
+// small when it is made, the block directly follows the structure.
 #include "rt/rt_buffer.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ static void freeFunc( RT_OBJ obj )
         std::free( buffer->block );
 }
 
-// Never null, so that an empty buffer needs no care.
+// Never null, so that an empty buffer needs no special case.
 static const unsigned char *bytesOf( RT_BUFFER buffer )
 {
     static constexpr unsigned char none = 0;
@@ -47,8 +47,8 @@ static bool inside( RT_BUFFER buffer, int64_t offset, int64_t length )
     return offset >= 0 && length >= 0 && length <= buffer->length - offset;
 }
 
-// How many bytes more fit into the block. Moving its bytes to the front must be paid for by as many that were
-// taken out there.
+// How many more bytes fit into the block. Moving its bytes to the front must be paid for by at least as many removed
+// bytes.
 static int64_t space( RT_BUFFER buffer )
 {
     return buffer->capacity - buffer->length - ( buffer->offset < buffer->length ? buffer->offset : 0 );
@@ -73,8 +73,7 @@ static void makeRoom( RT_BUFFER buffer, int64_t more )
     }
 }
 
-// The buffer behind the handle, private to it, with nothing left of its bytes but a part, and with room
-// behind that.
+// The buffer of the handle, made private to it and reduced to a part of its bytes, with room for more after them.
 static RT_BUFFER own( RT_BUFFER *handle, int64_t offset, int64_t length, int64_t more )
 {
     RT_BUFFER buffer = *handle;
@@ -100,8 +99,8 @@ unsigned char *rt___BufferExtend( RT_BUFFER *handle, int64_t length )
     return buffer->block + buffer->offset + buffer->length - length;
 }
 
-// The source of bytes for the buffer. Where it is the buffer itself, it is what stands behind the handle once
-// that is made private.
+// The source of bytes for the buffer. If the source is the buffer itself, it is what the handle refers to once that has
+// been made private.
 static RT_BUFFER &sourceFor( RT_BUFFER *buffer, RT_BUFFER &source, int64_t offset, int64_t length )
 {
     RT_ASSERT( buffer );
@@ -186,7 +185,7 @@ void rtBufferAppendBytes( RT_BUFFER *buffer, const void *bytes, int64_t length )
     RT_ASSERT( bytes || length == 0 );
     if ( length == 0 )
         return;
-    // A part of the buffer itself must outlive the buffer's move.
+    // If the bytes are a part of the buffer itself, they must outlive its move.
     const auto *from = static_cast<const unsigned char *>( bytes ), *own = bytesOf( *buffer );
     bool isOwnPart = from >= own && from < own + ( *buffer )->length;
     rt::Ref<RT_BUFFER> source = isOwnPart ? rt::share( *buffer ) : rt::Ref<RT_BUFFER>();

@@ -1,4 +1,4 @@
-// UTF-8 (RFC 3629). Most text is ASCII, which goes in blocks.
+// UTF-8 (RFC 3629). Most text is ASCII, which is converted in blocks.
 #include "rt/rt_charset.h"
 
 #include "rt/rt_buffer.h"
@@ -43,7 +43,7 @@ static bool isAscii( const FROM *from, int64_t length )
     return all < 0x80;
 }
 
-// Whether it is ASCII; what stands there if it isn't, is to be written again.
+// Writes the code points as bytes and tells whether they are ASCII. If they aren't, what was written is not valid.
 static bool tryNarrow( const RT_CHAR *from, int64_t length, unsigned char *to )
 {
     int64_t at = 0;
@@ -68,7 +68,7 @@ static bool isSurrogate( RT_CHAR ch ) { return ch >= 0xD800 && ch <= 0xDFFF; }
 
 static int64_t encodedSize( RT_CHAR ch ) { return 1 + ( ch >= 0x80 ) + ( ch >= 0x800 ) + ( ch >= 0x10000 ); }
 
-// How many bytes form the character at the start, whose code point goes to the last argument; 0 if none does.
+// How many bytes form the character at the start, or 0 if there is none. Its code point goes to the last argument.
 static int64_t decodeOne( const unsigned char *bytes, int64_t length, RT_CHAR *ch )
 {
     unsigned char lead = bytes[0];
@@ -98,7 +98,7 @@ static void encodeOne( RT_CHAR ch, int64_t size, unsigned char *into )
     into[0] = static_cast<unsigned char>( size == 1 ? ch : ( 0xF00 >> size & 0xFF ) | ch );
 }
 
-// The number of code points, -1 if the bytes are not strictly UTF-8. Without WRITES it only looks.
+// The number of code points, or -1 if the bytes are not strict UTF-8. Without WRITES it only counts.
 template <bool WRITES>
 static int64_t decode( const unsigned char *bytes, int64_t length, RT_CHAR *into )
 {

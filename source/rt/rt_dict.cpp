@@ -1,6 +1,6 @@
-// Dictionaries. The entries stand in an array in the order in which their keys came; a table of open
-// addressing leads from a key's hash to its entry. A deleted entry stays in the array without a key until the
-// array is full; then the living ones move together. Dictionaries of a few entries do without the table.
+// Dictionaries. The entries are in an array, in the order in which their keys came; a hash table with open addressing
+// leads from a key to its entry. A deleted entry stays in the array without a key until the array is full; then the
+// live entries are compacted. A dictionary of a few entries has no table.
 #include "rt/rt_dict.h"
 
 #include <sys/random.h>
@@ -34,17 +34,17 @@ struct RT_DICT_
     Entry *entries;
     int64_t capacity;  // of the array
     int64_t used;      // entries in the array, deleted ones included
-    int64_t length;    // entries that live
+    int64_t length;    // live entries
     uint32_t *table;   // the number of an entry plus 1, or 0; null for few entries
     int64_t tableSize; // a power of 2
-    // Where the enumeration of an array with deleted entries was last: the index and the entry's number, 32
-    // bits each. It only saves walking; readers in several threads may all move it.
+    // Where the enumeration of an array with deleted entries was last: the index and the entry's number, 32 bits each.
+    // It only saves walking; readers in several threads may all move it.
     uint64_t cursor;
 };
 
-// A polynomial in the code points, two in a word, over the integers modulo 2^61 - 1, at a point that is drawn
-// anew in each process: whoever chooses the names without knowing it makes two of them collide with a
-// probability of at most their length over 2^61.
+// A polynomial in the code points, two to a word, over the integers modulo 2^61 - 1, at a random point that each
+// process draws anew. If names are chosen without knowing the point, two of them collide with a probability of at most
+// their length over 2^61.
 namespace
 {
 
@@ -96,7 +96,7 @@ static uint64_t firstSlot( RT_DICT dict, uint64_t hash )
     return hash >> ( 64 - std::countr_zero( static_cast<uint64_t>( dict->tableSize ) ) );
 }
 
-// The living entry of the key, or null.
+// The live entry of the key, or null.
 static Entry *find( RT_DICT dict, uint64_t hash, Text key )
 {
     if ( !dict->table )
@@ -121,7 +121,7 @@ static Entry *find( RT_DICT dict, RT_STRING key )
     return dict->length ? find( dict, hashOf( text ), text ) : nullptr;
 }
 
-// Takes a slot that is free, or that leads to a deleted entry.
+// Enters the number in a slot that is free or leads to a deleted entry.
 static void enterInTable( RT_DICT dict, int64_t number )
 {
     uint64_t mask = static_cast<uint64_t>( dict->tableSize ) - 1;
@@ -131,8 +131,7 @@ static void enterInTable( RT_DICT dict, int64_t number )
     dict->table[slot] = static_cast<uint32_t>( number + 1 );
 }
 
-// Moves the living entries of one dictionary, without their references, into a new array of another or the
-// same.
+// Moves the live entries of one dictionary into a new array of another or the same one. Reference counts do not change.
 static void moveEntries( RT_DICT from, RT_DICT to, int64_t capacity )
 {
     RT_CHECK( capacity < UINT32_MAX, "out of memory", "capacity" );
@@ -175,7 +174,7 @@ static void freeFunc( RT_OBJ obj )
     std::free( dict->table );
 }
 
-// All living entries in the order of their keys.
+// The keys of all live entries, sorted.
 static Ref<RT_VECTOR> sortedKeys( RT_DICT dict )
 {
     Entry *sorted = rt::allocate<Entry>( dict->length );
@@ -237,14 +236,14 @@ static RT_STRING toStringFunc( RT_OBJ obj )
 
 RT_DEFINE_STDFUNCS( rt, nullptr, Dict, RT_DICT, freeFunc, compareFunc, toStringFunc )
 
-// One empty dictionary serves all; the first change makes another.
+// One empty dictionary serves as all of them; the first change makes a copy.
 constexpr RT_DICT_ rt___emptyDict = {
     { &rt___sort_RT_DICT, RT_COUNT_IMMORTAL, 0 }, nullptr, 0, 0, 0, nullptr, 0, 0
 };
 
 RT_DICT rtDictCreate( void ) { return const_cast<RT_DICT>( &rt___emptyDict ); }
 
-// The dictionary behind the handle, made private to it.
+// The dictionary of the handle, made private to it.
 static RT_DICT own( RT_DICT *handle )
 {
     RT_ASSERT( handle );
@@ -319,7 +318,7 @@ void rtDictDelStringKey( RT_DICT *handle, RT_STRING key )
     --dict->length;
     if ( static_cast<uint64_t>( entry - dict->entries ) < ( dict->cursor & UINT32_MAX ) )
         dict->cursor -= uint64_t{ 1 } << 32;
-    // As many gaps as pay for closing them, so that what is left costs no more than it would without them.
+    // Enough gaps to pay for closing them, so that the remaining entries cost no more than they would without gaps.
     if ( dict->used > dict->length * 2 + leastCapacity )
         moveEntries( dict, dict, std::max( dict->length * 2, leastCapacity ) );
 }
@@ -331,7 +330,7 @@ void rtDictClear( RT_DICT *dict )
     auto old = rt::adopt( std::exchange( *dict, rtDictCreate() ) );
 }
 
-// The living entry at the index of the enumeration.
+// The live entry at the index in the enumeration.
 static const Entry &entryAt( RT_DICT dict, int64_t index )
 {
     RT_ASSERT( dict );

@@ -6,17 +6,18 @@
 
 RT_BEGIN
 
-/* Reads an integer from the start of the text: digits of the radix (2 to 36, letters in any case), any number
- * of leading zeros, no sign, no white space. False if there is no digit or the number does not fit 64 bits
- * signed; value and consumed are then left alone. consumed, the number of digits, may be null. */
+/* Reads an integer from the start of the text: digits of the radix (2 to 36, letters in any case), any number of
+ * leading zeros, no sign, no white space. Returns false and leaves value and consumed alone if there is no digit or if
+ * the number does not fit a signed 64-bit integer. consumed receives the number of digits and may be null. */
 RT_API RT_BOOL rtFormatTryDecodeIntChars( const RT_CHAR *chs, int64_t length, int64_t radix, int64_t *value,
                                           int64_t *consumed );
 
-/* The smaller number of the two, and the larger one. */
+/* The smaller and the larger of two numbers. */
 RT_API int64_t rtIntMin( int64_t a, int64_t b );
 RT_API int64_t rtIntMax( int64_t a, int64_t b );
 
-/* The upper case of a character: 1 and the code point in mapping, or 0 if it has none of its own. */
+/* The upper case of a character: returns 1 and puts the code point into mapping, or returns 0 if the character has no
+ * upper case of its own. */
 RT_API int64_t rt___UnicodeUpperCaseDbLookup( RT_CHAR ch, RT_CHAR *mapping );
 
 RT_END

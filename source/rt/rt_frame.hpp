@@ -1,4 +1,4 @@
-// The frame of all object types of all libraries: what a type has beside its fields and its own work.
+// The frame of all object types of all libraries: what a type has besides its fields and its own code.
 //
 // An object is a plain structure: the runtime's header first, then the fields, then the list of them.
 //
@@ -11,10 +11,9 @@
 //         static constexpr auto fields( auto &self ) { return std::tie( self.protocol, self.cause ); }
 //     };
 //
-// A field is a Ref, an int64_t or an RT_BOOL. Copying, comparing and freeing go through the list, in its
-// order. A type whose order of comparison is another one states that order in a second list, called order.
-// The RT_DEFINE lines at the end name the exported functions of a unit; what they do is written in the
-// functions above them.
+// A field is a Ref, an int64_t or an RT_BOOL. Copying, comparing and freeing go through the list, in its order. A type
+// that compares in another order states that order in a second list, called order. The RT_DEFINE lines at the end name
+// the exported functions of a unit, whose work is done by the functions above them.
 #pragma once
 
 #include <atomic>
@@ -31,8 +30,8 @@
 #include "rt/rt_blocks.hpp"
 #include "rt/rt_object.h"
 
-// Ends the process if a condition that the caller owes doesn't hold. The text must be taken by # in the macro
-// that the unit writes: an argument handed on to another macro is expanded on the way.
+// Ends the process unless a condition that the caller must meet holds. The text must be taken by # in the macro that
+// the unit writes: an argument that is passed on to another macro is expanded on the way.
 #define RT_CHECK( CONDITION, MESSAGE, EXPRESSION ) \
     ( ( CONDITION ) ? void() : rt::fail<__FILE__>( MESSAGE, __LINE__, EXPRESSION ) )
 #define RT_ASSERT( ... ) RT_CHECK( ( __VA_ARGS__ ), nullptr, #__VA_ARGS__ )
@@ -40,8 +39,8 @@
 namespace rt
 {
 
-// The unit, "source/telsx/telsx_reason", of the compiler's name for its file. As the parameter of a template it exists
-// as long as the library is loaded.
+// The name of the unit, such as "source/telsx/telsx_reason", taken from the compiler's name for its file. As a template
+// parameter it exists as long as the library is loaded.
 struct Unit
 {
     char name[64] = "";
@@ -77,8 +76,8 @@ inline void retain( RT_OBJ obj )
         count.fetch_add( 1 );
 }
 
-// Gives one reference up; whether it was the last. The only holder needs no atomic subtraction: nobody else is there to
-// add or subtract.
+// Gives up one reference and tells whether it was the last. The only holder needs no atomic subtraction, since nobody
+// else can add or subtract.
 inline bool giveUp( RT_OBJ obj )
 {
     std::atomic_ref count( obj->count );
@@ -92,7 +91,7 @@ inline void release( RT_OBJ obj )
         rt___ObjFree( obj );
 }
 
-// Most objects are strings, whose end is short.
+// Most objects are strings, which are quick to free.
 template <class HANDLE>
 void releaseHandle( HANDLE handle )
 {
@@ -107,7 +106,7 @@ void releaseHandle( HANDLE handle )
 
 inline bool shared( RT_OBJ obj ) { return std::atomic_ref( obj->count ).load() > 1; }
 
-// Owns one reference, or is null: a field, or a variable of a function that may return early.
+// Owns one reference, or is null: a field, or a variable in a function that may return early.
 template <class HANDLE>
 class Ref
 {
@@ -125,7 +124,7 @@ public:
             releaseHandle( handle );
     }
 
-    // The old reference is released last, with the parameter.
+    // The old reference is released last, together with the parameter.
     Ref &operator=( Ref other ) noexcept
     {
         std::swap( handle, other.handle );
@@ -193,7 +192,7 @@ bool present( const Ref<HANDLE> &field )
 }
 inline bool present( const int64_t &field ) { return field != -1; }
 
-// Whether a setter is given something: any number is.
+// Whether a setter is given something; any number counts.
 template <class HANDLE>
 bool given( HANDLE handle )
 {
@@ -228,7 +227,7 @@ void put( F &field, F given )
     field = given;
 }
 
-// How many members and bases a plain structure has, which is how many values of any type can initialise it.
+// The number of members and bases of a plain structure: how many values of any type can initialise it.
 struct AnyValue
 {
     template <class U>
@@ -243,8 +242,8 @@ consteval std::size_t countMembers()
         return sizeof...( VALUE );
 }
 
-// Whether a type's list names each of its fields once. A structure that adds nothing to its base has the base's list, for
-// which this is to be asked.
+// Whether a type's list names each of its fields once. A structure that adds nothing to its base has the base's list;
+// check the base instead.
 template <class T>
 consteval bool listsAllFields()
 {
@@ -263,7 +262,7 @@ consteval bool listsAllFields()
         T::fields( object ) );
 }
 
-// A new object with all fields absent. The runtime has filled the header, so only the fields are made.
+// A new object with all fields absent. The runtime has filled in the header, so only the fields are constructed.
 template <class T>
 T *create( RT_SORT sort )
 {
@@ -301,7 +300,7 @@ int64_t compareFields( T *a, T *b )
     return order < 0 ? -1 : order > 0;
 }
 
-// Copy on write: the object behind the handle, made private to it if anyone else holds it.
+// Copy on write: the object of the handle, made private to it if others hold it too.
 template <class T>
 T *own( T **handle )
 {
@@ -316,8 +315,8 @@ T *own( T **handle )
 
 } // namespace rt
 
-// The sort record of the type, and the eight functions that every type has. MODULE is the module's prefix,
-// telsx, and MODULE_OBJECT the address of its module object or null.
+// The sort record of the type and the eight functions that every type has. MODULE is the module's prefix, such as
+// telsx, and MODULE_OBJECT the address of its module object, or null.
 #define RT_DEFINE_STDFUNCS( MODULE, MODULE_OBJECT, NAME, HANDLE, FREE, COMPARE, TO_STRING )          \
     static constexpr RT_SORT_ MODULE##___sort_##HANDLE = {                                           \
         RT_STATIC_OBJECT( &rt___sort_RT_SORT ), MODULE_OBJECT, #HANDLE, FREE, COMPARE, TO_STRING, {} \

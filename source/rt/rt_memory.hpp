@@ -1,4 +1,4 @@
-// Memory that is no object. Who runs out of it can't go on.
+// Memory other than objects. Running out of it ends the process.
 #pragma once
 
 #include <cstdlib>
@@ -18,7 +18,7 @@ T *allocate( int64_t count )
     return static_cast<T *>( block );
 }
 
-// A larger block in the place of an old one.
+// A larger block in place of an old one.
 template <class T>
 T *reallocate( T *old, int64_t count )
 {
@@ -29,14 +29,14 @@ T *reallocate( T *old, int64_t count )
     return static_cast<T *>( block );
 }
 
-// How much to make room for when something must grow, so that appending is amortised O(1).
+// How much room to make when something must grow, so that appending is amortised O(1).
 inline int64_t grown( int64_t capacity, int64_t needed )
 {
     int64_t more = capacity + capacity / 2;
     return more > needed ? more : needed;
 }
 
-// memcpy for counts of elements; a null pointer goes with a count of 0.
+// memcpy with a count of elements; a pointer may be null if the count is 0.
 template <class T>
 void copyItems( T *to, const T *from, int64_t count )
 {
@@ -44,8 +44,8 @@ void copyItems( T *to, const T *from, int64_t count )
         std::memcpy( static_cast<void *>( to ), from, static_cast<std::size_t>( count ) * sizeof( T ) );
 }
 
-// Items without a destructor in one block that grows at its end. Zeroed bytes are an empty one; one that starts
-// with a block that is somebody else's leaves that when it grows.
+// Items without a destructor, in one block that grows at its end. Zeroed bytes are an empty array. An array that starts
+// in a borrowed block leaves it when it grows.
 template <class T>
 struct Array
 {

@@ -6,7 +6,7 @@
 #include "rt/rt_memory.hpp"
 #include "rt/rt_string.h"
 
-// One started module, in a list of them all.
+// One started module, in a list of all of them.
 struct Started
 {
     RT_OBJ module;
@@ -54,7 +54,7 @@ RT_BOOL rtModuleStart( RT_OBJ module )
     return 1;
 }
 
-// Whether the module was started.
+// Tells whether the module was started.
 static bool stop( RT_OBJ module )
 {
     std::lock_guard lock( mutex );
@@ -73,7 +73,7 @@ void rtModuleStop( RT_OBJ module )
 {
     RT_ASSERT( module );
     bool started = stop( module );
-    RT_ASSERT( started ); // the lock is free again for programs that go on
+    RT_ASSERT( started ); // after the lock is released, for programs that go on after an abort
 }
 
 const RT_MODULE_RECORD *rtModuleRecord( RT_OBJ module )

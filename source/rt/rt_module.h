@@ -1,4 +1,4 @@
-/* Modules: how the runtime starts and stops a library that stands on it. */
+/* Modules: how the runtime starts and stops a library that is built on it. */
 #ifndef RT_RT_MODULE_H
 #define RT_RT_MODULE_H
 
@@ -6,7 +6,7 @@
 
 RT_BEGIN
 
-/* What a module says of its build. */
+/* What a module says about its build. */
 typedef struct RT_MODULE_RECORD_
 {
     int64_t form;              /* 2 */
@@ -19,16 +19,16 @@ typedef struct RT_MODULE_RECORD_
     const char *name;          /* of the module */
     const char *description;   /* in a few words */
     const char *version;       /* as text */
-    const char *modulesNeeded; /* names with one blank between them */
+    const char *modulesNeeded; /* names, separated by one blank */
     const char *last;          /* "" */
 } RT_MODULE_RECORD;
 
 /* The module object. */
 typedef struct RT_MODULE_
 {
-    RT_OBJECT object;               /* its beginning, static: RT_STATIC_OBJECT( &rt___sort_RT_MODULE ) */
+    RT_OBJECT object;               /* its header, static: RT_STATIC_OBJECT( &rt___sort_RT_MODULE ) */
     const RT_MODULE_RECORD *record; /* static */
-    RT_BOOL ( *startup )( void );   /* at the first start; whether it came off */
+    RT_BOOL ( *startup )( void );   /* at the first start; whether it succeeded */
     void *reserved;                 /* null */
     void ( *shutdown )( void );     /* at the last stop */
     void *reservedToo[5];           /* null */
@@ -37,16 +37,16 @@ typedef struct RT_MODULE_
 /* The sort of modules. The text of a module is its name. */
 extern RT_API const struct RT_SORT_ rt___sort_RT_MODULE;
 
-/* Starts a module, which is what its ...Module() function returns: before anything else of it is called.
- * Returns the module's own answer, true for started. May be called again, from any thread: only the first
- * call starts the module, and as many stops are needed. Start and stop functions of modules do not start or
- * stop modules. Null aborts. */
+/* Starts a module, which is what its ...Module() function returns. No other function of the module may be called before
+ * that. Returns the module's own answer, true if it has started. May be called again, from any thread: only the first
+ * call starts the module, and each call needs its own stop. A module's startup and shutdown functions must not start or
+ * stop modules. Aborts for null. */
 RT_API RT_BOOL rtModuleStart( RT_OBJ module );
 
-/* The counterpart: the last one stops the module. A module that is not started aborts, and so does null. */
+/* The counterpart: the last call stops the module. Aborts unless the module is started, and for null. */
 RT_API void rtModuleStop( RT_OBJ module );
 
-/* The module's record, static. Null aborts. */
+/* The module's record, static. Aborts for null. */
 RT_API const RT_MODULE_RECORD *rtModuleRecord( RT_OBJ module );
 
 RT_END

@@ -1,4 +1,4 @@
-// Runs of characters of a set, as many at a time as the processor can.
+// Runs of characters in a set, as many at a time as the processor allows.
 #include "rt/rt_scan.hpp"
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 
 #define TARGET __attribute__( ( target( "ssse3" ) ) )
 
-// Code points as bytes; larger ones become NUL or a byte from 0x80 on, which are in no set.
+// Code points as bytes. Those above 0xFF become NUL or a byte from 0x80 on, none of which is in any set.
 TARGET static inline __m128i load4( const RT_CHAR *chs )
 {
     __m128i words = _mm_loadu_si128( reinterpret_cast<const __m128i *>( chs ) );
@@ -31,17 +31,17 @@ TARGET static inline __m128i load16( const RT_CHAR *chs )
                              _mm_packs_epi32( _mm_loadu_si128( four + 2 ), _mm_loadu_si128( four + 3 ) ) );
 }
 
-// A bit for each byte, the lowest for the first one: whether it is not in the set of these rows.
+// A bit for each byte, the lowest for the first byte, set if the byte is not in the set with these rows.
 TARGET static inline uint32_t othersOf( __m128i rows, __m128i bytes )
 {
-    // Nothing in the places of the upper half, which stand for bytes from 0x80 on.
+    // The upper half is for bytes from 0x80 on and therefore empty.
     const __m128i columns = _mm_setr_epi8( 1, 2, 4, 8, 16, 32, 64, -128, 0, 0, 0, 0, 0, 0, 0, 0 );
     __m128i high = _mm_and_si128( _mm_srli_epi16( bytes, 4 ), _mm_set1_epi8( 0x0F ) );
     __m128i found = _mm_and_si128( _mm_shuffle_epi8( rows, bytes ), _mm_shuffle_epi8( columns, high ) );
     return static_cast<uint32_t>( _mm_movemask_epi8( _mm_cmpeq_epi8( found, _mm_setzero_si128() ) ) );
 }
 
-// What is left behind whole blocks is looked at in a block that ends with the text, and has some characters again.
+// What is left after the whole blocks is checked in a block that ends with the text and overlaps the one before.
 TARGET static int64_t vectorRunOf( const rt::CharSet &set, const RT_CHAR *chs, int64_t length )
 {
     const __m128i rows = _mm_loadu_si128( reinterpret_cast<const __m128i *>( set.rows ) );

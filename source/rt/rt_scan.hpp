@@ -1,5 +1,5 @@
-// Looking at many characters at a time: sets of ASCII characters and runs of them, and bytes that wait for their
-// decoding. What looks at bytes may read up to scanSlack of them behind the end of its text, which must be there.
+// Scanning many characters at a time: sets of ASCII characters and runs of them, and bytes that are still to be
+// decoded. Functions that scan bytes may read up to scanSlack bytes past the end of the text; these must be readable.
 #pragma once
 
 #include <bit>
@@ -7,7 +7,7 @@
 
 #include "rt/rt_charset.h"
 
-// A test defines RT_SCAN_PLAIN, to see that it is the same without vectors.
+// A test defines RT_SCAN_PLAIN to check that the results are the same without vectors.
 #if defined( __SSE2__ ) && !defined( RT_SCAN_PLAIN )
 #define RT_SCAN_VECTORS
 #include <emmintrin.h>
@@ -16,7 +16,8 @@
 namespace rt
 {
 
-// A set of ASCII characters, NUL not among them: for each low half of a character a bit for each high half.
+// A set of ASCII characters without NUL. Each row is for one value of a character's low four bits and has a bit for
+// each value of its high four bits.
 struct CharSet
 {
     uint8_t rows[16] = {};
@@ -28,7 +29,7 @@ struct CharSet
     int64_t runOf( const RT_CHAR *chs, int64_t length ) const { return rt___RunOf( rows, chs, length ); }
 };
 
-// The same, one by one.
+// The same, one character at a time.
 inline int64_t plainRunOf( const CharSet &set, const RT_CHAR *chs, int64_t length )
 {
     int64_t at = 0;
@@ -53,15 +54,15 @@ struct ByteBlock
     friend ByteBlock operator|( ByteBlock a, ByteBlock b ) { return { _mm_or_si128( a.bytes, b.bytes ) }; }
     friend ByteBlock operator&( ByteBlock a, ByteBlock b ) { return { _mm_and_si128( a.bytes, b.bytes ) }; }
 
-    // All bits of a byte where both have the same, else none of it.
+    // All bits of a byte are set if it is the same in both, and none otherwise.
     friend ByteBlock same( ByteBlock a, ByteBlock b ) { return { _mm_cmpeq_epi8( a.bytes, b.bytes ) }; }
 
-    // The top bit of each byte, that of the first one the lowest.
+    // The top bits of the bytes; that of the first byte is the lowest bit.
     uint32_t mask() const { return static_cast<uint32_t>( _mm_movemask_epi8( bytes ) ); }
 
     void store( void *into ) const { _mm_storeu_si128( static_cast<__m128i *>( into ), bytes ); }
 
-    // As code points, to sixteen places.
+    // Writes sixteen code points.
     void widen( RT_CHAR *into ) const
     {
         __m128i zero = _mm_setzero_si128(), low = _mm_unpacklo_epi8( bytes, zero ),
@@ -116,7 +117,7 @@ struct ByteBlock
 #endif
 };
 
-// Four code points, to learn of many whether they are ASCII.
+// Four code points, to check whether many are ASCII.
 #ifdef RT_SCAN_VECTORS
 struct FourChars
 {
@@ -134,8 +135,8 @@ struct FourChars
     }
 };
 
-// Writes sixteen code points as bytes and returns what they have in common, which tells whether they are ASCII: only
-// then the bytes are right.
+// Writes sixteen code points as bytes and returns their union, which tells whether all are ASCII. Only then are the
+// bytes valid.
 inline FourChars narrow( const RT_CHAR *from, unsigned char *into )
 {
     auto at = [from]( int i ) { return FourChars::at( from + i ).chs; };
@@ -172,7 +173,7 @@ inline FourChars narrow( const RT_CHAR *from, unsigned char *into )
 }
 #endif
 
-// Where the byte stands first, or the end.
+// Where the byte first occurs, or the end.
 inline const char *findByte( const char *at, const char *end, char ch )
 {
     for ( ; at < end; at += 16 )
@@ -191,20 +192,20 @@ inline void copy( const void *from, int64_t length, void *into )
         ByteBlock::at( static_cast<const char *>( from ) + at ).store( static_cast<char *>( into ) + at );
 }
 
-// The code points of ASCII, to a place with slack of its own.
+// Writes ASCII as code points, to a place with slack of its own.
 inline void widen( const char *from, int64_t length, RT_CHAR *into )
 {
     for ( int64_t at = 0; at < length; at += 16 )
         ByteBlock::at( from + at ).widen( into + at );
 }
 
-// The same to a place without slack, and from one.
+// The same, from and to places without slack.
 inline void widenExactly( const char *from, int64_t length, RT_CHAR *into )
 {
     int64_t at = 0;
     for ( ; length - at >= 16; at += 16 )
         ByteBlock::at( from + at ).widen( into + at );
-    // What is left is done with some of what is done.
+    // The rest is converted in a block that overlaps the one before.
     if ( at && at < length )
         ByteBlock::at( from + length - 16 ).widen( into + length - 16 );
     else

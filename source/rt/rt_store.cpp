@@ -46,7 +46,7 @@ static void set( RT_STORE *store, const Ref<RT_STRING> &name, RT_OBJ value )
     RT_ASSERT( store );
     RT_ASSERT( *store );
     RT_ASSERT( value );
-    // Held, so that a store that is set into itself is another one by then.
+    // The value is held, so that setting a store into itself first makes a copy of the store.
     Ref<RT_OBJ> held = rt::share( value );
     rtDictSetStringKey( rt::own( store )->entries.address(), name.get(), value );
 }

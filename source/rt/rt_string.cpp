@@ -1,5 +1,4 @@
-// Strings. The text stands behind the string's structure, in the same block, or is a part of another
-// string's.
+// Strings. The text follows the string's structure in the same block, or is a part of another string's text.
 #include "rt/rt_string.h"
 
 #include <unicase.h>
@@ -42,7 +41,7 @@ constexpr RT_SORT_ rt___sort_RT_STRING = {
 };
 RT_DEFINE_OPERATIONS( rt, String, RT_STRING )
 
-// The length of a text argument, whose -1 means up to the zero.
+// The length of a text argument, where -1 means up to the zero.
 template <class CHAR>
 static int64_t lengthOf( const CHAR *chars, int64_t length )
 {
@@ -99,8 +98,7 @@ RT_STRING rtStringCreateFromCharsCopy( const RT_CHAR *chs, int64_t length )
     return string;
 }
 
-// A part shares the text unless it is so small that a copy is as cheap, or would keep alive more than it
-// needs.
+// A part shares the text unless it is so small that a copy is as cheap, or it would keep alive more than it needs.
 RT_STRING rtStringCreateFromInner( RT_STRING string, int64_t offset, int64_t length )
 {
     RT_ASSERT( string );
@@ -213,7 +211,7 @@ RT_CHAR *rt___StringExtend( RT_STRING *string, int64_t count )
     RT_ASSERT( *string );
     int64_t length = ( *string )->length;
     RT_CHECK( count <= rt::mostChars - length, "out of memory", "count" );
-    // A text that begins goes on, most times.
+    // A text that has been begun is usually continued.
     static constexpr int64_t usual = 48;
     RT_CHAR *chs = own( string, length == 0 && count < usual ? usual : length + count );
     ( *string )->length = length + count;
@@ -240,7 +238,7 @@ void rtStringAppendChars( RT_STRING *string, const RT_CHAR *chs, int64_t length 
     RT_ASSERT( string );
     RT_ASSERT( *string );
     length = lengthOf( chs, length );
-    // A part of the string itself must outlive the string's move.
+    // If the text is a part of the string itself, it must outlive the string's move.
     bool isOwnPart = chs >= ( *string )->chs && chs < ( *string )->chs + ( *string )->length;
     Ref<RT_STRING> source = isOwnPart ? rt::share( *string ) : Ref<RT_STRING>();
     rt::copyItems( rt___StringExtend( string, length ), chs, length );
@@ -283,7 +281,7 @@ static RT_CHAR upper( RT_CHAR ch )
     return RT_CHAR_OK( ch ) ? uc_toupper( ch ) : ch;
 }
 
-// Text that has the case already is left as it is, also where others hold it.
+// Text that already has the case is left alone, even if others hold it.
 static void mapCase( RT_STRING *handle, RT_CHAR ( *map )( RT_CHAR ) )
 {
     RT_ASSERT( handle );
@@ -344,7 +342,7 @@ RT_VECTOR rtStringSplitChars( RT_STRING string, const RT_CHAR *chs, int64_t leng
 namespace
 {
 
-// The argument list, which goes by reference from directive to directive.
+// The argument list, passed by reference from directive to directive.
 struct ArgList
 {
     va_list args;
@@ -399,7 +397,8 @@ static void appendInt( RT_STRING *string, int64_t value, int64_t width, int radi
     rtStringAppendCstr( string, digits, end - digits );
 }
 
-// The string may be among its own arguments, and its block gone by now; what it held is still its beginning.
+// The string may be one of its own arguments, and its old block may be gone by now. Its old text is still its
+// beginning.
 static void appendArgument( RT_STRING *string, RT_STRING before, int64_t lengthBefore, RT_STRING argument )
 {
     if ( argument == before )
@@ -408,7 +407,7 @@ static void appendArgument( RT_STRING *string, RT_STRING before, int64_t lengthB
         rtStringAppend( string, argument );
 }
 
-// What stands behind a percent sign.
+// What follows a percent sign.
 template <class CHAR>
 static void appendDirective( RT_STRING *string, RT_STRING before, int64_t lengthBefore, Format<CHAR> &format,
                              ArgList &list )

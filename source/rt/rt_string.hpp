@@ -1,4 +1,4 @@
-// The inside of a string, for units that make strings in place or need one at compile time.
+// The layout of a string, for units that make strings in place or need one at compile time.
 #pragma once
 
 #include "rt/rt_frame.hpp"
@@ -9,8 +9,8 @@ struct RT_STRING_
     RT_OBJECT object;
     const RT_CHAR *chs;
     int64_t length;
-    int64_t capacity; // of the text behind this structure; 0 if the text is elsewhere
-    RT_STRING parent; // what holds a text elsewhere alive; null for a literal
+    int64_t capacity; // of the text after this structure; 0 if the text is elsewhere
+    RT_STRING parent; // keeps a text elsewhere alive; null for a literal
 
     RT_CHAR *inner() { return reinterpret_cast<RT_CHAR *>( this + 1 ); }
 };
@@ -18,7 +18,7 @@ struct RT_STRING_
 namespace rt
 {
 
-// The length of the longest string: the size of its block, rounded up, is still a number.
+// The length of the longest string: the rounded size of its block must not overflow.
 inline constexpr int64_t mostChars = ( PTRDIFF_MAX - 128 ) / 4;
 
 // How many code points fit into the string's block.
@@ -28,7 +28,8 @@ inline int64_t innerCapacity( RT_STRING string )
            / static_cast<int64_t>( sizeof( RT_CHAR ) );
 }
 
-// A string of that length, a new reference in the second argument. The caller writes its code points at once.
+// A new string of that length; the reference goes to the second argument. The caller must write its code points at
+// once.
 inline RT_CHAR *newString( int64_t length, RT_STRING *string )
 {
     RT_CHECK( length >= 0 && length <= mostChars, "out of memory", "length" );
@@ -55,7 +56,7 @@ struct Ascii
     }
 };
 
-// A string that exists from load on and is never counted, copied or freed: rt::literal<"Via">().
+// A static string, which is never counted, copied or freed: rt::literal<"Via">().
 template <Ascii TEXT>
 inline constexpr RT_STRING_ literalObject = {
     { &rt___sort_RT_STRING, RT_COUNT_IMMORTAL, 0 }, TEXT.chs, std::size( TEXT.chs ) - 1, 0, nullptr

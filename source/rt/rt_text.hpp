@@ -1,4 +1,4 @@
-// Text to be read: how the libraries above measure and cut it.
+// Text to be read: how the libraries above measure and split it.
 #pragma once
 
 #include <string_view>
@@ -9,10 +9,10 @@
 namespace rt
 {
 
-// How many code points at the start of a text form an element, 0 for none.
+// How many code points at the start of a text form an element; 0 for none.
 using Skipper = int64_t ( * )( const RT_CHAR *chs, int64_t length );
 
-// A text, or the part of one that is still to be read. Points into a string that somebody else holds.
+// A text, or the part of it that is still to be read. Points into a string that somebody else holds.
 struct Text
 {
     const RT_CHAR *chs = nullptr;
@@ -30,7 +30,7 @@ struct Text
         return decode( chs, length );
     }
 
-    // Takes that many code points, or the element at the start, away and returns it; empty if there is none.
+    // Removes that many code points, or the element at the start, and returns them; empty if there is no element.
     Text take( int64_t count )
     {
         Text front = first( count );
@@ -43,7 +43,7 @@ struct Text
 inline Text textOf( RT_STRING string ) { return { rtStringBacking( string ), rtStringLength( string ) }; }
 inline Text textOf( const Ref<RT_STRING> &string ) { return textOf( string.get() ); }
 
-// Whether the element is the whole text, and the text isn't empty.
+// Whether the element is the whole text and the text isn't empty.
 inline bool covers( Skipper skip, Text text )
 {
     return text.length && skip( text.chs, text.length ) == text.length;

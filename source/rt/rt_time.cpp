@@ -1,4 +1,4 @@
-// Times: six numbers, which the calendar of the standard library judges.
+// Times: six numbers, checked by the calendar of the standard library.
 #include "rt/rt_time.h"
 
 #include <chrono>
@@ -73,8 +73,8 @@ RT_TIME rtTimeNow( void )
 
 static bool within( int64_t value, int64_t least, int64_t most ) { return value >= least && value <= most; }
 
-// The day in a year that the standard library can count in: the calendar, weekdays included, repeats after
-// 400 years.
+// The date, moved to a year that the standard library can handle: the calendar, weekdays included, repeats every 400
+// years.
 static std::chrono::year_month_day dateOf( RT_TIME time )
 {
     using namespace std::chrono;

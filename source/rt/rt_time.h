@@ -1,6 +1,5 @@
-/* Calendar times, proleptic Gregorian, UTC. The fields may hold any numbers; only Valid tells whether they
- * are a time. A time that others hold too is never changed; what changes one takes the address of the handle.
- */
+/* Calendar times, proleptic Gregorian, UTC. The fields may hold any numbers; only Valid tells whether they form a time.
+ * A time that others hold too is never changed: functions that change a time take the address of its handle. */
 #ifndef RT_RT_TIME_H
 #define RT_RT_TIME_H
 
@@ -29,8 +28,8 @@ RT_API void rtTimeSetHour( RT_TIME *time, int64_t hour );
 RT_API void rtTimeSetMinute( RT_TIME *time, int64_t minute );
 RT_API void rtTimeSetSecond( RT_TIME *time, int64_t second );
 
-/* Whether the fields are a time: a year from 0 to 9999, a day that the month has, 00:00:00 to 23:59:59, and
- * the leap second 23:59:60. */
+/* Whether the fields form a time: a year from 0 to 9999, a day that the month has, and 00:00:00 to 23:59:59 or the leap
+ * second 23:59:60. */
 RT_API RT_BOOL rtTimeValid( RT_TIME time );
 
 /* The day of the week, 0 for Monday to 6 for Sunday. Aborts unless the year is from -1000000 to 1000000, the

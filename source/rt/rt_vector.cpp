@@ -1,4 +1,4 @@
-// Vectors: one array with room at its end and, once something was taken or put there, at its front.
+// Vectors: one array with room at its end and, once elements have been removed or added there, at its front.
 #include "rt/rt_vector.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ using rt::Ref;
 struct RT_VECTOR_
 {
     RT_OBJECT object;
-    RT_OBJ *block;    // the array, or null; a small one stands behind this structure
+    RT_OBJ *block;    // the array, or null; a small one follows this structure
     int64_t capacity; // of the array
     int64_t first;    // where the elements begin in it
     int64_t length;
@@ -57,7 +57,7 @@ static RT_STRING toStringFunc( RT_OBJ obj )
 
 RT_DEFINE_STDFUNCS( rt, nullptr, Vector, RT_VECTOR, freeFunc, compareFunc, toStringFunc )
 
-// One empty vector serves all; the first change makes another.
+// One empty vector serves as all of them; the first change makes a copy.
 static constexpr RT_VECTOR_ emptyVector = {
     { &rt___sort_RT_VECTOR, RT_COUNT_IMMORTAL, 0 }, nullptr, 0, 0, 0
 };
@@ -79,7 +79,7 @@ RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity )
     return vector;
 }
 
-// The vector behind the handle, made private to it.
+// The vector of the handle, made private to it.
 static RT_VECTOR own( RT_VECTOR *handle, int64_t added = 0 )
 {
     RT_ASSERT( handle );
@@ -97,8 +97,8 @@ static RT_VECTOR own( RT_VECTOR *handle, int64_t added = 0 )
     return *handle;
 }
 
-// Opens a gap for one element, whose place it returns. An array that is full at the end where it grows is
-// replaced by a larger one, with room at both ends if it has ever grown or shrunk at its front.
+// Opens a gap for one element and returns its place. If the array is full at the end where it grows, a larger one
+// replaces it, with room at both ends if it has ever grown or shrunk at its front.
 static RT_OBJ *openGap( RT_VECTOR vector, int64_t index )
 {
     bool atFront = index == 0 && vector->length;
