@@ -36,7 +36,7 @@ static RT_STRING toStringFunc( RT_OBJ obj ) { return netAddressToStringShrink( n
 
 RT_DEFINE_STDFUNCS( net, nullptr, Address, NET_ADDRESS, nullptr, compareFunc, toStringFunc )
 
-// The address at the start of a text. The last two groups are those of an IPv4 address.
+// The address at the start of a text. An IPv4 address is in the last two groups.
 struct Found
 {
     int64_t length = 0; // 0 if there is none
@@ -89,8 +89,8 @@ static Found findIpV4( Text text )
     return found;
 }
 
-// IPv6address: eight groups of up to four hex digits, of which one "::" stands for one or more that are zero,
-// and the last two may be an IPv4 address.
+// IPv6address: eight groups of up to four hex digits. One "::" may stand for one or more groups of zero, and the last
+// two groups may be an IPv4 address.
 static Found findIpV6( Text text )
 {
     Found found;
@@ -169,7 +169,7 @@ static void appendIpV6( RT_STRING *text, NET_ADDRESS address )
     bool mapped = address->high == 0 && address->low >> 32 == 0xFFFF;
     std::size_t count = mapped ? 6 : 8;
 
-    // The first of the longest runs of two zeros or more (RFC 5952, 4.2).
+    // The first of the longest runs of two or more zeros (RFC 5952, 4.2).
     std::size_t gap = count, gapLength = 1;
     for ( std::size_t i = 0, run = 0; i < count; ++i )
     {

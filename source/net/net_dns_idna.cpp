@@ -1,4 +1,4 @@
-// Internationalised domain names, label by label: labels of the ASCII grammar stay as they are, and only the
+// Internationalised domain names, label by label: labels that match the ASCII grammar stay as they are; only the
 // others, and those that begin with "xn--", go through libidn2.
 //
 //     host     = hostname / "[" IPv6address "]"
@@ -21,8 +21,8 @@ using rt::share;
 using rt::Text;
 using rt::textOf;
 
-// The longest domain name, without the dot at the end (RFC 1035, 2.3.4). libidn2's work grows faster than its
-// text: it never sees more than this, and an "xn--" label only up to IDN2_LABEL_MAX_LENGTH.
+// The longest domain name, without the dot at the end (RFC 1035, 2.3.4). The work of libidn2 grows faster than its
+// text, so it never sees a longer text than this, nor an "xn--" label longer than IDN2_LABEL_MAX_LENGTH.
 constexpr int64_t DOMAIN_MAX_LENGTH = 253;
 
 static bool isDomainSized( Text name )
@@ -67,22 +67,22 @@ static bool isAsciiHost( Text host )
     return true;
 }
 
-// The text up to the next dot, which may be any of the four that UTS 46 takes as one.
+// The text up to the next dot, which may be any of the four characters that UTS 46 treats as dots.
 static Text takeLabel( Text *name )
 {
     auto isDot = []( RT_CHAR ch ) { return ch == '.' || ch == 0x3002 || ch == 0xFF0E || ch == 0xFF61; };
     return name->take( std::find_if( name->chs, name->chs + name->length, isDot ) - name->chs );
 }
 
-// Whether libidn2 could convert a text. Who runs out of memory can't go on.
+// Whether libidn2 could convert a text. Aborts if it ran out of memory.
 static bool hasConverted( int result )
 {
     RT_CHECK( result != IDN2_MALLOC, "out of memory", "result" );
     return result == IDN2_OK;
 }
 
-// The label as UTS 46 writes it in ASCII, or null where that is no label of letters, digits and hyphens.
-// Libidn2's flag for that rule won't do: it drops the other characters.
+// The ASCII form of the label by UTS 46, or null if that is not a label of letters, digits and hyphens. The flag of
+// libidn2 for that rule won't do: it drops the other characters.
 static Ref<RT_STRING> tryConvertToAscii( Text label )
 {
     std::array<uint32_t, DOMAIN_MAX_LENGTH + 2> input{};
@@ -100,7 +100,7 @@ static Ref<RT_STRING> tryConvertToAscii( Text label )
     return good ? ascii : Ref<RT_STRING>();
 }
 
-// The Unicode form of an "xn--" label, or null where that doesn't lead back to the label.
+// The Unicode form of an "xn--" label, or null if it doesn't convert back to the label.
 static Ref<RT_STRING> tryConvertToUnicode( Text label )
 {
     constexpr std::array<uint32_t, 4> prefix{ 'x', 'n', '-', '-' };
@@ -120,7 +120,7 @@ static Ref<RT_STRING> tryConvertToUnicode( Text label )
     return good ? unicode : Ref<RT_STRING>();
 }
 
-// Null for what is no host.
+// Null if the name is not a host.
 static Ref<RT_STRING> tryConvertHostToAscii( RT_STRING name )
 {
     Text rest = textOf( name );

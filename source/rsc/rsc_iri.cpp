@@ -1,6 +1,5 @@
-// IRIs and URIs (RFC 3987, 3.1 and 3.2). All that both conversions and the skipper go by, where the host is
-// and what may stand where, is ASCII that no conversion adds or takes away: so a text has the same parts
-// before and after.
+// IRIs and URIs (RFC 3987, 3.1 and 3.2). Where the host is, and what may stand where, depends only on ASCII characters
+// that no conversion adds or removes. So a text has the same parts before and after a conversion.
 #include "rsc/rsc_iri.h"
 
 #include <algorithm>
@@ -39,7 +38,7 @@ static constexpr auto uriChars = []
     return chars;
 }();
 
-// Those of them that a reader of an IRI needs not look at, where the IRI ends before one of them or none.
+// Those of them that need no closer look in an IRI, which ends before the given character.
 static constexpr rt::CharSet plainCharsUntil( RT_CHAR end )
 {
     rt::CharSet chars;
@@ -66,13 +65,13 @@ static bool isIprivate( RT_CHAR ch )
            || ( ch >= 0xF0000 && ch <= 0x10FFFD && ( ch & 0xFFFF ) <= 0xFFFD );
 }
 
-// RFC 3987, 4.1: these are never written out.
+// RFC 3987, 4.1: these are always escaped.
 static bool isBidiControl( RT_CHAR ch )
 {
     return ch == 0x200E || ch == 0x200F || ( ch >= 0x202A && ch <= 0x202E );
 }
 
-// The part of an IRI that a reader is in, as far as it decides what may stand there.
+// The current part of an IRI, as far as it decides which characters may stand there.
 struct Place
 {
     bool inQuery = false;
@@ -95,8 +94,8 @@ struct Place
 struct Found
 {
     int64_t length = 0;       // 0 if there is none
-    bool unicode = false;     // it holds characters outside ASCII,
-    bool convertible = false; // or escapes of such, or something like an "xn--" label
+    bool unicode = false;     // it holds characters outside ASCII
+    bool convertible = false; // it holds those, escapes of those, or something like an "xn--" label
 };
 
 static int64_t skipScheme( Text text )
@@ -110,7 +109,7 @@ static int64_t skipScheme( Text text )
     return length;
 }
 
-// Whether the text begins with a scheme that is usual in lists of addresses.
+// Whether the text begins with a scheme that is common in lists of addresses.
 static bool beginsAddress( Text text )
 {
     for ( std::string_view scheme : { "sip:", "sips:", "tel:" } )
@@ -122,7 +121,7 @@ static bool beginsAddress( Text text )
     return false;
 }
 
-// The IRI, of which the character is no part.
+// The IRI at the start of the text. It ends before the character, if that occurs.
 static Found find( Text text, RT_CHAR end = UINT32_MAX )
 {
     Found found;
@@ -162,7 +161,7 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
     return found;
 }
 
-// An IRI in three. The host is empty where the scheme has none.
+// An IRI in three parts. The host is empty if the scheme has none.
 struct Parts
 {
     Text front;
@@ -184,7 +183,7 @@ static Parts split( Text iri )
         return std::equal( scheme.chs, scheme.chs + scheme.length, name.begin(), name.end(),
                            []( RT_CHAR a, char b ) { return ( a | 0x20 ) == RT_CHAR( b ); } );
     };
-    // In a SIP URI an "@" stands nowhere but behind the user, who may hold "/" and "?" (RFC 3261, 25.1).
+    // In a SIP URI "@" occurs only after the user, which may hold "/" and "?" (RFC 3261, 25.1).
     if ( !isScheme( "sip" ) && !isScheme( "sips" ) )
     {
         if ( authority.length < 2 || authority.chs[0] != '/' || authority.chs[1] != '/' )
@@ -192,13 +191,13 @@ static Parts split( Text iri )
         authority = until( authority.behind( 2 ), "/?#" );
     }
     Text user = until( authority, "@" );
-    // An address in brackets is cut to pieces here, and changes as little as it would whole.
+    // This cuts an address in brackets into pieces. Like the whole address, they do not change.
     Text host =
         until( user.length < authority.length ? authority.behind( user.length + 1 ) : authority, ":;/?#" );
     return { iri.first( host.chs - iri.chs ), host, iri.behind( host.chs + host.length - iri.chs ) };
 }
 
-// Other characters than ASCII become escapes of their UTF-8.
+// Characters outside ASCII become escapes of their UTF-8.
 static void appendEncoded( Ref<RT_STRING> *uri, Text text )
 {
     Ref<RT_STRING> string = text.copy();
@@ -215,7 +214,7 @@ static void appendEncoded( Ref<RT_STRING> *uri, Text text )
         }
 }
 
-// Takes one character, and with it the escapes that it is written in, if an IRI takes it there.
+// Takes one character. Escapes are taken together as the character that they stand for, if an IRI may hold it there.
 static RT_CHAR takeDecoded( Text *text, const Place &place )
 {
     std::array<char, 4> bytes;
@@ -251,7 +250,7 @@ static void appendDecoded( Ref<RT_STRING> *iri, Text text, Place *place )
     }
 }
 
-// What is no domain name, neither in ASCII nor in Unicode, is escaped like any other text.
+// A host that is not a domain name, neither in ASCII nor in Unicode, is escaped like any other text.
 static Ref<RT_STRING> hostToAscii( Text host )
 {
     Ref<RT_STRING> name = host.copy(), ascii = adopt( rtStringCreate() );
@@ -285,7 +284,7 @@ RT_STRING rscTryConvertToUri( RT_STRING iri )
     return uri.take();
 }
 
-// The host goes through ASCII, so that one host has one form, however it is written.
+// The host is converted to ASCII first, so that it has one form however it is written.
 static Ref<RT_STRING> convertFromUri( Text uri )
 {
     Parts parts = split( uri );
