@@ -1,4 +1,4 @@
-/* Call id: the name of a call. Its case counts.
+/* Call id: the name of a call. Case-sensitive.
  *
  *     callid = word [ "@" word ]
  *
@@ -10,11 +10,11 @@
 
 RT_BEGIN
 
-/* Whether the text is a call id; the empty text is none. Null aborts. */
+/* Whether the text is a call id; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxCallIdOk( RT_STRING callId );
 
-/* How many code points at the start of the text are a call id (see telsx_skip.h); 0 for a word and an at sign
- * that no second word follows. */
+/* How many code points at the start of the text form a call id (see telsx_skip.h); 0 if an at sign after the first word
+ * is not followed by a second word. */
 RT_API int64_t telsx___SkipCallId( const RT_CHAR *chs, int64_t length );
 
 RT_END

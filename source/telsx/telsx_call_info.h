@@ -1,4 +1,4 @@
-/* Call-Info value: something about a party, and what it is for.
+/* Call-Info value: information about a party, and its purpose.
  *
  *     info = LAQUOT absoluteURI RAQUOT *( SEMI info-param )
  *     info-param = ( "purpose" EQUAL ( "icon" / "info" / "card" / token ) ) / generic-param
@@ -22,13 +22,13 @@ RT_API TELSX_CALL_INFO telsxCallInfoCreate( RT_STRING iri );
 RT_API RT_STRING telsxCallInfoIri( TELSX_CALL_INFO callInfo );
 RT_API void telsxCallInfoSetIri( TELSX_CALL_INFO *callInfo, RT_STRING iri );
 
-/* What it is for, in lower case, or null. Set aborts unless telsxPurposeOk. */
+/* Its purpose, in lower case, or null. Set aborts unless telsxPurposeOk. */
 RT_API RT_STRING telsxCallInfoPurpose( TELSX_CALL_INFO callInfo );
 RT_API RT_BOOL telsxCallInfoHasPurpose( TELSX_CALL_INFO callInfo );
 RT_API void telsxCallInfoSetPurpose( TELSX_CALL_INFO *callInfo, RT_STRING purpose );
 RT_API void telsxCallInfoDelPurpose( TELSX_CALL_INFO *callInfo );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxCallInfoGenericParams( TELSX_CALL_INFO callInfo );
 RT_API void telsxCallInfoSetGenericParams( TELSX_CALL_INFO *callInfo, TELSX_GENERIC_PARAMS genericParams );

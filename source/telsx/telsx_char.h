@@ -7,8 +7,8 @@
 
 RT_BEGIN
 
-/* Whether the code point is a member. Lws is space and tab; ParamChar has the percent sign as a plain member.
- */
+/* Whether the code point is a member. Lws is space and tab; ParamChar includes the percent sign as a plain
+ * character. */
 RT_API RT_BOOL telsx___CharIsAlpha( RT_CHAR ch );
 RT_API RT_BOOL telsx___CharIsDigit( RT_CHAR ch );
 RT_API RT_BOOL telsx___CharIsAlphanum( RT_CHAR ch );
@@ -24,8 +24,8 @@ RT_API RT_BOOL telsx___CharIsTokenNodot( RT_CHAR ch );
 RT_API RT_BOOL telsx___CharIsAtom( RT_CHAR ch );
 RT_API RT_BOOL telsx___CharIsWord( RT_CHAR ch );
 
-/* Whether the code point is a hex digit. The value, which may be null, becomes 0 to 15, or -1 for any other.
- */
+/* Whether the code point is a hex digit. The value becomes 0 to 15, or -1 for any other character; its address may be
+ * null. */
 RT_API RT_BOOL telsx___CharIsHexdig( RT_CHAR ch, int64_t *value );
 
 RT_END

@@ -7,8 +7,8 @@
  *     hi-param = ( "rc" / "mp" / "np" ) EQUAL index-val
  *     c-p-instance = "+sip.instance" EQUAL DQUOTE "<" instance-val ">" DQUOTE
  *
- * (RFC 3261, 25.1; RFC 7044, 10.3; RFC 5626, 10) The address is always written in angle brackets. Values sort by the fields in the order
- * below. */
+ * (RFC 3261, 25.1; RFC 7044, 10.3; RFC 5626, 10) The address is always written in angle brackets. Values sort by the
+ * fields in the order below. */
 #ifndef TELSX_TELSX_CONTACT_H
 #define TELSX_TELSX_CONTACT_H
 
@@ -33,20 +33,19 @@ RT_API RT_BOOL telsxContactHasDisplayName( TELSX_CONTACT contact );
 RT_API void telsxContactSetDisplayName( TELSX_CONTACT *contact, RT_STRING displayName );
 RT_API void telsxContactDelDisplayName( TELSX_CONTACT *contact );
 
-/* The weight in thousandths, 0 to 1000, -1 if there is none. Set aborts unless telsxQvalueOk. */
+/* The weight in thousandths, 0 to 1000, or -1 if there is none. Set aborts unless telsxQvalueOk. */
 RT_API int64_t telsxContactQvalue( TELSX_CONTACT contact );
 RT_API RT_BOOL telsxContactHasQvalue( TELSX_CONTACT contact );
 RT_API void telsxContactSetQvalue( TELSX_CONTACT *contact, int64_t qvalue );
 RT_API void telsxContactDelQvalue( TELSX_CONTACT *contact );
 
-/* How long the address holds, in seconds, -1 if that is not told. Set aborts unless telsxDeltaSecondsOk. */
+/* How long the address is valid, in seconds, or -1 if absent. Set aborts unless telsxDeltaSecondsOk. */
 RT_API int64_t telsxContactExpires( TELSX_CONTACT contact );
 RT_API RT_BOOL telsxContactHasExpires( TELSX_CONTACT contact );
 RT_API void telsxContactSetExpires( TELSX_CONTACT *contact, int64_t expires );
 RT_API void telsxContactDelExpires( TELSX_CONTACT *contact );
 
-/* The indices of History-Info values that rc, mp and np name (RFC 7044), or null. Set aborts unless
- * telsxHistoryInfoIndexOk. */
+/* The History-Info indices that rc, mp and np name (RFC 7044), or null. Set aborts unless telsxHistoryInfoIndexOk. */
 RT_API RT_STRING telsxContactRc( TELSX_CONTACT contact );
 RT_API RT_BOOL telsxContactHasRc( TELSX_CONTACT contact );
 RT_API void telsxContactSetRc( TELSX_CONTACT *contact, RT_STRING rc );
@@ -67,8 +66,8 @@ RT_API RT_BOOL telsxContactHasSipInstance( TELSX_CONTACT contact );
 RT_API void telsxContactSetSipInstance( TELSX_CONTACT *contact, RT_STRING sipInstance );
 RT_API void telsxContactDelSipInstance( TELSX_CONTACT *contact );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the value is written. Set
- * aborts for null. */
+/* All other parameters, never null. When the value is written, a field takes precedence over a parameter of its name.
+ * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxContactGenericParams( TELSX_CONTACT contact );
 RT_API void telsxContactSetGenericParams( TELSX_CONTACT *contact, TELSX_GENERIC_PARAMS genericParams );
 

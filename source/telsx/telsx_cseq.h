@@ -13,7 +13,7 @@ RT_BEGIN
 /* Whether the number is from 0 to 2147483647. */
 RT_API RT_BOOL telsxCseqOk( int64_t cseq );
 
-/* Whether the next number is one too; whether fewer than 100 are left. They abort unless telsxCseqOk. */
+/* Whether the next number is valid too; whether fewer than 100 numbers are left. Both abort unless telsxCseqOk. */
 RT_API RT_BOOL telsxCseqIncrementOk( int64_t cseq );
 RT_API RT_BOOL telsxCseqScarce( int64_t cseq );
 

@@ -13,9 +13,9 @@ RT_BEGIN
 /* Whether the number is 0 or more. */
 RT_API RT_BOOL telsxDeltaSecondsOk( int64_t deltaSeconds );
 
-/* For the library's own units. Encode gives the decimal digits, a new reference, and aborts unless
- * telsxDeltaSecondsOk. TryDecode takes digits and nothing else and gives their value, -1 for bad text and for
- * a number that is not Ok. */
+/* For the library's own units. Encode returns the decimal digits, a new reference, and aborts unless
+ * telsxDeltaSecondsOk. TryDecode accepts only digits and returns their value, or -1 for bad text and for a number that
+ * is not Ok. */
 RT_API RT_STRING telsx___DeltaSecondsEncode( int64_t deltaSeconds );
 RT_API int64_t telsx___DeltaSecondsTryDecode( const RT_CHAR *chs, int64_t length );
 

@@ -10,13 +10,13 @@
 
 RT_BEGIN
 
-/* Whether the text holds neither CR nor LF; the empty text is one. Null aborts. */
+/* Whether the text holds neither CR nor LF; the empty text is a display name. Aborts for null. */
 RT_API RT_BOOL telsxDisplayNameOk( RT_STRING displayName );
 
-/* For the library's own units. Encode puts the name in quotes always, a new reference, and aborts unless
- * telsxDisplayNameOk. TryDecode takes one whole quoted string, or tokens, whose white space becomes single
- * blanks; it gives the plain name, a new reference, or null for bad text. The skipper,
- * telsx___SkipDisplayName, is in telsx_skip.h. */
+/* For the library's own units. Encode always puts the name in quotes, returns a new reference, and aborts unless
+ * telsxDisplayNameOk. TryDecode takes one whole quoted string, or tokens; white space between tokens becomes single
+ * blanks. It returns the plain name, a new reference, or null for bad text. The skipper, telsx___SkipDisplayName, is in
+ * telsx_skip.h. */
 RT_API RT_STRING telsx___DisplayNameEncode( RT_STRING displayName );
 RT_API RT_STRING telsx___DisplayNameTryDecode( const RT_CHAR *chs, int64_t length );
 

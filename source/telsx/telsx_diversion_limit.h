@@ -1,4 +1,4 @@
-/* Diversion limit: how often it may be.
+/* Diversion limit: how often a call may be diverted.
  *
  *     diversion-limit = "limit" "=" 1*2DIGIT
  *
@@ -13,13 +13,13 @@ RT_BEGIN
 /* Whether the number is from 0 to 99. */
 RT_API RT_BOOL telsxDiversionLimitOk( int64_t diversionLimit );
 
-/* For the library's own units. Encode gives the decimal digits, a new reference, and aborts unless
- * telsxDiversionLimitOk. TryDecode takes digits and nothing else and gives their value, -1 for bad text and
- * for a number that is not Ok. */
+/* For the library's own units. Encode returns the decimal digits, a new reference, and aborts unless
+ * telsxDiversionLimitOk. TryDecode accepts only digits and returns their value, or -1 for bad text and for a number
+ * that is not Ok. */
 RT_API RT_STRING telsx___DiversionLimitEncode( int64_t diversionLimit );
 RT_API int64_t telsx___DiversionLimitTryDecode( const RT_CHAR *chs, int64_t length );
 
-/* 1 or 2 if the text begins with so many digits and no more, else 0 (see telsx_skip.h). */
+/* 1 or 2 if the text begins with exactly that many digits, otherwise 0 (see telsx_skip.h). */
 RT_API int64_t telsx___SkipDiversionLimit( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -11,19 +11,18 @@
 
 RT_BEGIN
 
-/* Whether the text, as it stands on the wire, is one token or one quoted string. Null aborts. */
+/* Whether the text, as it stands on the wire, is one token or one quoted string. Aborts for null. */
 RT_API RT_BOOL telsxDiversionScreenOk( RT_STRING diversionScreen );
 
 /* The text in lower case, a new reference. Any text has such a form; null aborts. */
 RT_API RT_STRING telsxDiversionScreenNormalize( RT_STRING diversionScreen );
 
-/* For the library's own units; new references. Encode takes a plain text, which goes out in quotes unless it
- * is a token, and aborts for null. TryDecode takes one whole element and gives its plain text, or null for
- * bad text. */
+/* For the library's own units; new references. Encode takes plain text, writes it in quotes unless it is a token, and
+ * aborts for null. TryDecode takes one whole element and returns its plain text, or null for bad text. */
 RT_API RT_STRING telsx___DiversionScreenEncode( RT_STRING diversionScreen );
 RT_API RT_STRING telsx___DiversionScreenTryDecode( const RT_CHAR *chs, int64_t length );
 
-/* How many code points at the start of the text are the element (see telsx_skip.h). */
+/* How many code points at the start of the text form the element (see telsx_skip.h). */
 RT_API int64_t telsx___SkipDiversionScreen( const RT_CHAR *chs, int64_t length );
 
 RT_END

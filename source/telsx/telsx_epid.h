@@ -10,10 +10,10 @@
 
 RT_BEGIN
 
-/* Whether the text is 1 to 16 token characters. Null aborts. */
+/* Whether the text is 1 to 16 token characters. Aborts for null. */
 RT_API RT_BOOL telsxEpidOk( RT_STRING epid );
 
-/* The count of token characters at the start of the text, at most 16 (see telsx_skip.h). */
+/* How many token characters the text begins with, at most 16 (see telsx_skip.h). */
 RT_API int64_t telsx___SkipEpid( const RT_CHAR *chs, int64_t length );
 
 RT_END

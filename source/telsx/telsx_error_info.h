@@ -1,4 +1,4 @@
-/* Error-Info value: where more is said about an error.
+/* Error-Info value: where to find more about an error.
  *
  *     error-param = LAQUOT absoluteURI RAQUOT *( SEMI generic-param )
  *

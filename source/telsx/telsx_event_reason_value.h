@@ -12,13 +12,13 @@
 
 RT_BEGIN
 
-/* Whether the text is an event reason value; the empty text is none. Null aborts. */
+/* Whether the text is an event reason value; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxEventReasonValueOk( RT_STRING eventReasonValue );
 
 /* The event reason value in lower case, a new reference. Aborts unless telsxEventReasonValueOk. */
 RT_API RT_STRING telsxEventReasonValueNormalize( RT_STRING eventReasonValue );
 
-/* How many code points at the start of the text are an event reason value (see telsx_skip.h). */
+/* How many code points at the start of the text form an event reason value (see telsx_skip.h). */
 RT_API int64_t telsx___SkipEventReasonValue( const RT_CHAR *chs, int64_t length );
 
 RT_END

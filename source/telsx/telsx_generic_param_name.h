@@ -10,7 +10,7 @@
 
 RT_BEGIN
 
-/* Whether the text is a token; the empty text is none. Null aborts. */
+/* Whether the text is a token; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxGenericParamNameOk( RT_STRING name );
 
 /* The name in lower case, a new reference. Aborts unless telsxTokenOk. */

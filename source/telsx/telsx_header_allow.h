@@ -2,7 +2,7 @@
  *
  *     Allow = "Allow" HCOLON [ Method *( COMMA Method ) ]
  *
- * A set of methods; their case counts. */
+ * A set of methods, which are case-sensitive. */
 #ifndef TELSX_TELSX_HEADER_ALLOW_H
 #define TELSX_TELSX_HEADER_ALLOW_H
 

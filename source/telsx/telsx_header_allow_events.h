@@ -2,7 +2,7 @@
  *
  *     Allow-Events = ( "Allow-Events" / "u" ) HCOLON event-type *( COMMA event-type )
  *
- * A set of event types; their case counts. */
+ * A set of event types, which are case-sensitive. */
 #ifndef TELSX_TELSX_HEADER_ALLOW_EVENTS_H
 #define TELSX_TELSX_HEADER_ALLOW_EVENTS_H
 

@@ -14,7 +14,7 @@ TELSX_FREE_FUNC( HeaderCallId )
 /* A header with this call id. Aborts unless telsxCallIdOk. */
 RT_API TELSX_HEADER_CALL_ID telsxHeaderCallIdCreate( RT_STRING callId );
 
-/* The call id, with its case, never null. Set aborts unless telsxCallIdOk. */
+/* The call id, in its original case, never null. Set aborts unless telsxCallIdOk. */
 RT_API RT_STRING telsxHeaderCallIdCallId( TELSX_HEADER_CALL_ID hdr );
 RT_API void telsxHeaderCallIdSetCallId( TELSX_HEADER_CALL_ID *hdr, RT_STRING callId );
 

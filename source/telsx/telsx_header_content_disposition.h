@@ -1,4 +1,4 @@
-/* Content-Disposition header: how a body is to be taken (RFC 3261, 20.11).
+/* Content-Disposition header: how a body is to be handled (RFC 3261, 20.11).
  *
  *     Content-Disposition = "Content-Disposition" HCOLON disp-type *( SEMI disp-param )
  *     disp-param = handling-param / generic-param
@@ -32,7 +32,7 @@ RT_API void telsxHeaderContentDispositionSetHandling( TELSX_HEADER_CONTENT_DISPO
                                                       RT_STRING handling );
 RT_API void telsxHeaderContentDispositionDelHandling( TELSX_HEADER_CONTENT_DISPOSITION *hdr );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS
 telsxHeaderContentDispositionGenericParams( TELSX_HEADER_CONTENT_DISPOSITION hdr );

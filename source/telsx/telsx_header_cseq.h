@@ -18,7 +18,7 @@ RT_API TELSX_HEADER_CSEQ telsxHeaderCseqCreate( int64_t cseq, RT_STRING method )
 RT_API int64_t telsxHeaderCseqCseq( TELSX_HEADER_CSEQ hdr );
 RT_API void telsxHeaderCseqSetCseq( TELSX_HEADER_CSEQ *hdr, int64_t cseq );
 
-/* The method, with its case, never null. Set aborts unless telsxMethodOk. */
+/* The method, in its original case, never null. Set aborts unless telsxMethodOk. */
 RT_API RT_STRING telsxHeaderCseqMethod( TELSX_HEADER_CSEQ hdr );
 RT_API void telsxHeaderCseqSetMethod( TELSX_HEADER_CSEQ *hdr, RT_STRING method );
 RT_API void telsxHeaderCseqSetMethodCstr( TELSX_HEADER_CSEQ *hdr, const char *chars, int64_t length );

@@ -2,8 +2,8 @@
  *
  *     Diversion = "Diversion" HCOLON diversion-params *( COMMA diversion-params )
  *
- * A list of values of telsx_diversion.h. Set, Prepend, Append and Insert abort for a value that cannot be encoded because
- * its reason, privacy or screen holds CR or LF. */
+ * A list of values of telsx_diversion.h. Set, Prepend, Append and Insert abort for a value that can't be encoded
+ * because its reason, privacy or screen holds CR or LF. */
 #ifndef TELSX_TELSX_HEADER_DIVERSION_H
 #define TELSX_TELSX_HEADER_DIVERSION_H
 

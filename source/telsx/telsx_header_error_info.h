@@ -1,4 +1,4 @@
-/* Error-Info header: where more is said about an error (RFC 3261, 20.18).
+/* Error-Info header: where to find more about an error (RFC 3261, 20.18).
  *
  *     Error-Info = "Error-Info" HCOLON error-uri *( COMMA error-uri )
  *

@@ -20,21 +20,21 @@ RT_API TELSX_HEADER_EVENT telsxHeaderEventCreate( RT_STRING eventType );
 RT_API TELSX_HEADER_EVENT telsxHeaderEventCreateCstr( const char *chars, int64_t length );
 RT_API TELSX_HEADER_EVENT telsxHeaderEventCreateWcstr( const wchar_t *chars, int64_t length );
 
-/* The event type, with its case, never null. Set aborts unless telsxEventTypeOk. */
+/* The event type, in its original case, never null. Set aborts unless telsxEventTypeOk. */
 RT_API RT_STRING telsxHeaderEventEventType( TELSX_HEADER_EVENT hdr );
 RT_API void telsxHeaderEventSetEventType( TELSX_HEADER_EVENT *hdr, RT_STRING eventType );
 RT_API void telsxHeaderEventSetEventTypeCstr( TELSX_HEADER_EVENT *hdr, const char *chars, int64_t length );
 RT_API void telsxHeaderEventSetEventTypeWcstr( TELSX_HEADER_EVENT *hdr, const wchar_t *chars,
                                                int64_t length );
 
-/* Which of several subscriptions of a dialog it is, with its case, or null. Set aborts unless
+/* The id that tells several subscriptions of a dialog apart, in its original case, or null. Set aborts unless
  * telsxTokenOk. */
 RT_API RT_STRING telsxHeaderEventId( TELSX_HEADER_EVENT hdr );
 RT_API RT_BOOL telsxHeaderEventHasId( TELSX_HEADER_EVENT hdr );
 RT_API void telsxHeaderEventSetId( TELSX_HEADER_EVENT *hdr, RT_STRING token );
 RT_API void telsxHeaderEventDelId( TELSX_HEADER_EVENT *hdr );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHeaderEventGenericParams( TELSX_HEADER_EVENT hdr );
 RT_API void telsxHeaderEventSetGenericParams( TELSX_HEADER_EVENT *hdr, TELSX_GENERIC_PARAMS genericParams );

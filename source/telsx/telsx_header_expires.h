@@ -1,4 +1,4 @@
-/* Expires header: how long something holds (RFC 3261, 20.19).
+/* Expires header: how long something is valid (RFC 3261, 20.19).
  *
  *     Expires = "Expires" HCOLON delta-seconds */
 #ifndef TELSX_TELSX_HEADER_EXPIRES_H

@@ -20,7 +20,7 @@ TELSX_FREE_FUNC( HeaderFrom )
 /* A header with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_HEADER_FROM telsxHeaderFromCreate( RT_STRING iri );
 
-/* A header with all that the given To header holds, its tag included. Null aborts. */
+/* A header with everything in the given To header, its tag included. Aborts for null. */
 typedef struct TELSX_HEADER_TO_ *TELSX_HEADER_TO;
 RT_API TELSX_HEADER_FROM telsxHeaderFromCreateFromHeaderTo( TELSX_HEADER_TO hdrTo );
 
@@ -34,20 +34,20 @@ RT_API RT_BOOL telsxHeaderFromHasDisplayName( TELSX_HEADER_FROM hdr );
 RT_API void telsxHeaderFromSetDisplayName( TELSX_HEADER_FROM *hdr, RT_STRING displayName );
 RT_API void telsxHeaderFromDelDisplayName( TELSX_HEADER_FROM *hdr );
 
-/* The tag, with its case, or null. Set aborts unless telsxTagOk. */
+/* The tag, in its original case, or null. Set aborts unless telsxTagOk. */
 RT_API RT_STRING telsxHeaderFromTag( TELSX_HEADER_FROM hdr );
 RT_API RT_BOOL telsxHeaderFromHasTag( TELSX_HEADER_FROM hdr );
 RT_API void telsxHeaderFromSetTag( TELSX_HEADER_FROM *hdr, RT_STRING tag );
 RT_API void telsxHeaderFromDelTag( TELSX_HEADER_FROM *hdr );
 
-/* The endpoint identifier, with its case, or null. Set aborts unless telsxEpidOk. */
+/* The endpoint identifier, in its original case, or null. Set aborts unless telsxEpidOk. */
 RT_API RT_STRING telsxHeaderFromEpid( TELSX_HEADER_FROM hdr );
 RT_API RT_BOOL telsxHeaderFromHasEpid( TELSX_HEADER_FROM hdr );
 RT_API void telsxHeaderFromSetEpid( TELSX_HEADER_FROM *hdr, RT_STRING epid );
 RT_API void telsxHeaderFromDelEpid( TELSX_HEADER_FROM *hdr );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the header is written. Set
- * aborts for null. */
+/* All other parameters, never null. When the header is written, a field takes precedence over a parameter of its name.
+ * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHeaderFromGenericParams( TELSX_HEADER_FROM hdr );
 RT_API void telsxHeaderFromSetGenericParams( TELSX_HEADER_FROM *hdr, TELSX_GENERIC_PARAMS genericParams );
 

@@ -2,7 +2,7 @@
  *
  *     In-Reply-To = "In-Reply-To" HCOLON callid *( COMMA callid )
  *
- * A set of call ids; their case counts. */
+ * A set of call ids, which are case-sensitive. */
 #ifndef TELSX_TELSX_HEADER_IN_REPLY_TO_H
 #define TELSX_TELSX_HEADER_IN_REPLY_TO_H
 

@@ -1,4 +1,4 @@
-/* Min-Expires header: the shortest registration that a registrar takes (RFC 3261, 20.23).
+/* Min-Expires header: the shortest registration that a registrar accepts (RFC 3261, 20.23).
  *
  *     Min-Expires = "Min-Expires" HCOLON delta-seconds */
 #ifndef TELSX_TELSX_HEADER_MIN_EXPIRES_H

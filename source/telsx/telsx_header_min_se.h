@@ -2,8 +2,8 @@
  *
  *     Min-SE = "Min-SE" HCOLON delta-seconds *( SEMI generic-param )
  *
- * Text behind the value and its parameters that does not begin with a semicolon is not looked at. Headers
- * sort by the fields in the order below. */
+ * Text after the value and its parameters is ignored unless it begins with a semicolon. Headers sort by the fields in
+ * the order below. */
 #ifndef TELSX_TELSX_HEADER_MIN_SE_H
 #define TELSX_TELSX_HEADER_MIN_SE_H
 

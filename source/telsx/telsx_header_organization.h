@@ -11,11 +11,11 @@ RT_BEGIN
 TELSX_HEADER( HeaderOrganization, HEADER_ORGANIZATION )
 TELSX_FREE_FUNC( HeaderOrganization )
 
-/* A header with this text. Null aborts, and so does a text that is not telsxOrganizationOk. */
+/* A header with this text. Aborts for null, and unless telsxOrganizationOk. */
 RT_API TELSX_HEADER_ORGANIZATION telsxHeaderOrganizationCreate( RT_STRING organization );
 
-/* The text, without white space around it and with one blank between its words, possibly empty, never
- * null. Set aborts unless telsxOrganizationOk. */
+/* The text, with one blank between its words and no white space around it, possibly empty, never null. Set aborts
+ * unless telsxOrganizationOk. */
 RT_API RT_STRING telsxHeaderOrganizationOrganization( TELSX_HEADER_ORGANIZATION hdr );
 RT_API void telsxHeaderOrganizationSetOrganization( TELSX_HEADER_ORGANIZATION *hdr, RT_STRING organization );
 

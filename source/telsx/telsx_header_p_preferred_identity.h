@@ -1,4 +1,4 @@
-/* P-Preferred-Identity header: who a party wants to be (RFC 3325, 9.2).
+/* P-Preferred-Identity header: which identity a party wants to be asserted (RFC 3325, 9.2).
  *
  *     PPreferredID = "P-Preferred-Identity" HCOLON PPreferredID-value *( COMMA PPreferredID-value )
  *

@@ -14,7 +14,8 @@ RT_BEGIN
 TELSX_HEADER( HeaderPriority, HEADER_PRIORITY )
 TELSX_FREE_FUNC( HeaderPriority )
 
-/* A header with this value, or with one of the four that have a name. Aborts unless telsxPriorityValueOk. */
+/* A header with this value, or with one of the four values of the grammar. Create aborts unless
+ * telsxPriorityValueOk. */
 RT_API TELSX_HEADER_PRIORITY telsxHeaderPriorityCreate( RT_STRING priorityValue );
 RT_API TELSX_HEADER_PRIORITY telsxHeaderPriorityCreateEmergency( void );
 RT_API TELSX_HEADER_PRIORITY telsxHeaderPriorityCreateUrgent( void );

@@ -19,8 +19,8 @@ RT_API TELSX_HEADER_RACK telsxHeaderRackCreate( int64_t responseNum, int64_t cse
 RT_API int64_t telsxHeaderRackResponseNum( TELSX_HEADER_RACK hdr );
 RT_API void telsxHeaderRackSetResponseNum( TELSX_HEADER_RACK *hdr, int64_t responseNum );
 
-/* The sequence number of the request, and its method, with its case, never null. Set aborts unless
- * telsxCseqOk, telsxMethodOk. */
+/* The sequence number of the request, and its method in its original case, never null. SetCseq aborts unless
+ * telsxCseqOk, and SetMethod unless telsxMethodOk. */
 RT_API int64_t telsxHeaderRackCseq( TELSX_HEADER_RACK hdr );
 RT_API void telsxHeaderRackSetCseq( TELSX_HEADER_RACK *hdr, int64_t cseq );
 RT_API RT_STRING telsxHeaderRackMethod( TELSX_HEADER_RACK hdr );

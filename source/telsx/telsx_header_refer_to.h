@@ -1,9 +1,9 @@
-/* Refer-To header: where a party is to turn (RFC 3515, 2.1).
+/* Refer-To header: whom a party is asked to contact (RFC 3515, 2.1).
  *
  *     Refer-To = ( "Refer-To" / "r" ) HCOLON ( name-addr / addr-spec ) *( SEMI generic-param )  ; RFC 3515
  *
- * A bare address with text behind it that is no list of parameters is read once more with all its
- * semicolons as one address. Headers sort by the fields in the order below. */
+ * If a bare address is followed by text that is not a list of parameters, the whole is read again as one address,
+ * semicolons included. Headers sort by the fields in the order below. */
 #ifndef TELSX_TELSX_HEADER_REFER_TO_H
 #define TELSX_TELSX_HEADER_REFER_TO_H
 

@@ -1,4 +1,4 @@
-/* Referred-By header: who refers a party elsewhere (RFC 3892, 3).
+/* Referred-By header: who referred a party elsewhere (RFC 3892, 3).
  *
  *     Referred-By = ( "Referred-By" / "b" ) HCOLON referrer-uri
  *                   *( SEMI ( referredby-id-param / generic-param ) )
@@ -37,7 +37,7 @@ RT_API RT_BOOL telsxHeaderReferredByHasCid( TELSX_HEADER_REFERRED_BY hdr );
 RT_API void telsxHeaderReferredBySetCid( TELSX_HEADER_REFERRED_BY *hdr, RT_STRING cid );
 RT_API void telsxHeaderReferredByDelCid( TELSX_HEADER_REFERRED_BY *hdr );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHeaderReferredByGenericParams( TELSX_HEADER_REFERRED_BY hdr );
 RT_API void telsxHeaderReferredBySetGenericParams( TELSX_HEADER_REFERRED_BY *hdr,

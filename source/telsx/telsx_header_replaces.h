@@ -1,4 +1,4 @@
-/* Replaces header: which dialog a call takes the place of (RFC 3891, 6.1).
+/* Replaces header: the dialog that a call replaces (RFC 3891, 6.1).
  *
  *     Replaces = "Replaces" HCOLON callid *( SEMI replaces-param )
  *     replaces-param = to-tag / from-tag / early-flag / generic-param
@@ -21,11 +21,11 @@ TELSX_FREE_FUNC( HeaderReplaces )
 /* A header with this call id and nothing else. Aborts unless telsxCallIdOk. */
 RT_API TELSX_HEADER_REPLACES telsxHeaderReplacesCreate( RT_STRING callId );
 
-/* The call id of the dialog, with its case, never null. Set aborts unless telsxCallIdOk. */
+/* The call id of the dialog, in its original case, never null. Set aborts unless telsxCallIdOk. */
 RT_API RT_STRING telsxHeaderReplacesCallId( TELSX_HEADER_REPLACES hdr );
 RT_API void telsxHeaderReplacesSetCallId( TELSX_HEADER_REPLACES *hdr, RT_STRING callId );
 
-/* The tags of the dialog, with their case, or null. Set aborts unless telsxTagOk. */
+/* The tags of the dialog, in their original case, or null. Set aborts unless telsxTagOk. */
 RT_API RT_STRING telsxHeaderReplacesFromTag( TELSX_HEADER_REPLACES hdr );
 RT_API RT_BOOL telsxHeaderReplacesHasFromTag( TELSX_HEADER_REPLACES hdr );
 RT_API void telsxHeaderReplacesSetFromTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag );
@@ -39,7 +39,7 @@ RT_API void telsxHeaderReplacesDelToTag( TELSX_HEADER_REPLACES *hdr );
 RT_API RT_BOOL telsxHeaderReplacesEarlyOnly( TELSX_HEADER_REPLACES hdr );
 RT_API void telsxHeaderReplacesSetEarlyOnly( TELSX_HEADER_REPLACES *hdr, RT_BOOL earlyOnly );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHeaderReplacesGenericParams( TELSX_HEADER_REPLACES hdr );
 RT_API void telsxHeaderReplacesSetGenericParams( TELSX_HEADER_REPLACES *hdr,

@@ -11,11 +11,11 @@ RT_BEGIN
 TELSX_HEADER( HeaderSubject, HEADER_SUBJECT )
 TELSX_FREE_FUNC( HeaderSubject )
 
-/* A header with this text. Null aborts, and so does a text that is not telsxSubjectOk. */
+/* A header with this text. Aborts for null, and unless telsxSubjectOk. */
 RT_API TELSX_HEADER_SUBJECT telsxHeaderSubjectCreate( RT_STRING subject );
 
-/* The text, without white space around it and with one blank between its words, possibly empty, never
- * null. Set aborts unless telsxSubjectOk. */
+/* The text, with one blank between its words and no white space around it, possibly empty, never null. Set aborts
+ * unless telsxSubjectOk. */
 RT_API RT_STRING telsxHeaderSubjectSubject( TELSX_HEADER_SUBJECT hdr );
 RT_API void telsxHeaderSubjectSetSubject( TELSX_HEADER_SUBJECT *hdr, RT_STRING subject );
 

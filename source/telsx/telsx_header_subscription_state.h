@@ -1,4 +1,4 @@
-/* Subscription-State header: how a subscription stands (RFC 6665, 8.2.3).
+/* Subscription-State header: the state of a subscription (RFC 6665, 8.2.3).
  *
  *     Subscription-State = "Subscription-State" HCOLON substate-value *( SEMI subexp-params )
  *     subexp-params = ( "reason" EQUAL event-reason-value ) / ( "expires" EQUAL delta-seconds ) /
@@ -24,14 +24,14 @@ RT_API RT_STRING telsxHeaderSubscriptionStateSubstateValue( TELSX_HEADER_SUBSCRI
 RT_API void telsxHeaderSubscriptionStateSetSubstateValue( TELSX_HEADER_SUBSCRIPTION_STATE *hdr,
                                                           RT_STRING substateValue );
 
-/* Why, in lower case, or null. Set aborts unless telsxEventReasonValueOk. */
+/* The reason for the state, in lower case, or null. Set aborts unless telsxEventReasonValueOk. */
 RT_API RT_STRING telsxHeaderSubscriptionStateReason( TELSX_HEADER_SUBSCRIPTION_STATE hdr );
 RT_API RT_BOOL telsxHeaderSubscriptionStateHasReason( TELSX_HEADER_SUBSCRIPTION_STATE hdr );
 RT_API void telsxHeaderSubscriptionStateSetReason( TELSX_HEADER_SUBSCRIPTION_STATE *hdr, RT_STRING reason );
 RT_API void telsxHeaderSubscriptionStateDelReason( TELSX_HEADER_SUBSCRIPTION_STATE *hdr );
 
-/* How long the subscription still holds, and when to try again, in seconds, -1 if that is not told. Set
- * aborts unless telsxDeltaSecondsOk. */
+/* How long the subscription still lasts, and when to try again, in seconds, or -1 if absent. Set aborts unless
+ * telsxDeltaSecondsOk. */
 RT_API int64_t telsxHeaderSubscriptionStateExpires( TELSX_HEADER_SUBSCRIPTION_STATE hdr );
 RT_API RT_BOOL telsxHeaderSubscriptionStateHasExpires( TELSX_HEADER_SUBSCRIPTION_STATE hdr );
 RT_API void telsxHeaderSubscriptionStateSetExpires( TELSX_HEADER_SUBSCRIPTION_STATE *hdr,
@@ -43,7 +43,7 @@ RT_API void telsxHeaderSubscriptionStateSetRetryAfter( TELSX_HEADER_SUBSCRIPTION
                                                        int64_t deltaSeconds );
 RT_API void telsxHeaderSubscriptionStateDelRetryAfter( TELSX_HEADER_SUBSCRIPTION_STATE *hdr );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHeaderSubscriptionStateGenericParams( TELSX_HEADER_SUBSCRIPTION_STATE hdr );
 RT_API void telsxHeaderSubscriptionStateSetGenericParams( TELSX_HEADER_SUBSCRIPTION_STATE *hdr,

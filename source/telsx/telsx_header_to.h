@@ -1,4 +1,4 @@
-/* To header: whom a request is meant for (RFC 3261, 20.39).
+/* To header: whom a request is for (RFC 3261, 20.39).
  *
  *     To = ( "To" / "t" ) HCOLON ( name-addr / addr-spec ) *( SEMI to-param )  ; RFC 3261
  *     to-param = tag-param / epid-param / generic-param
@@ -20,7 +20,7 @@ TELSX_FREE_FUNC( HeaderTo )
 /* A header with this address and nothing else. Aborts unless telsxIriOk. */
 RT_API TELSX_HEADER_TO telsxHeaderToCreate( RT_STRING iri );
 
-/* A header with all that the given From header holds, its tag included. Null aborts. */
+/* A header with everything in the given From header, its tag included. Aborts for null. */
 typedef struct TELSX_HEADER_FROM_ *TELSX_HEADER_FROM;
 RT_API TELSX_HEADER_TO telsxHeaderToCreateFromHeaderFrom( TELSX_HEADER_FROM hdrFrom );
 
@@ -34,20 +34,20 @@ RT_API RT_BOOL telsxHeaderToHasDisplayName( TELSX_HEADER_TO hdr );
 RT_API void telsxHeaderToSetDisplayName( TELSX_HEADER_TO *hdr, RT_STRING displayName );
 RT_API void telsxHeaderToDelDisplayName( TELSX_HEADER_TO *hdr );
 
-/* The tag, with its case, or null. Set aborts unless telsxTagOk. */
+/* The tag, in its original case, or null. Set aborts unless telsxTagOk. */
 RT_API RT_STRING telsxHeaderToTag( TELSX_HEADER_TO hdr );
 RT_API RT_BOOL telsxHeaderToHasTag( TELSX_HEADER_TO hdr );
 RT_API void telsxHeaderToSetTag( TELSX_HEADER_TO *hdr, RT_STRING tag );
 RT_API void telsxHeaderToDelTag( TELSX_HEADER_TO *hdr );
 
-/* The endpoint identifier, with its case, or null. Set aborts unless telsxEpidOk. */
+/* The endpoint identifier, in its original case, or null. Set aborts unless telsxEpidOk. */
 RT_API RT_STRING telsxHeaderToEpid( TELSX_HEADER_TO hdr );
 RT_API RT_BOOL telsxHeaderToHasEpid( TELSX_HEADER_TO hdr );
 RT_API void telsxHeaderToSetEpid( TELSX_HEADER_TO *hdr, RT_STRING epid );
 RT_API void telsxHeaderToDelEpid( TELSX_HEADER_TO *hdr );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the header is written. Set
- * aborts for null. */
+/* All other parameters, never null. When the header is written, a field takes precedence over a parameter of its name.
+ * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHeaderToGenericParams( TELSX_HEADER_TO hdr );
 RT_API void telsxHeaderToSetGenericParams( TELSX_HEADER_TO *hdr, TELSX_GENERIC_PARAMS genericParams );
 

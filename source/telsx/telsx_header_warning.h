@@ -15,7 +15,7 @@ TELSX_HEADER( HeaderWarning, HEADER_WARNING )
 TELSX_FREE_FUNC( HeaderWarning )
 TELSX_LIST_OF_VALUES( HeaderWarning, HEADER_WARNING, Warning, WARNING_VALUE )
 
-/* A header without values. */
+/* An empty header. */
 RT_API TELSX_HEADER_WARNING telsxHeaderWarningCreate( void );
 
 /* Empties the list. */

@@ -5,8 +5,7 @@
  *     hi-index = "index" EQUAL index-val
  *     hi-target-param = ( "rc" / "mp" / "np" ) EQUAL index-val
  *
- * (RFC 7044, 5) The index must be there. Values sort by the fields in the order below; indices compare as
- * texts. */
+ * (RFC 7044, 5) The index is mandatory. Values sort by the fields in the order below; indices compare as texts. */
 #ifndef TELSX_TELSX_HISTORY_INFO_H
 #define TELSX_TELSX_HISTORY_INFO_H
 
@@ -31,7 +30,7 @@ RT_API RT_BOOL telsxHistoryInfoHasDisplayName( TELSX_HISTORY_INFO hi );
 RT_API void telsxHistoryInfoSetDisplayName( TELSX_HISTORY_INFO *hi, RT_STRING displayName );
 RT_API void telsxHistoryInfoDelDisplayName( TELSX_HISTORY_INFO *hi );
 
-/* The index, as 1.2.1, never null. Set aborts unless telsxHistoryInfoIndexOk. */
+/* The index, such as 1.2.1, never null. Set aborts unless telsxHistoryInfoIndexOk. */
 RT_API RT_STRING telsxHistoryInfoIndex( TELSX_HISTORY_INFO hi );
 RT_API void telsxHistoryInfoSetIndex( TELSX_HISTORY_INFO *hi, RT_STRING index );
 
@@ -49,7 +48,7 @@ RT_API RT_BOOL telsxHistoryInfoHasNp( TELSX_HISTORY_INFO hi );
 RT_API void telsxHistoryInfoSetNp( TELSX_HISTORY_INFO *hi, RT_STRING np );
 RT_API void telsxHistoryInfoDelNp( TELSX_HISTORY_INFO *hi );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxHistoryInfoGenericParams( TELSX_HISTORY_INFO hi );
 RT_API void telsxHistoryInfoSetGenericParams( TELSX_HISTORY_INFO *hi, TELSX_GENERIC_PARAMS genericParams );

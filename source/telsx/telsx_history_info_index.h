@@ -12,11 +12,11 @@
 
 RT_BEGIN
 
-/* Whether the text is an index; the empty text is none. Null aborts. */
+/* Whether the text is an index; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxHistoryInfoIndexOk( RT_STRING index );
 
-/* How many code points at the start of the text are an index (see telsx_skip.h). A number with a leading
- * zero, and a dot that no digit follows, make it 0 for the whole. */
+/* How many code points at the start of the text form an index (see telsx_skip.h). A number with a leading zero, or a
+ * dot without a digit after it, makes the whole result 0. */
 RT_API int64_t telsx___SkipHistoryInfoIndex( const RT_CHAR *chs, int64_t length );
 
 RT_END

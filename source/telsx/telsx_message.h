@@ -1,6 +1,6 @@
-/* Message: a fragment that is a request or a response (RFC 3261, 7). It adds that guarantee and nothing else:
- * every function here does what the fragment's function of the same name does (telsx_message_fragment.h). A
- * null message aborts. Messages have no order: each is equal only to itself. */
+/* Message: a fragment that is a request or a response (RFC 3261, 7). A message adds only that guarantee: every function
+ * here does what the fragment's function of the same name does (telsx_message_fragment.h). Every function aborts for a
+ * null message. Messages have no order: each is equal only to itself. */
 #ifndef TELSX_TELSX_MESSAGE_H
 #define TELSX_TELSX_MESSAGE_H
 
@@ -13,11 +13,11 @@ TELSX_OBJECT( Message, MESSAGE )
 /* A message with this fragment, which it retains. Aborts unless the fragment is a request or a response. */
 RT_API TELSX_MESSAGE telsxMessageCreate( TELSX_MESSAGE_FRAGMENT fragment );
 
-/* The fragment, a new reference; later changes of the message do not reach it. */
+/* The fragment, a new reference; later changes to the message do not affect it. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragment( TELSX_MESSAGE msg );
 
-/* The message that the bytes of one datagram are, a new reference, or null for bad ones and for those without
- * a start line. Null aborts. */
+/* The message in the bytes of one datagram, a new reference, or null for bad bytes and for bytes without a start line.
+ * Aborts for null. */
 RT_API TELSX_MESSAGE telsxMessageTryDecode( RT_BUFFER buf );
 
 /* New messages without headers and body. */

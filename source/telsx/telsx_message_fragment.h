@@ -1,10 +1,10 @@
-/* Message fragment: what a SIP message can hold, without the demand that it be whole: a start line or none,
- * any set of headers, a body or none (RFC 3261, 7; RFC 3420).
+/* Message fragment: the contents of a SIP message, which need not be complete: an optional start line, any set of
+ * headers and an optional body (RFC 3261, 7; RFC 3420).
  *
- * A fragment is a request (method, IRI and version), a response (status code, reason phrase and version) or
- * neither (no version). Headers are raw and stand under their canonical names, in the order in which the
- * names came; the body is bytes. A Content-Length header among them is not kept in step with the body:
- * decoding reads it, encoding writes its own. Fragments have no order: each is equal only to itself. */
+ * A fragment is a request (method, IRI and version), a response (status code, reason phrase and version) or neither (no
+ * version). Headers are raw and kept under their canonical names, in the order in which the names first came; the body
+ * is bytes. A Content-Length header among them is not kept in step with the body: decoding reads it, and encoding
+ * writes one of its own. Fragments have no order: each is equal only to itself. */
 #ifndef TELSX_TELSX_MESSAGE_FRAGMENT_H
 #define TELSX_TELSX_MESSAGE_FRAGMENT_H
 
@@ -19,8 +19,8 @@ TELSX_OBJECT( MessageFragment, MESSAGE_FRAGMENT )
 /* An empty fragment, neither request nor response. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void );
 
-/* Requests. Set replaces whatever start line there is; headers and body stay. They abort for a null version
- * and unless telsxMethodOk and telsxIriOk. */
+/* Requests. Set replaces any start line; headers and body stay. Both abort for a null version, and unless telsxMethodOk
+ * and telsxIriOk. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequest( TELSX_VERSION version, RT_STRING method,
                                                                  RT_STRING iri );
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequestCstr( TELSX_VERSION version,
@@ -36,7 +36,7 @@ RT_API void telsxMessageFragmentSetRequestCstr( TELSX_MESSAGE_FRAGMENT *frag, TE
 RT_API void telsxMessageFragmentSetRequestWcstr( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,
                                                  const wchar_t *method, int64_t length, RT_STRING iri );
 
-/* Responses, with the usual phrase of the code or with one of the caller's. They abort for a null version and
+/* Responses, with the usual phrase of the code or with a phrase of the caller's. All abort for a null version, and
  * unless telsxStatusCodeOk and telsxReasonPhraseOk. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponse( TELSX_VERSION version, int64_t sc );
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhrase( TELSX_VERSION version,
@@ -59,17 +59,17 @@ RT_API void telsxMessageFragmentSetResponseWithReasonPhraseWcstr( TELSX_MESSAGE_
                                                                   const wchar_t *reasonPhrase,
                                                                   int64_t length );
 
-/* Takes the start line away; headers and body stay. */
+/* Removes the start line; headers and body stay. */
 RT_API void telsxMessageFragmentSetNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT *frag );
 
-/* Exactly one of the three holds. */
+/* Which kind the fragment is. Exactly one of the three is true. */
 RT_API RT_BOOL telsxMessageFragmentIsRequest( TELSX_MESSAGE_FRAGMENT frag );
 RT_API RT_BOOL telsxMessageFragmentIsResponse( TELSX_MESSAGE_FRAGMENT frag );
 RT_API RT_BOOL telsxMessageFragmentIsNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT frag );
 
-/* Single fields of the start line. A getter gives null, or TELSX_STATUS_CODE_INVALID, where the kind has no
- * such field; a setter aborts there, since it can't turn one kind into another, and for a value that is not
- * Ok. SetResponseStatusCode also puts in the usual phrase of the code unless updateReasonPhrase is 0. */
+/* Single fields of the start line. A getter returns null, or TELSX_STATUS_CODE_INVALID, if the kind has no such field.
+ * A setter then aborts, since it can't turn one kind into another; it also aborts for a value that is not Ok.
+ * SetResponseStatusCode also sets the usual phrase of the code unless updateReasonPhrase is 0. */
 RT_API TELSX_VERSION telsxMessageFragmentVersion( TELSX_MESSAGE_FRAGMENT frag );
 RT_API RT_BOOL telsxMessageFragmentHasVersion( TELSX_MESSAGE_FRAGMENT frag );
 RT_API void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version );
@@ -99,9 +99,9 @@ RT_API void telsxMessageFragmentSetResponseReasonPhraseWcstr( TELSX_MESSAGE_FRAG
 /* All headers as a new vector. */
 RT_API RT_VECTOR telsxMessageFragmentHeadersVector( TELSX_MESSAGE_FRAGMENT frag );
 
-/* The header of a name in any spelling, a new reference, or null; changes of it come into the fragment by
- * SetHeader only, which puts a header in the place of all lines of its name. Deleting an absent name changes
- * nothing. A name that fails telsxMessageHeaderNameOk aborts. */
+/* The header of a name in any spelling, a new reference, or null. Changes to it reach the fragment only through
+ * SetHeader, which replaces all lines of that name. Deleting an absent name changes nothing. Functions that take a name
+ * abort unless telsxMessageHeaderNameOk. */
 RT_API TELSX_MESSAGE_HEADER telsxMessageFragmentHeader( TELSX_MESSAGE_FRAGMENT frag, RT_STRING name );
 RT_API TELSX_MESSAGE_HEADER telsxMessageFragmentHeaderCstr( TELSX_MESSAGE_FRAGMENT frag, const char *name,
                                                             int64_t length );
@@ -119,30 +119,30 @@ RT_API void telsxMessageFragmentDelHeaderCstr( TELSX_MESSAGE_FRAGMENT *frag, con
 RT_API void telsxMessageFragmentDelHeaderWcstr( TELSX_MESSAGE_FRAGMENT *frag, const wchar_t *name,
                                                 int64_t length );
 
-/* Whether a line of a header, as it would be written, holds a CR or LF. Lines end in CR LF only, so that a CR or
- * LF alone belongs to its line; a peer that takes it for a line end reads another message. The start line never has
- * one. Looks at the bytes of a header that was decoded and not replaced, and at the text of any other. */
+/* Whether a line of a header, as it would be written, holds a CR or LF. Lines end only in CR LF, so a lone CR or LF
+ * belongs to its line; a peer that takes it for a line end reads a different message. The start line never has one. For
+ * a header that was decoded and not replaced the function looks at the bytes, and for any other header at the text. */
 RT_API RT_BOOL telsxMessageFragmentHasLoneLineEnds( TELSX_MESSAGE_FRAGMENT frag );
 
-/* The body, a new reference, or null; an empty buffer is a body. Set keeps the buffer itself; null aborts. */
+/* The body, a new reference, or null; an empty buffer is a body. Set keeps the buffer itself and aborts for null. */
 RT_API RT_BUFFER telsxMessageFragmentBody( TELSX_MESSAGE_FRAGMENT frag );
 RT_API RT_BOOL telsxMessageFragmentHasBody( TELSX_MESSAGE_FRAGMENT frag );
 RT_API void telsxMessageFragmentSetBody( TELSX_MESSAGE_FRAGMENT *frag, RT_BUFFER body );
 RT_API void telsxMessageFragmentDelBody( TELSX_MESSAGE_FRAGMENT *frag );
 
-/* The fragment that the bytes are, as of one datagram; a new reference, or null for bad ones. Lines end in CR
- * LF; a blank line ends the head, or the end of the bytes. A Content-Length must be a number and no larger than
- * what follows the head, of which the rest is dropped; without one all bytes behind the head are the body, and an
- * empty body is none. Null aborts. */
+/* The fragment in the bytes of one datagram; a new reference, or null for bad bytes. Lines end in CR LF, and the head
+ * ends at a blank line or at the end of the bytes. A Content-Length must be a number no larger than the number of bytes
+ * after the head; any bytes beyond it are dropped. Without a Content-Length all bytes after the head are the body. An
+ * empty body counts as no body. Aborts for null. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecode( RT_BUFFER buf );
 
-/* The same for a head alone, without its blank line. contentLength receives the value of Content-Length, or
- * -1 if there is none and when the result is null; if it is null itself, Content-Length is not looked at and
- * can't fail the call. */
+/* The same for a head alone, without its blank line. contentLength receives the value of Content-Length, or -1 if there
+ * is none or the result is null. If contentLength itself is null, Content-Length is ignored and can't make the call
+ * fail. */
 RT_API TELSX_MESSAGE_FRAGMENT telsxMessageFragmentTryDecodeHeaders( RT_BUFFER buf, int64_t *contentLength );
 
-/* The bytes of the fragment, a new reference: one line for each line of each header, and always one
- * Content-Length with the true length, in the place of whatever the fragment says. */
+/* The bytes of the fragment, a new reference: one line for each line of each header, and always one Content-Length with
+ * the true length, whatever the fragment holds. */
 RT_API RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag );
 
 TELSX_FREE_FUNC( MessageFragment )

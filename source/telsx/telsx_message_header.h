@@ -1,5 +1,5 @@
-/* Raw header: a name and the ordered lines that a message carries under it. A line is the value alone,
- * without name, colon and line end; nothing is known of its grammar. */
+/* Raw header: a name and the ordered lines that a message carries under it. A line is the value alone, without name,
+ * colon and line end; its grammar is not looked at. */
 #ifndef TELSX_TELSX_MESSAGE_HEADER_H
 #define TELSX_TELSX_MESSAGE_HEADER_H
 
@@ -9,21 +9,22 @@ RT_BEGIN
 
 TELSX_OBJECT( MessageHeader, MESSAGE_HEADER )
 
-/* A header of this name without lines. Aborts unless telsxMessageHeaderNameOk. */
+/* A header with this name and without lines. Aborts unless telsxMessageHeaderNameOk. */
 RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderCreate( RT_STRING name );
 RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderCreateCstr( const char *name, int64_t length );
 RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderCreateWcstr( const wchar_t *name, int64_t length );
 
-/* Whether the text is a token (RFC 3261, 25.1, header-name). Null aborts. */
+/* Whether the text is a token (RFC 3261, 25.1, header-name). Aborts for null. */
 RT_API RT_BOOL telsxMessageHeaderNameOk( RT_STRING name );
 
-/* The canonical name, a new reference: the long name of a compact form (RFC 3261, 7.3.3), lower case but for
- * the first character and each behind a hyphen, as in "Call-Id", "Cseq", "Www-Authenticate". Aborts unless
+/* The canonical name, a new reference: the long name for a compact form (RFC 3261, 7.3.3), in lower case except for the
+ * first character and each character after a hyphen, as in "Call-Id", "Cseq", "Www-Authenticate". Aborts unless
  * telsxMessageHeaderNameOk. */
 RT_API RT_STRING telsxMessageHeaderNameNormalize( RT_STRING name );
 
-/* The canonical name, never null. Set aborts unless telsxMessageHeaderNameOk. NameEquals compares with the
- * canonical form of its argument, which must be Ok: "i" and "call-ID" equal a header "Call-Id". */
+/* The canonical name, never null. Set aborts unless telsxMessageHeaderNameOk. NameEquals compares with the canonical
+ * form of its argument, so that "i" and "call-ID" equal a header "Call-Id"; it aborts unless the argument is
+ * telsxMessageHeaderNameOk. */
 RT_API RT_STRING telsxMessageHeaderName( TELSX_MESSAGE_HEADER header );
 RT_API RT_BOOL telsxMessageHeaderNameEquals( TELSX_MESSAGE_HEADER header, RT_STRING name );
 RT_API RT_BOOL telsxMessageHeaderNameEqualsCstr( TELSX_MESSAGE_HEADER header, const char *name,
@@ -35,16 +36,16 @@ RT_API void telsxMessageHeaderSetNameCstr( TELSX_MESSAGE_HEADER *header, const c
 RT_API void telsxMessageHeaderSetNameWcstr( TELSX_MESSAGE_HEADER *header, const wchar_t *name,
                                             int64_t length );
 
-/* Whether the text is a line: it holds no CR LF. Null aborts. */
+/* Whether the text is a line, which means that it holds no CR LF. Aborts for null. */
 RT_API RT_BOOL telsxMessageHeaderLineOk( RT_STRING line );
 
-/* All lines as a vector of strings, a new reference, never null. Set aborts unless every element is a string
- * that passes telsxMessageHeaderLineOk; it keeps the vector itself. */
+/* All lines as a vector of strings, a new reference, never null. Set keeps the vector itself, and aborts unless every
+ * element is a string that is telsxMessageHeaderLineOk. */
 RT_API RT_VECTOR telsxMessageHeaderLinesVector( TELSX_MESSAGE_HEADER header );
 RT_API void telsxMessageHeaderSetLinesVector( TELSX_MESSAGE_HEADER *header, RT_VECTOR lines );
 
-/* Single lines; LastLine is null if there is none. An index out of range aborts, and so does a value that
- * fails telsxMessageHeaderLineOk. */
+/* Single lines; LastLine returns null if there is none. Functions that take an index abort unless it is valid, and
+ * functions that take a line abort unless telsxMessageHeaderLineOk. */
 RT_API RT_STRING telsxMessageHeaderLastLine( TELSX_MESSAGE_HEADER header );
 RT_API int64_t telsxMessageHeaderLinesLength( TELSX_MESSAGE_HEADER header );
 RT_API RT_STRING telsxMessageHeaderLineAt( TELSX_MESSAGE_HEADER header, int64_t index );
@@ -60,7 +61,7 @@ RT_API void telsxMessageHeaderAppendLineCstr( TELSX_MESSAGE_HEADER *header, cons
 RT_API void telsxMessageHeaderAppendLineWcstr( TELSX_MESSAGE_HEADER *header, const wchar_t *value,
                                                int64_t length );
 
-/* The same with a line from a format and its arguments (see rt/rt_string.h). */
+/* The same, with a line made from a format and its arguments (see rt/rt_string.h). */
 RT_API void telsxMessageHeaderSetLineAtFormat( TELSX_MESSAGE_HEADER *header, int64_t index, RT_STRING format,
                                                ... );
 RT_API void telsxMessageHeaderSetLineAtFormatCstr( TELSX_MESSAGE_HEADER *header, int64_t index,
@@ -73,10 +74,10 @@ RT_API void telsxMessageHeaderAppendLineFormatCstr( TELSX_MESSAGE_HEADER *header
 RT_API void telsxMessageHeaderAppendLineFormatWcstr( TELSX_MESSAGE_HEADER *header, const wchar_t *format,
                                                      int64_t length, ... );
 
-/* The header as a new store, with its name under "name" and a store of its lines under "lines"; the store of
- * its lines alone. TryRestore gives a new header, or null if the store is damaged: no name, or a bad one, no
- * store of lines, or a line with CR LF. RestoreLines gives a new header of the name with the lines of a store, in
- * the store's order; a bad name and a bad line abort. A null store aborts. */
+/* Store returns the header as a new store, with its name under "name" and a store of its lines under "lines";
+ * StoreLines returns a new store of its lines alone. TryRestore returns a new header, or null if the store is damaged:
+ * no name or a bad one, no store of lines, or a line with CR LF. RestoreLines returns a new header of the name with the
+ * lines of a store, in the store's order; it aborts for a bad name and for a bad line. All abort for a null store. */
 RT_API RT_STORE telsxMessageHeaderStore( TELSX_MESSAGE_HEADER header );
 RT_API RT_STORE telsxMessageHeaderStoreLines( TELSX_MESSAGE_HEADER header );
 RT_API TELSX_MESSAGE_HEADER telsxMessageHeaderTryRestore( RT_STORE store );

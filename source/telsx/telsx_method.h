@@ -1,4 +1,4 @@
-/* Method: what a request asks for. Any token is one, and its case counts.
+/* Method: what a request asks for. Any token is a method, and methods are case-sensitive.
  *
  *     Method = INVITEm / ACKm / OPTIONSm / BYEm / CANCELm / REGISTERm / extension-method
  *     extension-method = token
@@ -13,7 +13,7 @@
 
 RT_BEGIN
 
-/* Whether the text is a method; the empty text is none. Null aborts. */
+/* Whether the text is a method; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxMethodOk( RT_STRING method );
 
 RT_END

@@ -11,14 +11,14 @@
 
 RT_BEGIN
 
-/* Whether the text is words with white space between and around them, none at all included. Null aborts. */
+/* Whether the text is words, or none, with white space between and around them. Aborts for null. */
 RT_API RT_BOOL telsxOrganizationOk( RT_STRING organization );
 
-/* The text without white space around it and with one blank between its words, a new reference. Aborts for
- * null and for text that is not telsxOrganizationOk. */
+/* The text without white space around it and with one blank between its words, a new reference. Aborts for null, and
+ * unless telsxOrganizationOk. */
 RT_API RT_STRING telsxOrganizationNormalize( RT_STRING organization );
 
-/* How many code points at the start of the text are words; white space behind the last does not count (see
+/* How many code points at the start of the text are words; white space after the last word does not count (see
  * telsx_skip.h). */
 RT_API int64_t telsx___SkipOrganization( const RT_CHAR *chs, int64_t length );
 

@@ -1,4 +1,4 @@
-/* Port. It has no upper limit here, as the grammar has none.
+/* Port. It has no upper limit, since the grammar has none.
  *
  *     port = 1*DIGIT
  *
@@ -13,9 +13,8 @@ RT_BEGIN
 /* Whether the number is 0 or more. */
 RT_API RT_BOOL telsxPortOk( int64_t port );
 
-/* For the library's own units. Encode gives the decimal digits, a new reference, and aborts unless
- * telsxPortOk. TryDecode takes digits and nothing else and gives their value, -1 for bad text and for a
- * number that is not Ok. */
+/* For the library's own units. Encode returns the decimal digits, a new reference, and aborts unless telsxPortOk.
+ * TryDecode accepts only digits and returns their value, or -1 for bad text and for a number that is not Ok. */
 RT_API RT_STRING telsx___PortEncode( int64_t port );
 RT_API int64_t telsx___PortTryDecode( const RT_CHAR *chs, int64_t length );
 

@@ -12,7 +12,7 @@
 
 RT_BEGIN
 
-/* Whether the text is a protocol name; the empty text is none. Null aborts. */
+/* Whether the text is a protocol name; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxProtocolNameOk( RT_STRING protocolName );
 
 /* The protocol name in upper case, a new reference. Aborts unless telsxProtocolNameOk. */

@@ -12,7 +12,7 @@
 
 RT_BEGIN
 
-/* Whether the text is a protocol version; the empty text is none. Null aborts. */
+/* Whether the text is a protocol version; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxProtocolVersionOk( RT_STRING protocolVersion );
 
 /* The protocol version in lower case, a new reference. Aborts unless telsxProtocolVersionOk. */

@@ -10,13 +10,13 @@
 
 RT_BEGIN
 
-/* Whether the text holds neither CR nor LF; the empty text is one. Null aborts. */
+/* Whether the text holds neither CR nor LF; the empty text is a quotable string. Aborts for null. */
 RT_API RT_BOOL telsxQuotableStringOk( RT_STRING quotableString );
 
-/* For the library's own units. Encode puts the text in quotes, with a backslash before quotes, backslashes,
- * control characters and the second of two spaces, a new reference; it aborts for null and for CR or LF.
- * TryDecode takes one whole quoted string, white space before it allowed, and gives its plain text, a new
- * reference, or null for bad text. The skipper is telsx___SkipQuotedString. */
+/* For the library's own units. Encode puts the text in quotes, with a backslash before quotes, backslashes, control
+ * characters and the second of two spaces; it returns a new reference, and aborts for null and unless
+ * telsxQuotableStringOk. TryDecode takes one whole quoted string, with optional white space before it, and returns its
+ * plain text, a new reference, or null for bad text. The skipper is telsx___SkipQuotedString. */
 RT_API RT_STRING telsx___QuotableStringEncode( RT_STRING quotableString );
 RT_API RT_STRING telsx___QuotableStringTryDecode( const RT_CHAR *chs, int64_t length );
 

@@ -13,14 +13,13 @@ RT_BEGIN
 /* Whether the number is from 0 to 1000. */
 RT_API RT_BOOL telsxQvalueOk( int64_t qvalue );
 
-/* For the library's own units. Encode writes three decimals, a new reference, and aborts unless
- * telsxQvalueOk. TryDecode takes one whole qvalue and gives thousandths, -1 for bad text, and 0 for the empty
- * text. */
+/* For the library's own units. Encode writes three decimals, returns a new reference, and aborts unless telsxQvalueOk.
+ * TryDecode takes one whole qvalue and returns thousandths, or -1 for bad text; for the empty text it returns 0. */
 RT_API RT_STRING telsx___QvalueEncode( int64_t qvalue );
 RT_API int64_t telsx___QvalueTryDecode( const RT_CHAR *chs, int64_t length );
 
-/* How many code points at the start of the text are a qvalue (see telsx_skip.h); the dot counts also without
- * a digit. */
+/* How many code points at the start of the text form a qvalue (see telsx_skip.h); the dot counts even without a
+ * digit. */
 RT_API int64_t telsx___SkipQvalue( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -18,11 +18,11 @@ TELSX_VALUE_OBJECT( Reason, REASON )
 /* A reason with this protocol and nothing else. Aborts unless telsxReasonProtocolOk. */
 RT_API TELSX_REASON telsxReasonCreate( RT_STRING reasonProtocol );
 
-/* The protocol, with its case, such as SIP or Q.850, never null. Set aborts unless telsxReasonProtocolOk. */
+/* The protocol, in its original case, such as SIP or Q.850, never null. Set aborts unless telsxReasonProtocolOk. */
 RT_API RT_STRING telsxReasonProtocol( TELSX_REASON reason );
 RT_API void telsxReasonSetProtocol( TELSX_REASON *reason, RT_STRING protocol );
 
-/* The cause, digits with their leading zeros, or null. Set aborts unless telsxReasonCauseOk. */
+/* The cause: digits, leading zeros included, or null. Set aborts unless telsxReasonCauseOk. */
 RT_API RT_STRING telsxReasonCause( TELSX_REASON reason );
 RT_API RT_BOOL telsxReasonHasCause( TELSX_REASON reason );
 RT_API void telsxReasonSetCause( TELSX_REASON *reason, RT_STRING cause );
@@ -34,7 +34,7 @@ RT_API RT_BOOL telsxReasonHasText( TELSX_REASON reason );
 RT_API void telsxReasonSetText( TELSX_REASON *reason, RT_STRING text );
 RT_API void telsxReasonDelText( TELSX_REASON *reason );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the text is written.
+/* All other parameters, never null. When the text is written, a field takes precedence over a parameter of its name.
  * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxReasonGenericParams( TELSX_REASON reason );
 RT_API void telsxReasonSetGenericParams( TELSX_REASON *reason, TELSX_GENERIC_PARAMS genericParams );

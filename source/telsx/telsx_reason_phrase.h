@@ -10,13 +10,12 @@
 
 RT_BEGIN
 
-/* True: every text is a reason phrase, since whatever the grammar has no place for is escaped. Null aborts.
- */
+/* Always true: every text is a reason phrase, since whatever the grammar does not allow is escaped. Aborts for null. */
 RT_API RT_BOOL telsxReasonPhraseOk( RT_STRING reasonPhrase );
 
-/* For the library's own units; new references. Encode writes what the grammar does not name as "%HH" and
- * aborts for null. Decode undoes escapes one by one, without taking them for UTF-8, and leaves a percent sign
- * alone that two hex digits do not follow; no text fails. */
+/* For the library's own units; new references. Encode writes what the grammar does not allow as "%HH" and aborts for
+ * null. Decode decodes each escape to one character, not as UTF-8, and leaves a percent sign alone unless two hex
+ * digits follow it; it never fails. */
 RT_API RT_STRING telsx___ReasonPhraseEncode( RT_STRING s );
 RT_API RT_STRING telsx___ReasonPhraseDecode( const RT_CHAR *chs, int64_t length );
 

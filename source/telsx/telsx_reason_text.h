@@ -10,10 +10,10 @@
 
 RT_BEGIN
 
-/* Whether the text holds neither CR nor LF; the empty text is one. Null aborts. */
+/* Whether the text holds neither CR nor LF; the empty text is a reason text. Aborts for null. */
 RT_API RT_BOOL telsxReasonTextOk( RT_STRING text );
 
-/* How many code points at the start of the text are the element (see telsx_skip.h). */
+/* How many code points at the start of the text form the element (see telsx_skip.h). */
 RT_API int64_t telsx___SkipReasonText( const RT_CHAR *chs, int64_t length );
 
 RT_END

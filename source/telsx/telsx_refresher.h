@@ -1,4 +1,4 @@
-/* Refresher: who renews a session.
+/* Refresher: who refreshes a session.
  *
  *     refresher = "uac" / "uas"
  *
@@ -10,13 +10,14 @@
 
 RT_BEGIN
 
-/* Whether the text is uac or uas, in any case. Null aborts. */
+/* Whether the text is uac or uas, in any case. Aborts for null. */
 RT_API RT_BOOL telsxRefresherOk( RT_STRING refresher );
 
 /* The refresher in lower case, a new reference. Aborts unless telsxRefresherOk. */
 RT_API RT_STRING telsxRefresherNormalize( RT_STRING refresher );
 
-/* 3 if the text begins with one of the two, in any case; what follows is not looked at (see telsx_skip.h). */
+/* 3 if the text begins with one of the two, in any case, otherwise 0; what follows is not looked at (see
+ * telsx_skip.h). */
 RT_API int64_t telsx___SkipRefresher( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -13,7 +13,7 @@ RT_BEGIN
 /* Whether the number is from 1 to 4294967295. */
 RT_API RT_BOOL telsxResponseNumOk( int64_t responseNum );
 
-/* Whether the next number is one too. Aborts unless telsxResponseNumOk. */
+/* Whether the next number is valid too. Aborts unless telsxResponseNumOk. */
 RT_API RT_BOOL telsxResponseNumIncrementOk( int64_t responseNum );
 
 RT_END

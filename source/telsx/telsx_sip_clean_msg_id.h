@@ -10,10 +10,10 @@
 
 RT_BEGIN
 
-/* Whether the text is a message id; the empty text is none. Null aborts. */
+/* Whether the text is a message id; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxSipCleanMsgIdOk( RT_STRING sipCleanMsgId );
 
-/* How many code points at the start of the text are the element (see telsx_skip.h). */
+/* How many code points at the start of the text form the element (see telsx_skip.h). */
 RT_API int64_t telsx___SkipSipCleanMsgId( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -11,10 +11,10 @@
 
 RT_BEGIN
 
-/* Whether the text is an instance; the empty text is none. Null aborts. */
+/* Whether the text is an instance; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxSipInstanceOk( RT_STRING sipInstance );
 
-/* How many code points at the start of the text are the element (see telsx_skip.h). */
+/* How many code points at the start of the text form the element (see telsx_skip.h). */
 RT_API int64_t telsx___SkipSipInstance( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -1,14 +1,13 @@
 /* Skippers: how many code points at the start of a text form an element of the grammar.
  *
- * Every skipper takes a text, of which it reads nothing behind the end, and returns a count from 0 to its
- * length: 0 for no match. Nothing is allocated. White space is space and tab; line ends are none, since a
- * message's folds are undone before a value is looked at. A run is taken at its longest, alternatives are
- * tried in order, and the first that finds anything wins. A missing part of what must be there makes the
- * result 0 for the whole; an optional part that does not come off leaves the result in front of it. What
- * stands behind the element is the caller's to judge. A negative length aborts, and so does null with a
- * length.
+ * Every skipper takes a text and returns a count from 0, for no match, to the length of the text. It reads nothing past
+ * the end and allocates nothing. White space is space and tab; line ends are not, since a message is unfolded before
+ * its values are read. A run is taken at its longest; alternatives are tried in order, and the first match wins. If a
+ * mandatory part is missing, the whole result is 0; if an optional part does not match, the result ends before it. What
+ * follows the element is for the caller to check. Every skipper aborts for a negative length, and for null unless the
+ * length is 0.
  *
- * Other elements that have a unit of their own have their skippers there. */
+ * The skippers of other elements are in the units of those elements. */
 #ifndef TELSX_TELSX_SKIP_H
 #define TELSX_TELSX_SKIP_H
 
@@ -16,8 +15,8 @@
 
 RT_BEGIN
 
-/* One character, which must be a code point; exactly these code points, all or none, in their case or with A
- * to Z and a to z as the same. An empty text to skip gives 0. */
+/* One character, which must be a code point; exactly these code points, all or none, either case-sensitively or with A
+ * to Z equal to a to z. The result is 0 if there are no code points to skip. */
 RT_API int64_t telsx___SkipChar( const RT_CHAR *chs, int64_t length, RT_CHAR ch );
 RT_API int64_t telsx___SkipChars( const RT_CHAR *chs, int64_t length, const RT_CHAR *skipChs,
                                   int64_t skipLength );
@@ -39,7 +38,7 @@ RT_API int64_t telsx___SkipProtocolName( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipProtocolVersion( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipMessageHeaderName( const RT_CHAR *chs, int64_t length );
 
-/* A character with white space before it, behind it, on both sides; without the character 0. */
+/* A character with white space before it, after it, or on both sides; 0 without the character. */
 RT_API int64_t telsx___SkipSwsChar( const RT_CHAR *chs, int64_t length, RT_CHAR ch );
 RT_API int64_t telsx___SkipCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch );
 RT_API int64_t telsx___SkipSwsCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch );
@@ -55,7 +54,7 @@ RT_API int64_t telsx___SkipSemi( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipSlash( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipStar( const RT_CHAR *chs, int64_t length );
 
-/* The brackets and quotes: white space before an opening one, behind a closing one. */
+/* Brackets and quotes, with white space before an opening one and after a closing one. */
 RT_API int64_t telsx___SkipLaquot( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipLdquot( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipRaquot( const RT_CHAR *chs, int64_t length );
@@ -64,22 +63,22 @@ RT_API int64_t telsx___SkipRdquot( const RT_CHAR *chs, int64_t length );
 /* Atoms with single dots between them. */
 RT_API int64_t telsx___SkipDotAtom( const RT_CHAR *chs, int64_t length );
 
-/* A text in double quotes with white space before it. A backslash takes the code point behind it along; a
- * bare or escaped CR or LF, and a missing closing quote, give 0. Any other code point may stand inside. */
+/* A text in double quotes with white space before it. A backslash escapes the code point after it. A CR or LF, bare or
+ * escaped, or a missing closing quote makes the result 0; any other code point may occur inside. */
 RT_API int64_t telsx___SkipQuotedString( const RT_CHAR *chs, int64_t length );
 
 /* A text in parentheses, which nest without limit, with white space around it (RFC 3261, 25.1, comment). */
 RT_API int64_t telsx___SkipComment( const RT_CHAR *chs, int64_t length );
 
-/* What values consist of. In the grammars LAQUOT, RAQUOT, SEMI, SLASH, COLON, EQUAL and LWS are the skippers
- * above; LWS must find at least one white space.
+/* What values consist of. In these grammars LAQUOT, RAQUOT, SEMI, SLASH, COLON, EQUAL and LWS are the skippers above;
+ * LWS is at least one space or tab.
  *
  *     display-name = quoted-string / *( token [ LWS ] )
  *     name-addr = [ display-name ] LAQUOT URI RAQUOT
  *     generic-param = token [ EQUAL ( token / host / quoted-string ) ]
  *     generic-params = *( SEMI generic-param )
  *
- * (RFC 3261, 25.1.) The white space behind a token of a display name counts, that behind a quoted one does
+ * (RFC 3261, 25.1.) White space after a token of a display name counts; white space after a quoted display name does
  * not. */
 RT_API int64_t telsx___SkipDisplayName( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipNameAddr( const RT_CHAR *chs, int64_t length );
@@ -111,8 +110,8 @@ RT_API int64_t telsx___SkipReason( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipAcceptEncoding( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipAccept( const RT_CHAR *chs, int64_t length );
 
-/* Via values (RFC 3261, 20.42). A colon that no port follows makes the whole 0. An address without brackets
- * may stand as the value of received, where a generic parameter has no place for it.
+/* Via values (RFC 3261, 20.42). A colon without a port after it makes the whole result 0. The value of received may be
+ * an address without brackets, which a generic parameter can't hold.
  *
  *     version = protocol-name SLASH protocol-version
  *     via = version SLASH transport LWS host [ COLON port ] *( SEMI via-params )
@@ -123,8 +122,8 @@ RT_API int64_t telsx___SkipVia( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipViaReceived( const RT_CHAR *chs, int64_t length );
 
-/* Warning values (RFC 3261, 20.43). More than three digits give no warn code. A pseudonym that begins like a host is
- * taken for one and cut where no host goes on.
+/* Warning values (RFC 3261, 20.43). More than three digits are not a warn code. A pseudonym that begins like a host is
+ * taken for a host and ends where the host does.
  *
  *     warn-code = 3DIGIT
  *     warn-agent = hostport / pseudonym
@@ -133,8 +132,8 @@ RT_API int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipWarnAgent( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length );
 
-/* Server and User-Agent texts (RFC 3261, 20.35 and 20.41). White space must be followed by a value, so that
- * at the end it makes the whole 0; a comment takes the white space behind it along and ends the text.
+/* Server and User-Agent texts (RFC 3261, 20.35 and 20.41). White space must be followed by a value, so white space at
+ * the end makes the whole result 0; a comment includes the white space after it and ends the text.
  *
  *     server-val = token [ SLASH token ] / comment
  *     server, user-agent = server-val *( LWS server-val ) */
@@ -142,8 +141,8 @@ RT_API int64_t telsx___SkipServerVal( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipServer( const RT_CHAR *chs, int64_t length );
 RT_API int64_t telsx___SkipUserAgent( const RT_CHAR *chs, int64_t length );
 
-/* The names of dates (RFC 3261, 20.17), in exactly this case: "Jan" to "Dec" give 3 and 1 to 12 in month,
- * "Mon" to "Sun" give 3 and 0 to 6 in weekday. The last argument may be null, and stays as it is without a
+/* The names in dates (RFC 3261, 20.17), in exactly this case: "Jan" to "Dec" return 3 and put 1 to 12 into month, "Mon"
+ * to "Sun" return 3 and put 0 to 6 into weekday. The last argument may be null, and is left alone if there is no
  * match. */
 RT_API int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month );
 RT_API int64_t telsx___SkipWkday( const RT_CHAR *chs, int64_t length, int64_t *weekday );

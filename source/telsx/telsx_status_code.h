@@ -6,14 +6,14 @@
 
 RT_BEGIN
 
-/* The status code of what is no response. */
+/* The status code of a message that is not a response. */
 #define TELSX_STATUS_CODE_INVALID ( -1 )
 
 /* Whether the number is from 100 to 999. */
 RT_API RT_BOOL telsxStatusCodeOk( int64_t sc );
 
-/* The class: 1xx, 2xx, 3xx, 4xx, 5xx, 6xx; a code from 700 on is in none. They abort unless
- * telsxStatusCodeOk. */
+/* Whether the code is in the class: 1xx, 2xx, 3xx, 4xx, 5xx, 6xx. Codes from 700 on are in none of them. All abort
+ * unless telsxStatusCodeOk. */
 RT_API RT_BOOL telsxStatusCodeInformational( int64_t sc );
 RT_API RT_BOOL telsxStatusCodeSuccess( int64_t sc );
 RT_API RT_BOOL telsxStatusCodeRedirection( int64_t sc );
@@ -21,8 +21,8 @@ RT_API RT_BOOL telsxStatusCodeClientError( int64_t sc );
 RT_API RT_BOOL telsxStatusCodeServerError( int64_t sc );
 RT_API RT_BOOL telsxStatusCodeGlobalFailure( int64_t sc );
 
-/* The usual phrase of the code, a new reference; Unknown reason "799", the quotes included, for a code
- * without one. Aborts unless telsxStatusCodeOk. */
+/* The usual phrase of the code, a new reference; for a code without one, text such as Unknown reason "799", quotes
+ * included. Aborts unless telsxStatusCodeOk. */
 RT_API RT_STRING telsxStatusCodeReasonPhrase( int64_t sc );
 
 RT_END

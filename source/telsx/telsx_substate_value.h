@@ -11,13 +11,13 @@
 
 RT_BEGIN
 
-/* Whether the text is a substate value; the empty text is none. Null aborts. */
+/* Whether the text is a substate value; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxSubstateValueOk( RT_STRING substateValue );
 
 /* The substate value in lower case, a new reference. Aborts unless telsxSubstateValueOk. */
 RT_API RT_STRING telsxSubstateValueNormalize( RT_STRING substateValue );
 
-/* How many code points at the start of the text are a substate value (see telsx_skip.h). */
+/* How many code points at the start of the text form a substate value (see telsx_skip.h). */
 RT_API int64_t telsx___SkipSubstateValue( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -11,11 +11,11 @@
 
 RT_BEGIN
 
-/* Whether the text is a timestamp value; white space at its end belongs to it, the empty text is none. Null
- * aborts. */
+/* Whether the text is a timestamp value, which includes any white space at its end; the empty text is not one. Aborts
+ * for null. */
 RT_API RT_BOOL telsxTimestampValueOk( RT_STRING timestampValue );
 
-/* How many code points at the start of the text are the element (see telsx_skip.h). */
+/* How many code points at the start of the text form the element (see telsx_skip.h). */
 RT_API int64_t telsx___SkipTimestampValue( const RT_CHAR *chs, int64_t length );
 
 RT_END

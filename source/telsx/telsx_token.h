@@ -12,7 +12,7 @@
 
 RT_BEGIN
 
-/* Whether the text is a token; the empty text is none. Null aborts. */
+/* Whether the text is a token; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxTokenOk( RT_STRING token );
 
 /* The token in lower case, a new reference. Aborts unless telsxTokenOk. */

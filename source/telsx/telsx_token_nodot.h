@@ -1,4 +1,4 @@
-/* Token without dot: what event packages are named by.
+/* Token without dot: the name of an event package.
  *
  *     token-nodot = 1*(alphanum / "-" / "!" / "%" / "*" / "_" / "+" / "`" / "'" / "~")
  *
@@ -12,10 +12,10 @@
 
 RT_BEGIN
 
-/* Whether the text is a token nodot; the empty text is none. Null aborts. */
+/* Whether the text is a token without dot; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxTokenNodotOk( RT_STRING tokenNodot );
 
-/* The token nodot in lower case, a new reference. Aborts unless telsxTokenNodotOk. */
+/* The token in lower case, a new reference. Aborts unless telsxTokenNodotOk. */
 RT_API RT_STRING telsxTokenNodotNormalize( RT_STRING tokenNodot );
 
 RT_END

@@ -13,9 +13,8 @@ RT_BEGIN
 /* Whether the number is from 0 to 255. */
 RT_API RT_BOOL telsxTtlOk( int64_t ttl );
 
-/* For the library's own units. Encode gives the decimal digits, a new reference, and aborts unless
- * telsxTtlOk. TryDecode takes digits and nothing else and gives their value, -1 for bad text and for a number
- * that is not Ok. */
+/* For the library's own units. Encode returns the decimal digits, a new reference, and aborts unless telsxTtlOk.
+ * TryDecode accepts only digits and returns their value, or -1 for bad text and for a number that is not Ok. */
 RT_API RT_STRING telsx___TtlEncode( int64_t ttl );
 RT_API int64_t telsx___TtlTryDecode( const RT_CHAR *chs, int64_t length );
 

@@ -1,4 +1,4 @@
-/* User-Agent text: products, and a comment at its end.
+/* User-Agent text: products, with an optional comment at the end.
  *
  *     text = server-val *( LWS server-val )
  *     server-val = product / comment
@@ -12,8 +12,8 @@
 
 RT_BEGIN
 
-/* Whether the text is such a list. A comment takes the white space behind it along, so that it can only stand
- * at the end; white space at the end is refused. Null aborts. */
+/* Whether the text is such a list. A comment includes the white space after it, so that it can only stand at the end;
+ * white space at the end is refused. Aborts for null. */
 RT_API RT_BOOL telsxUserAgentOk( RT_STRING userAgent );
 
 RT_END

@@ -18,7 +18,7 @@ TELSX_OBJECT( Version, VERSION )
  * telsxProtocolNameOk and telsxProtocolVersionOk. */
 RT_API TELSX_VERSION telsxVersionCreate( RT_STRING protocolName, RT_STRING protocolVersion );
 
-/* The version SIP/2.0: one object for all, so this allocates nothing. Null before the module's start. */
+/* The version SIP/2.0. All callers share one object, so this allocates nothing. Null before the module is started. */
 RT_API TELSX_VERSION telsxVersionCreateSip20( void );
 
 /* Whether the name is SIP; whether it is SIP/2.0. */
@@ -33,8 +33,8 @@ RT_API void telsxVersionSetProtocolName( TELSX_VERSION *version, RT_STRING proto
 RT_API RT_STRING telsxVersionProtocolVersion( TELSX_VERSION version );
 RT_API void telsxVersionSetProtocolVersion( TELSX_VERSION *version, RT_STRING protocolVersion );
 
-/* For the library's own units. TryDecode takes the code points of one whole version and gives a new
- * reference, or null for bad text. Encode gives a text as SIP/2.0. */
+/* For the library's own units. TryDecode takes the code points of one whole version and returns a new reference, or
+ * null for bad text. Encode returns a text such as SIP/2.0. */
 RT_API TELSX_VERSION telsx___VersionTryDecode( const RT_CHAR *chs, int64_t length );
 RT_API RT_STRING telsx___VersionEncode( TELSX_VERSION version );
 RT_API void telsx___VersionStartup( void );

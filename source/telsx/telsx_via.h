@@ -24,8 +24,8 @@ TELSX_VALUE_OBJECT( Via, VIA )
 TELSX_COMPARE_FUNC( Via )
 TELSX_TO_STRING_FUNC( Via )
 
-/* A Via with these fields and nothing else; the dummy is of transport UDP and host localhost. They abort for
- * a null version and unless telsxTransportOk, telsxHostOk and telsxPortOk. */
+/* A Via with these fields and nothing else; the dummy has transport UDP and host localhost. They abort for a null
+ * version, and unless telsxTransportOk, telsxHostOk and telsxPortOk. */
 RT_API TELSX_VIA telsxViaCreate( TELSX_VERSION version, RT_STRING transport, RT_STRING host );
 RT_API TELSX_VIA telsxViaCreateWithPort( TELSX_VERSION version, RT_STRING transport, RT_STRING host,
                                          int64_t port );
@@ -39,8 +39,8 @@ RT_API void telsxViaSetVersion( TELSX_VIA *via, TELSX_VERSION version );
 RT_API RT_STRING telsxViaTransport( TELSX_VIA via );
 RT_API void telsxViaSetTransport( TELSX_VIA *via, RT_STRING transport );
 
-/* The host that sent the message, never null, and its port, -1 if there is none. Set aborts unless
- * telsxHostOk and telsxPortOk. */
+/* The host that sent the message, never null, and its port, or -1 if there is none. SetHost aborts unless telsxHostOk,
+ * and SetPort unless telsxPortOk. */
 RT_API RT_STRING telsxViaHost( TELSX_VIA via );
 RT_API void telsxViaSetHost( TELSX_VIA *via, RT_STRING host );
 RT_API int64_t telsxViaPort( TELSX_VIA via );
@@ -48,7 +48,7 @@ RT_API RT_BOOL telsxViaHasPort( TELSX_VIA via );
 RT_API void telsxViaSetPort( TELSX_VIA *via, int64_t port );
 RT_API void telsxViaDelPort( TELSX_VIA *via );
 
-/* The time to live of a multicast packet, -1 if there is none. Set aborts unless telsxTtlOk. */
+/* The time to live of a multicast packet, or -1 if there is none. Set aborts unless telsxTtlOk. */
 RT_API int64_t telsxViaTtl( TELSX_VIA via );
 RT_API RT_BOOL telsxViaHasTtl( TELSX_VIA via );
 RT_API void telsxViaSetTtl( TELSX_VIA *via, int64_t ttl );
@@ -66,14 +66,14 @@ RT_API RT_BOOL telsxViaHasReceived( TELSX_VIA via );
 RT_API void telsxViaSetReceived( TELSX_VIA *via, NET_ADDRESS received );
 RT_API void telsxViaDelReceived( TELSX_VIA *via );
 
-/* The branch, with its case, or null. Set aborts unless telsxBranchOk. */
+/* The branch, in its original case, or null. Set aborts unless telsxBranchOk. */
 RT_API RT_STRING telsxViaBranch( TELSX_VIA via );
 RT_API RT_BOOL telsxViaHasBranch( TELSX_VIA via );
 RT_API void telsxViaSetBranch( TELSX_VIA *via, RT_STRING branch );
 RT_API void telsxViaDelBranch( TELSX_VIA *via );
 
-/* The port that the message came from: rport with a value, rport without one, or none at all. The number is
- * -1 unless there is a value; each setter ends the other form. SetRportNumeric aborts unless telsxPortOk. */
+/* The port that the message came from: rport with a value, rport without a value, or no rport at all. The number is -1
+ * unless there is a value. Each setter replaces the other form. SetRportNumeric aborts unless telsxPortOk. */
 RT_API int64_t telsxViaRportNumeric( TELSX_VIA via );
 RT_API RT_BOOL telsxViaHasRport( TELSX_VIA via );
 RT_API RT_BOOL telsxViaHasRportNumeric( TELSX_VIA via );
@@ -82,8 +82,8 @@ RT_API void telsxViaSetRportNumeric( TELSX_VIA *via, int64_t rport );
 RT_API void telsxViaSetRportEmpty( TELSX_VIA *via );
 RT_API void telsxViaDelRport( TELSX_VIA *via );
 
-/* All other parameters, never null; a field wins over a parameter of its name when the value is written. Set
- * aborts for null. */
+/* All other parameters, never null. When the value is written, a field takes precedence over a parameter of its name.
+ * Set aborts for null. */
 RT_API TELSX_GENERIC_PARAMS telsxViaGenericParams( TELSX_VIA via );
 RT_API void telsxViaSetGenericParams( TELSX_VIA *via, TELSX_GENERIC_PARAMS genericParams );
 

@@ -1,4 +1,4 @@
-/* Warn agent: who adds a Warning value.
+/* Warn agent: who added a Warning value.
  *
  *     warn-agent = hostport / pseudonym
  *     pseudonym = token
@@ -11,10 +11,10 @@
 
 RT_BEGIN
 
-/* Whether the text is a warn agent; the empty text is none. Null aborts. */
+/* Whether the text is a warn agent; the empty text is not one. Aborts for null. */
 RT_API RT_BOOL telsxWarnAgentOk( RT_STRING warnAgent );
 
-/* How many code points at the start of the text are a pseudonym (see telsx_skip.h, where telsx___SkipWarnAgent is). */
+/* How many code points at the start of the text form a pseudonym (see telsx_skip.h, where telsx___SkipWarnAgent is). */
 RT_API int64_t telsx___SkipPseudonym( const RT_CHAR *chs, int64_t length );
 
 RT_END

@@ -13,14 +13,14 @@ RT_BEGIN
 TELSX_VALUE_OBJECT( WarningValue, WARNING_VALUE )
 TELSX_COMPARE_FUNC( WarningValue )
 
-/* A warning with the usual text of the code, or with one of the caller's. They abort unless
- * telsxWarnCodeOk, telsxWarnAgentOk and telsxWarnTextOk. */
+/* A warning with the usual text of the code, or with a text of the caller's. They abort unless telsxWarnCodeOk,
+ * telsxWarnAgentOk and telsxWarnTextOk. */
 RT_API TELSX_WARNING_VALUE telsxWarningValueCreate( int64_t warnCode, RT_STRING warnAgent );
 RT_API TELSX_WARNING_VALUE telsxWarningValueCreateWithWarnText( int64_t warnCode, RT_STRING warnAgent,
                                                                 RT_STRING warnText );
 
-/* The code, 0 to 999; one below 100 is written without leading zeros and can't be read again. Set also
- * puts in the usual text of the code unless updateWarnText is 0; it aborts unless telsxWarnCodeOk. */
+/* The code, 0 to 999; a code below 100 is written without leading zeros and can't be read again. Set also sets the
+ * usual text of the code unless updateWarnText is 0; it aborts unless telsxWarnCodeOk. */
 RT_API int64_t telsxWarningValueWarnCode( TELSX_WARNING_VALUE wv );
 RT_API void telsxWarningValueSetWarnCode( TELSX_WARNING_VALUE *wv, int64_t warnCode, RT_BOOL updateWarnText );
 
