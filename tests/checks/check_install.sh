@@ -35,7 +35,8 @@ export PKG_CONFIG_PATH=$libraries/pkgconfig
 ! readelf -d "$scratch/consumer" | grep -E 'NEEDED.*(telsx|corvane)' | grep -vE '\.so\.[0-9]+\]' ||
     fail "the program needs libraries without a version"
 
-cmake -S "$root/tests/install" -B "$scratch/build" -D "CMAKE_CXX_COMPILER=$cxx" -D "CMAKE_PREFIX_PATH=$PWD" \
+cmake -G "${CMAKE_GENERATOR:-Ninja}" -S "$root/tests/install" -B "$scratch/build" \
+    -D "CMAKE_CXX_COMPILER=$cxx" -D "CMAKE_PREFIX_PATH=$PWD" \
     -D "VERSION=$( pkg-config --modversion telsx )" >"$scratch/log" &&
     cmake --build "$scratch/build" >>"$scratch/log" || { cat "$scratch/log"; exit 1; }
 "$scratch/build/consumer" || fail "the program in C++ exits with $?"
