@@ -18,7 +18,7 @@ done
 mv "$scratch/first" "$scratch/moved"
 cd "$scratch/moved/usr"
 
-! grep -rlF -e "$root" -e "$scratch" . || fail "these files name a folder of the build"
+! grep -rlF -e "$root/source" -e "$root/build" -e "$3" -e "$scratch" . || fail "these files name a folder of the build"
 diff <( cd "$root/source" && printf 'include/corvane/%s\n' */*.{h,def} $( ls telsx/telsx.hpp 2>/dev/null ) | sort ) \
     --label "public headers" <( find include -type f | sort ) || fail "these headers differ"
 libraries=$( dirname "$( find "$PWD" -name libtelsx.so )" )
