@@ -38,14 +38,14 @@ unit header_unsupported header_x_set 's/HeaderUnsupported/HeaderXSet/g; s/HEADER
 at_most 50 header_x_set
 unit header_route header_x_list 's/HeaderRoute/HeaderXList/g; s/HEADER_ROUTE/HEADER_X_LIST/g; s/header_route/header_x_list/g; s/"Route"/"X-List"/'
 at_most 50 header_x_list
-unit route x_value 's/telsx_route/telsx_x_value/g; s/TELSX_ROUTE/TELSX_X_VALUE/g; s/ROUTE\b/X_VALUE/g; s/Route\b/XValue/g; s/Route\([A-Z]\)/XValue\1/g; s/telsxRoute/telsxXValue/g; s/\broute\b/value/g'
+unit alert_info x_value 's/telsx_alert_info/telsx_x_value/g; s/ALERT_INFO/X_VALUE/g; s/AlertInfo/XValue/g; s/alertInfo/xValue/g'
 sed -i 's/^RT_END$/\/* How many code points at the start of the text are such a value (see telsx_skip.h). *\/\nRT_API int64_t telsx___SkipXValue( const RT_CHAR *chs, int64_t length );\n\n&/' "$units/telsx_x_value.h"
 cat >>"$units/telsx_x_value.cpp" <<'EOF'
 
 int64_t telsx___SkipXValue( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return telsx___SkipRoute( chs, length );
+    return telsx___SkipAlertInfo( chs, length );
 }
 EOF
 at_most 110 x_value
@@ -55,17 +55,17 @@ at_most 50 header_x_values
 before '^#undef TELSX_KIND_OF_FIELDS' "$units/telsx_headers.def" 'TELSX_KIND_OF_VALUES( HeaderXList, HEADER_X_LIST, "X-List", Route, Route )\
 TELSX_KIND_OF_SET( HeaderXSet, HEADER_X_SET, "X-Set", OptionTag )\
 TELSX_KIND_OF_VALUES( HeaderXValues, HEADER_X_VALUES, "X-Values", XValue, XValue )'
-echo 'TELSX_VALUE( XValue, X_VALUE, TELSX_TEXT( XValue, Iri, Iri ) TELSX_OPTIONAL_TEXT( XValue, DisplayName, DisplayName ) TELSX_PARAMS( XValue ) )' >>"$units/telsx_values.def"
+echo 'TELSX_VALUE( XValue, X_VALUE, TELSX_TEXT( XValue, Iri, Iri ) TELSX_PARAMS( XValue ) )' >>"$units/telsx_values.def"
 cat >>tests/telsx/rows_headers.def <<'EOF'
 { "X-Set", "", { "b,a" }, { { "B", "b" } }, { "a b" } },
 { "X-List", "", { "<sip:a;lr>" }, {}, { "a" } },
 { "X-Values", "", { "<sip:a>;x=1" }, {}, { "a" } },
 EOF
-echo '{ "XValue", "", { "<sip:a>", "\"A\" <sip:a>;x" }, { { "A<sip:a>", "\"A\" <sip:a>" } }, { "", "a", "<sip:a>;" } },' >>tests/telsx/rows_values.def
+echo '{ "XValue", "", { "<sip:a>", "<sip:a>;x" }, { { " <sip:a> ;X", "<sip:a>;x" } }, { "", "a", "<sip:a>;" } },' >>tests/telsx/rows_values.def
 after '^| Unsupported |' docs/headers.md '| X-Set | a set (RFC 3261) | lower | `OptionTag` |'
 after '^| Warning |' docs/headers.md '| X-List | a list (RFC 3261) | `TELSX_ROUTE` | `Route` |\
 | X-Values | a list of new values (RFC 3261) | `TELSX_X_VALUE` | `XValue` |'
-after '^| `TELSX_WARNING_VALUE` |' docs/headers.md '| `TELSX_X_VALUE` | a value | `Iri`, `DisplayName`?, `GenericParams` |'
+after '^| `TELSX_WARNING_VALUE` |' docs/headers.md '| `TELSX_X_VALUE` | a value | `Iri`, `GenericParams` |'
 echo '- The headers X-Set, X-List and X-Values.' >>CHANGELOG.md
 
 scripts/abi names >names.log 2>&1 || { tail -40 names.log; exit 1; }
