@@ -3,40 +3,72 @@
 #include "offers.hpp"
 #include "responses.hpp"
 
-int Calls::tick()
+Clock::time_point Calls::tick()
 {
     auto now = Clock::now();
-    while ( !ends.empty() && now >= ends.begin()->first )
-        forgetFirst();
-    if ( now < nextWalk )
-        return 20;
-    nextWalk = now + 20ms;
-    for ( auto &[key, invite] : invites )
+    for ( Agenda &agenda : ends )
+        while ( !agenda.empty() && now >= agenda.begin()->first )
+            forget( agenda.begin()->second );
+    // Some of what is due; then it is the turn of what has come meanwhile.
+    for ( int i = 0; i < 100 && !dues.empty() && now >= dues.begin()->first; ++i )
     {
-        if ( now >= invite.due && !invite.final )
+        uint64_t key = dues.begin()->second;
+        Invite &invite = invites.find( key )->second;
+        if ( !invite.final )
             finish( key, invite, true );
-        else if ( now >= invite.due )
+        else
         {
             network.send( invite.peer, invite.response );
             invite.pause = std::min<Clock::duration>( 2 * invite.pause, 4s );
-            invite.due = now + invite.pause;
+            schedule( key, invite, now + invite.pause );
         }
     }
-    return invites.empty() ? 1000 : 20;
+    auto next = now + 1h;
+    for ( const Agenda *agenda : { &dues, &ends[false], &ends[true] } )
+        if ( !agenda->empty() )
+            next = std::min( next, agenda->begin()->first );
+    return next;
 }
 
-void Calls::keep( uint64_t key, Call &call, Clock::duration time )
+// Whether there is no place for another INVITE, of the call or, without one, of a new call. Calls that are over
+// give way, and no others do.
+bool Calls::full( const Call *call )
 {
-    ends.erase( { call.end, key } );
+    if ( !call && calls.size() >= maxCalls && !ends[true].empty() )
+        forget( ends[true].begin()->second );
+    return ( !call && calls.size() >= maxCalls ) || invites.size() >= maxInvites || bytes >= maxBytes;
+}
+
+void Calls::keep( uint64_t key, Call &call, bool over, Clock::duration time )
+{
+    ends[call.over].erase( { call.end, key } );
+    call.over = over;
     call.end = Clock::now() + time;
-    ends.emplace( call.end, key );
+    ends[over].emplace( call.end, key );
 }
 
-void Calls::forgetFirst()
+void Calls::forget( uint64_t key )
 {
-    invites.erase( ends.begin()->second );
-    calls.erase( ends.begin()->second );
-    ends.erase( ends.begin() );
+    auto call = calls.find( key );
+    ends[call->second.over].erase( { call->second.end, key } );
+    calls.erase( call );
+    forget( invites.find( key ) );
+}
+
+void Calls::forget( Invites::iterator invite )
+{
+    if ( invite == invites.end() )
+        return;
+    dues.erase( { invite->second.due, invite->first } );
+    bytes -= invite->second.bytes;
+    invites.erase( invite );
+}
+
+void Calls::schedule( uint64_t key, Invite &invite, Clock::time_point due )
+{
+    dues.erase( { invite.due, key } );
+    invite.due = due;
+    dues.emplace( due, key );
 }
 
 // The call of the request: for one without a tag in To, the call that it began.
@@ -81,21 +113,19 @@ Message Calls::respondInDialog( const Request &request, int64_t statusCode )
     Owned contacts( telsxHeaderContactCreate() );
     telsxHeaderContactAppendContact( contacts.address(), contact.get() );
     telsxHeaderContactEncodeToMessage( contacts.get(), response.address() );
-    addAllow( response );
     return response;
 }
 
 void Calls::invite( Request &request )
 {
-    // First those that are over and those that nobody acknowledges, which one sender may make many of, then
-    // the oldest.
-    while ( invites.size() >= maxInvites || calls.size() >= maxCalls )
-        forgetFirst();
     auto pending = invites.find( request.key );
     Call *call = find( request );
     bool again = call && call->transaction == request.transaction;
     if ( again && pending != invites.end() )
-        return network.send( pending->second.peer, pending->second.response );
+    {
+        pending->second.peer = request.peer; // it may come by a new connection
+        return network.send( request.peer, pending->second.response );
+    }
     if ( again )
         return; // a late copy of one that is acknowledged
     if ( call && request.tag.empty() )
@@ -104,45 +134,55 @@ void Calls::invite( Request &request )
         return;
     if ( pending != invites.end() )
         return answer( request, refuseForNow( request, 500, 5 ) ); // one after the other (RFC 3261, 14.2)
-
-    if ( hasBody( request ) && !hasSession( request ) )
-        return answer( request, 415 );
-    std::optional<std::string> streams = answerTo( request );
-    if ( !streams )
-        return answer( request, 400 );
+    Answer session = answerTo( request );
+    if ( session.statusCode )
+        return answer( request, session.statusCode );
+    if ( full( call ) )
+        return answer( request, refuseForNow( request, 503, 10 ) );
 
     if ( !call )
-    {
         request.random = randomNumber();
+    Message response = respondInDialog( request, 200 );
+    addCapabilities( response );
+    addSession( response, address, request.key >> 1, call ? call->version + 1 : 1, session.text );
+    Invite next = { request.number, request.peer, encode( respondInDialog( request, 180 ) ),
+                    encode( response ) };
+    if ( request.datagram && next.taken.size() > Network::maxDatagram )
+        return answer( request, 500 );
+    next.bytes = next.response.size() + next.taken.size();
+    bytes += next.bytes;
+    if ( !call )
         call = &( calls[request.key] = { request.caller, request.random } );
-    }
     call->transaction = request.transaction;
     call->number = request.number;
-    keep( request.key, *call, ringTime + patience );
-    Message taken = respondInDialog( request, 200 );
-    addSession( taken, address, request.key >> 1, ++call->version, *streams );
-    Invite &next = invites[request.key];
-    next.number = request.number;
-    next.peer = request.peer;
-    next.response = encode( respondInDialog( request, 180 ) );
-    next.taken = encode( taken );
-    next.cancelled = encode( respond( request, 487 ) );
-    next.due = Clock::now() + ringTime;
+    ++call->version;
+    keep( request.key, *call, false, ringTime + patience );
+    Invite &invite = invites[request.key] = std::move( next );
     if ( !request.tag.empty() )
-        return finish( request.key, next, true ); // a change of the session doesn't ring
+        return finish( request.key, invite, true ); // a change of the session doesn't ring
+    schedule( request.key, invite, Clock::now() + ringTime );
     answer( request, 100 );
-    network.send( next.peer, next.response );
+    network.send( invite.peer, invite.response );
 }
 
 void Calls::finish( uint64_t key, Invite &invite, bool taken )
 {
-    invite.response = std::move( taken ? invite.taken : invite.cancelled );
+    if ( taken )
+        invite.response = std::move( invite.taken );
+    else
+    {
+        // The 180 with another status code, and without what makes a dialog.
+        Message response( telsxMessageTryDecode( toBuffer( invite.response ).get() ) );
+        telsxMessageSetResponseStatusCode( response.address(), 487, true );
+        telsxHeaderContactRemoveFromMessage( response.address() );
+        telsxHeaderRecordRouteRemoveFromMessage( response.address() );
+        invite.response = encode( response );
+    }
     invite.final = true;
-    // A connection loses nothing, but behind it a 200 may be on its way by UDP.
+    // A connection loses nothing, but after it a 200 may be on its way by UDP.
     bool again = taken || invite.peer.connection == 0;
-    invite.due = again ? Clock::now() + invite.pause : Clock::time_point::max();
-    calls[key].over = !taken;
-    keep( key, calls[key], patience );
+    schedule( key, invite, again ? Clock::now() + invite.pause : Clock::time_point::max() );
+    keep( key, calls[key], !taken, patience );
     network.send( invite.peer, invite.response );
 }
 
@@ -152,9 +192,9 @@ void Calls::acknowledge( const Request &request )
     Call *call = request.tag.empty() ? nullptr : find( request );
     if ( !call || at == invites.end() || at->second.number != request.number || !at->second.final )
         return;
-    invites.erase( at );
+    forget( at );
     if ( !call->over )
-        keep( request.key, *call, 24h );
+        keep( request.key, *call, false, maxTime );
 }
 
 void Calls::cancel( Request &request )
@@ -175,8 +215,6 @@ void Calls::bye( const Request &request )
     auto pending = invites.find( request.key );
     if ( pending != invites.end() && !pending->second.final )
         return finish( request.key, pending->second, false );
-    if ( pending != invites.end() )
-        invites.erase( pending );
-    calls[request.key].over = true;
-    keep( request.key, calls[request.key], patience );
+    forget( pending );
+    keep( request.key, calls[request.key], true, patience );
 }

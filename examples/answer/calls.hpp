@@ -25,26 +25,33 @@ public:
     bool follows( const Request &request );
 
     // Takes the calls that have rung for long enough and sends final responses again that nobody has
-    // acknowledged (RFC 3261, 13.3.1.4 and 17.2.1). Returns in how many milliseconds it is to be called again.
-    int tick();
+    // acknowledged (RFC 3261, 13.3.1.4 and 17.2.1). Returns when it is to be called again.
+    Clock::time_point tick();
 
 private:
-    static constexpr std::size_t maxInvites = 2000, maxCalls = 20000;
+    // INVITEs without an ACK and the bytes of their responses; calls. When all places are taken, new calls are
+    // refused for now.
+    static constexpr std::size_t maxInvites = 50000, maxBytes = 128 << 20, maxCalls = 200000;
     static constexpr Clock::duration t1 = 500ms, patience = 64 * t1; // RFC 3261, 17.1.1.1
+    static constexpr Clock::duration maxTime = 24h;                  // of a call
+
+    // What is due, by time, with the key of the call.
+    using Agenda = std::set<std::pair<Clock::time_point, uint64_t>>;
 
     // An INVITE until its ACK. Its responses are kept as bytes, which are smaller than what they are made from.
     struct Invite
     {
         int64_t number;
         Peer peer;
-        std::string response;         // the last one that was sent
-        std::string taken, cancelled; // what the final one may be
-        Clock::time_point due;        // when it is taken, then when the response is sent again
+        std::string response, taken; // the last one that was sent, and the 200
+        std::size_t bytes = 0;       // of both
+        Clock::time_point due = {};  // when it is taken, then when the response is sent again
         Clock::duration pause = t1;
         bool final = false;
     };
+    using Invites = std::map<uint64_t, Invite>;
 
-    // A call from its INVITE on and a while beyond its BYE, since that may come twice.
+    // A call from its INVITE on and a while after its BYE, since that may come twice.
     struct Call
     {
         uint64_t caller, random;  // as in its first INVITE
@@ -55,9 +62,12 @@ private:
         Clock::time_point end = {}; // when it is forgotten
     };
 
-    void keep( uint64_t key, Call &call, Clock::duration time );
-    void forgetFirst();
+    bool full( const Call *call );
     Call *find( const Request &request );
+    void keep( uint64_t key, Call &call, bool over, Clock::duration time );
+    void forget( uint64_t key );
+    void forget( Invites::iterator invite );
+    void schedule( uint64_t key, Invite &invite, Clock::time_point due );
     Message respondInDialog( const Request &request, int64_t statusCode );
     void finish( uint64_t key, Invite &invite, bool taken );
     void answer( const Request &request, const Message &response );
@@ -66,8 +76,9 @@ private:
     Network &network;
     SocketAddress address;
     std::chrono::milliseconds ringTime;
-    std::map<uint64_t, Invite> invites;
+    Invites invites;
+    std::size_t bytes = 0; // of the responses that they keep
+    Agenda dues;           // of the INVITEs
     std::map<uint64_t, Call> calls;
-    std::set<std::pair<Clock::time_point, uint64_t>> ends; // of the calls
-    Clock::time_point nextWalk = {};                       // over the INVITEs
+    Agenda ends[2]; // of the calls, and of those that are over
 };

@@ -1,74 +1,119 @@
 #include "offers.hpp"
 
+#include <map>
 #include <sstream>
+#include <vector>
 
 #include <strings.h>
+
+#include "responses.hpp"
 
 namespace
 {
 
-// The times and streams with which to answer an offer (RFC 3264, 6); nothing if it is bad. The first stream of
-// sound in PCMU is taken, without sound, and all others are refused.
-std::optional<std::string> answerToOffer( const std::string &offer )
+const char events[] = "telephone-event/8000";
+
+struct Stream
+{
+    std::string media, port, protocol;
+    std::vector<std::string> formats;
+    std::map<std::string, std::string> codecs = { { "0", "PCMU/8000" }, { "8", "PCMA/8000" } }; // by format
+};
+
+// The answer to a stream, with those of its formats that are understood; empty if there is no sound in them.
+std::string take( const Stream &stream )
+{
+    std::string formats, lines;
+    bool sound = false;
+    for ( const std::string &format : stream.formats )
+    {
+        auto codec = stream.codecs.find( format );
+        for ( const char *known : { "PCMU/8000", "PCMA/8000", events } )
+        {
+            if ( codec == stream.codecs.end() || strcasecmp( codec->second.c_str(), known ) != 0 )
+                continue;
+            sound |= known != events;
+            formats += ' ' + format;
+            if ( format != "0" && format != "8" )
+                lines += "a=rtpmap:" + format + ' ' + known + "\r\n";
+        }
+    }
+    bool fits = sound && stream.media == "m=audio" && stream.port != "0" && stream.protocol == "RTP/AVP";
+    return fits ? "m=audio 9 RTP/AVP" + formats + "\r\n" + lines + "a=inactive\r\n" : "";
+}
+
+std::string refuseStream( const Stream &stream )
+{
+    std::string line = stream.media + " 0 " + stream.protocol;
+    for ( const std::string &format : stream.formats )
+        line += ' ' + format;
+    return line + "\r\n";
+}
+
+Answer answerToOffer( const std::string &offer )
 {
     std::istringstream lines( offer );
-    std::string line, result;
-    bool taken = false;
-    while ( std::getline( lines, line ) )
+    std::string times;
+    std::vector<Stream> streams;
+    for ( std::string line; std::getline( lines, line ); )
     {
         std::istringstream words( line );
-        std::string first, port, protocol, format, formats;
-        words >> first >> port >> protocol;
+        std::string first, second, third;
+        words >> first >> second >> third;
         if ( first.rfind( "t=", 0 ) == 0 )
-            result.append( first ).append( 1, ' ' ).append( port ).append( "\r\n" );
-        if ( first.rfind( "m=", 0 ) != 0 )
-            continue;
-        bool fits = false;
-        for ( ; words >> format; formats += ' ' + format )
-            fits |= format == "0";
-        if ( formats.empty() )
-            return std::nullopt;
-        fits = fits && !taken && first == "m=audio" && port != "0" && protocol == "RTP/AVP";
-        taken |= fits;
-        if ( fits )
-            result.append( "m=audio 9 RTP/AVP 0\r\na=inactive\r\n" );
-        else
-            result.append( first ).append( " 0 " ).append( protocol ).append( formats ).append( "\r\n" );
+            times += first + ' ' + second + "\r\n";
+        else if ( first.rfind( "m=", 0 ) == 0 )
+        {
+            streams.push_back( { first, second, third, {} } );
+            while ( words >> first )
+                streams.back().formats.push_back( first );
+            if ( streams.back().formats.empty() )
+                return { 400 };
+        }
+        else if ( first.rfind( "a=rtpmap:", 0 ) == 0 && !streams.empty() )
+        {
+            if ( second.size() > 2 && second.compare( second.size() - 2, 2, "/1" ) == 0 )
+                second.resize( second.size() - 2 ); // one channel, which need not be said
+            streams.back().codecs[first.substr( 9 )] = second;
+        }
     }
-    bool good = offer.rfind( "v=0", 0 ) == 0 && result.rfind( "t=", 0 ) == 0;
-    return good ? std::optional( result ) : std::nullopt;
+    if ( offer.rfind( "v=0", 0 ) != 0 || times.empty() )
+        return { 400 };
+
+    Answer answer{ 0, times };
+    bool wanted = false, taken = false;
+    for ( const Stream &stream : streams )
+    {
+        std::string text = taken ? "" : take( stream );
+        wanted |= stream.port != "0";
+        taken |= !text.empty();
+        answer.text += text.empty() ? refuseStream( stream ) : text;
+    }
+    return wanted && !taken ? Answer{ 488 } : answer;
 }
 
 } // namespace
 
-std::optional<std::string> answerTo( const Request &request )
-{
-    if ( !hasBody( request ) )
-        return "t=0 0\r\nm=audio 9 RTP/AVP 0\r\na=inactive\r\n";
-    return answerToOffer( toBytes( Owned( telsxMessageBody( request.message.get() ) ) ) );
-}
-
-bool hasBody( const Request &request )
+Answer answerTo( const Request &request )
 {
     Owned body( telsxMessageBody( request.message.get() ) );
-    return body && rtBufferLength( body.get() ) > 0;
-}
-
-// There is no type for Content-Type: its line is read and set as it is. (Another body is refused even if
-// Content-Disposition says that it is optional.)
-bool hasSession( const Request &request )
-{
+    if ( !body || rtBufferLength( body.get() ) == 0 )
+        return {
+            0, "t=0 0\r\nm=audio 9 RTP/AVP 0 8 101\r\na=rtpmap:101 telephone-event/8000\r\na=inactive\r\n"
+        };
+    // There is no type for Content-Type: its line is read and set as it is. (Another body is refused even if
+    // Content-Disposition says that it is optional.)
     Owned header( telsxMessageHeaderCstr( request.message.get(), "Content-Type", -1 ) );
     std::string type = header ? toUtf8( Owned( telsxMessageHeaderLastLine( header.get() ) ) ) : "";
-    return strcasecmp( type.substr( 0, type.find_first_of( "; \t" ) ).c_str(), "application/sdp" ) == 0;
+    if ( strcasecmp( type.substr( 0, type.find_first_of( "; \t" ) ).c_str(), "application/sdp" ) != 0 )
+        return { 415 };
+    return answerToOffer( toBytes( body ) );
 }
 
 void addSession( Message &response, const SocketAddress &address, uint64_t id, int64_t version,
                  const std::string &streams )
 {
-    Owned type( telsxMessageHeaderCreateCstr( "Content-Type", -1 ) );
-    telsxMessageHeaderAppendLineCstr( type.address(), "application/sdp", -1 );
-    telsxMessageSetHeader( response.address(), type.get() );
+    setLine( response, "Content-Type", toString( "application/sdp" ) );
     std::string host = ( address.isV6() ? "IN IP6 " : "IN IP4 " ) + address.host();
     std::string session = "v=0\r\no=answer " + std::to_string( id ) + ' ' + std::to_string( version ) + ' '
                           + host + "\r\ns=-\r\nc=" + host + "\r\n" + streams;

@@ -1,17 +1,17 @@
 // Session descriptions: answers to offers (RFC 3264, 6), and how they stand in a message.
 #pragma once
 
-#include <optional>
-
 #include "requests.hpp"
 
-// The times and streams with which to answer the offer in the request, or to make one if it has none; nothing
-// if the offer is bad. The first stream of sound in PCMU is taken, without sound, and all others are refused.
-std::optional<std::string> answerTo( const Request &request );
+struct Answer
+{
+    int64_t statusCode = 0; // with which to refuse the offer, or 0
+    std::string text = {};  // the times and streams
+};
 
-// Whether the request has a body, and whether that is a session description.
-bool hasBody( const Request &request );
-bool hasSession( const Request &request );
+// The answer to the offer in the request, or an offer if it has none. The first stream of sound in PCMU or PCMA
+// is taken, without sound, and all others are refused; with no stream that can be taken the offer is.
+Answer answerTo( const Request &request );
 
 void addSession( Message &response, const SocketAddress &address, uint64_t id, int64_t version,
                  const std::string &streams );

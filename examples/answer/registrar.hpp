@@ -1,4 +1,4 @@
-// A registrar (RFC 3261, 10.3). Of a contact it gives back its address and until when it holds; addresses are the
+// A registrar (RFC 3261, 10.3). Of a contact it gives back its address and until when it holds; contacts are the
 // same if their texts are, not by the rules of RFC 3261, 19.1.4.
 #pragma once
 
@@ -13,8 +13,12 @@ public:
     Message bind( const Request &request );
 
 private:
-    static constexpr std::size_t maxRegistrations = 500, maxContacts = 10; // of one
-    static constexpr int64_t maxExpires = 3600;                            // seconds
+    // Places for addresses of record, of all and of one sender, whose oldest one gives way to its newest one.
+    static constexpr std::size_t maxRegistrations = 10000, maxOfSource = 1000;
+    static constexpr std::size_t maxContacts = 5,
+                                 maxLength = 200; // of an address of record; bytes of an address
+    static constexpr std::size_t maxGrowth = 5;   // a datagram's response is so many times its length at most
+    static constexpr int64_t maxExpires = 3600;   // seconds
 
     // A contact, by the last request that has bound it, and until when it holds.
     struct Binding
@@ -23,13 +27,26 @@ private:
         int64_t number = -1;
         Clock::time_point end = {};
     };
+    using Contacts = std::map<std::string, Binding>;
 
-    // The contacts of an address; the end is not before theirs.
     struct Registration
     {
-        std::map<std::string, Binding> contacts;
-        Clock::time_point end;
+        Contacts contacts;
+        Clock::time_point end; // of the last contact
+        std::string source;    // of the last request
+        uint64_t age;          // in the order of these
     };
+    using Registrations = std::map<std::string, Registration>;
 
-    std::map<std::string, Registration> registrations; // by the address in To
+    // Puts what the request binds or takes away into the contacts; returns the status code of the response.
+    static int64_t change( const Request &request, Contacts &contacts, Clock::time_point now );
+    // False if there is no place.
+    bool keep( const std::string &who, Contacts contacts, const std::string &source );
+    void forget( Registrations::iterator at );
+    void forgetEnded( Clock::time_point now );
+
+    Registrations registrations;                                    // by address of record
+    std::map<std::string, std::map<uint64_t, std::string>> sources; // their addresses of record, by age
+    uint64_t lastAge = 0;
+    Clock::time_point nextSweep = {};
 };

@@ -30,6 +30,7 @@ std::string noteSource( Owned<TELSX_HEADER_VIA> &vias, Peer &peer )
         telsxViaSetRportNumeric( top.address(), peer.address.port() );
     else if ( peer.connection == 0 )
         peer.address.setPort( port );
+    peer.port = port;
     telsxHeaderViaSetViaAt( vias.address(), 0, top.get() );
     return ( branch ? toUtf8( branch ) : "" ) + '\n' + toUtf8( sender ) + '\n' + std::to_string( port );
 }
@@ -49,12 +50,12 @@ std::string toTag( uint64_t key, uint64_t random )
     return std::to_string( key ) + '-' + std::to_string( random );
 }
 
-std::optional<Request> toRequest( Message message, const Peer &peer )
+std::optional<Request> toRequest( Arrival arrival )
 {
-    if ( !telsxMessageIsRequest( message.get() ) )
+    TELSX_MESSAGE handle = arrival.message.get();
+    if ( !telsxMessageIsRequest( handle ) )
         return std::nullopt; // this side sends no requests, so nothing waits for it
-    TELSX_MESSAGE handle = message.get();
-    Request request{ std::move( message ), peer };
+    Request request{ std::move( arrival.message ), arrival.peer, arrival.datagram, arrival.statusCode };
     request.vias = Owned( telsxHeaderViaTryDecodeFromMessage( handle ) );
     request.from = Owned( telsxHeaderFromTryDecodeFromMessage( handle ) );
     request.to = Owned( telsxHeaderToTryDecodeFromMessage( handle ) );

@@ -9,6 +9,8 @@ struct Request
 {
     Message message;
     Peer peer = {};
+    std::size_t datagram = 0;             // its bytes, 0 if it came by a connection
+    int64_t statusCode = 0;               // with which the transport refuses it, or 0
     std::string method = {}, scheme = {}; // the scheme is that of the Request-URI
     Owned<TELSX_HEADER_VIA> vias = {};
     Owned<TELSX_HEADER_FROM> from = {};
@@ -23,7 +25,7 @@ struct Request
 };
 
 // Nothing for a response and for a request whose Via, From, To or Call-Id is bad or missing.
-std::optional<Request> toRequest( Message message, const Peer &peer );
+std::optional<Request> toRequest( Arrival arrival );
 
 uint64_t randomNumber();
 

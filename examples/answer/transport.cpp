@@ -15,11 +15,40 @@ namespace
 bool bindTo( const SocketAddress &address, int type, Descriptor &to )
 {
     to = Descriptor( socket( address.any.sa_family, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0 ) );
-    int on = 1;
+    int on = 1, room = 8 << 20;
     // So that a new process can have the port whose last connections the system still remembers.
     if ( type == SOCK_STREAM )
         setsockopt( to.get(), SOL_SOCKET, SO_REUSEADDR, &on, sizeof on );
+    // What comes while this side is busy waits, as much as the system allows (net.core.rmem_max).
+    else
+        setsockopt( to.get(), SOL_SOCKET, SO_RCVBUF, &room, sizeof room );
     return bind( to.get(), &address.any, address.length() ) == 0;
+}
+
+// Of a message that can't be decoded, the start line and what a response takes over, so that the sender can be told;
+// null if that can't be read either.
+Message decodeForRefusal( std::string_view bytes )
+{
+    std::string kept;
+    bool keeps = true; // the start line; then the lines of these headers and those that continue them
+    for ( std::size_t end; ( end = bytes.find( "\r\n" ) ) != bytes.npos; bytes.remove_prefix( end + 2 ) )
+    {
+        std::string_view line = bytes.substr( 0, end + 2 );
+        if ( line.size() == 2 && !kept.empty() )
+            break;
+        if ( !kept.empty() && line[0] != ' ' && line[0] != '\t' )
+        {
+            String name = toString( line.substr( 0, line.find_first_of( ": \t" ) ) );
+            keeps = name && telsxMessageHeaderNameOk( name.get() );
+            std::string normal =
+                keeps ? toUtf8( Owned( telsxMessageHeaderNameNormalize( name.get() ) ) ) : "";
+            keeps = normal == "Via" || normal == "From" || normal == "To" || normal == "Call-Id"
+                    || normal == "Cseq";
+        }
+        if ( keeps && line.size() > 2 )
+            kept += line;
+    }
+    return Message( telsxMessageTryDecode( toBuffer( kept + "\r\n" ).get() ) );
 }
 
 } // namespace
@@ -29,6 +58,12 @@ std::string SocketAddress::host() const
     char text[INET6_ADDRSTRLEN] = "";
     inet_ntop( any.sa_family, isV6() ? (const void *)&v6.sin6_addr : &v4.sin_addr, text, sizeof text );
     return text;
+}
+
+std::string SocketAddress::source() const
+{
+    return isV6() ? std::string( reinterpret_cast<const char *>( &v6.sin6_addr ), 8 )
+                  : std::string( reinterpret_cast<const char *>( &v4.sin_addr ), 4 );
 }
 
 bool SocketAddress::setHost( const char *text )
@@ -45,13 +80,15 @@ bool Network::open( SocketAddress &address )
     sigaddset( &mask, SIGTERM );
     sigprocmask( SIG_BLOCK, &mask, nullptr );
     signals = Descriptor( signalfd( -1, &mask, SFD_CLOEXEC ) );
+    own = address;
+    own.setPort( 0 );
     // A port that is free for TCP may be taken for UDP.
     SocketAddress wanted = address;
     for ( int tries = 0; tries < 16; ++tries )
     {
         address = wanted;
         socklen_t length = address.length();
-        if ( bindTo( address, SOCK_STREAM, listener ) && listen( listener.get(), 64 ) == 0
+        if ( bindTo( address, SOCK_STREAM, listener ) && listen( listener.get(), SOMAXCONN ) == 0
              && getsockname( listener.get(), &address.any, &length ) == 0
              && bindTo( address, SOCK_DGRAM, datagrams ) )
             return true;
@@ -61,9 +98,10 @@ bool Network::open( SocketAddress &address )
     return false;
 }
 
-bool Network::wait( int milliseconds, const Receive &receive )
+bool Network::wait( Clock::time_point until, const Receive &receive )
 {
     std::vector<pollfd> watched;
+    std::vector<uint64_t> ids;
     for ( const Descriptor *descriptor : { &signals, &listener, &datagrams } )
         watched.push_back( { descriptor->get(), POLLIN, 0 } );
     if ( std::exchange( deaf, false ) )
@@ -72,38 +110,45 @@ bool Network::wait( int milliseconds, const Receive &receive )
     {
         short events = connection.unsent.empty() ? POLLIN : POLLIN | POLLOUT;
         watched.push_back( { connection.socket.get(), events, 0 } );
+        ids.push_back( id );
+        until = std::min( until, connection.deadline );
     }
-    if ( poll( watched.data(), watched.size(), milliseconds ) <= 0 )
-        return true;
-    if ( watched[0].revents )
+    auto left = std::clamp<Clock::duration>( until - Clock::now(), 0s, 1h );
+    timespec time{ left / 1s, left % 1s / 1ns };
+    int ready = ppoll( watched.data(), watched.size(), &time, nullptr );
+    if ( ready > 0 && watched[0].revents )
         return false;
 
-    if ( watched[2].revents )
+    if ( ready > 0 && watched[2].revents )
         readDatagrams( receive );
-    auto ready = watched.begin() + 3;
-    for ( auto &[id, connection] : connections )
+    for ( std::size_t i = 0; ready > 0 && i < ids.size(); ++i )
     {
-        if ( ready->revents & POLLOUT )
-            flush( connection );
-        if ( ( ready++->revents & ~POLLOUT ) != 0 )
-            readStream( id, connection, receive );
+        short events = watched[i + 3].revents;
+        auto at = connections.find( ids[i] );
+        if ( at != connections.end() && ( events & POLLOUT ) )
+            flush( at->second );
+        if ( at != connections.end() && ( events & ~POLLOUT ) )
+            readStream( at->first, at->second, receive );
     }
+    auto now = Clock::now();
     for ( auto at = connections.begin(); at != connections.end(); )
-        at = at->second.over ? connections.erase( at ) : std::next( at );
-    if ( watched[1].revents )
+        at = at->second.over || now >= at->second.deadline ? connections.erase( at ) : std::next( at );
+    if ( ready > 0 && watched[1].revents )
         acceptConnection();
     return true;
 }
 
 void Network::send( const Peer &peer, const std::string &bytes )
 {
-    if ( peer.connection == 0 )
-    {
-        sendto( datagrams.get(), bytes.data(), bytes.size(), MSG_DONTWAIT, &peer.address.any,
-                peer.address.length() );
+    if ( peer.connection == 0
+         && ( sendto( datagrams.get(), bytes.data(), bytes.size(), MSG_DONTWAIT, &peer.address.any,
+                      peer.address.length() )
+                  >= 0
+              || errno != EMSGSIZE ) )
         return;
-    }
     auto at = connections.find( peer.connection );
+    if ( at == connections.end() )
+        at = connectTo( peer );
     if ( at == connections.end() )
         return;
     at->second.unsent += bytes;
@@ -112,41 +157,64 @@ void Network::send( const Peer &peer, const std::string &bytes )
 
 void Network::readDatagrams( const Receive &receive )
 {
-    // Connections have their turn too.
-    for ( int i = 0; i < 100; ++i )
+    // All that is there, but timers and connections have their turn too.
+    for ( int i = 0; i < 1000; ++i )
     {
         Peer peer = {};
         socklen_t addressLength = sizeof peer.address;
-        ssize_t length = recvfrom( datagrams.get(), piece, sizeof piece, MSG_DONTWAIT | MSG_TRUNC,
-                                   &peer.address.any, &addressLength );
+        ssize_t length =
+            recvfrom( datagrams.get(), piece, sizeof piece, MSG_DONTWAIT, &peer.address.any, &addressLength );
         if ( length < 0 )
             return;
-        if ( std::size_t( length ) > maxMessage )
-            continue;
-        Buffer datagram = toBuffer( { piece, std::size_t( length ) } );
-        if ( Message message{ telsxMessageTryDecode( datagram.get() ) } )
-            receive( std::move( message ), peer );
+        std::string_view bytes( piece, std::size_t( length ) );
+        if ( Message message{ telsxMessageTryDecode( toBuffer( bytes ).get() ) } )
+            receive( { std::move( message ), peer, bytes.size() } );
+        else if ( Message rest = decodeForRefusal( bytes ) )
+            receive( { std::move( rest ), peer, bytes.size(), 400 } );
     }
 }
 
 void Network::readStream( uint64_t id, Connection &connection, const Receive &receive )
 {
-    TELSX_MESSAGE_STREAM_DECODER decoder = connection.decoder.get();
     // No more than fits, so that the longest message is the same however the network cuts it.
-    std::size_t room = maxMessage - std::size_t( telsxMessageStreamDecoderLength( decoder ) );
-    ssize_t length = recv( connection.socket.get(), piece, room, MSG_DONTWAIT );
+    ssize_t length =
+        recv( connection.socket.get(), piece, sizeof piece - connection.begun.size(), MSG_DONTWAIT );
     if ( length <= 0 )
     {
         connection.over = length == 0 || ( errno != EAGAIN && errno != EINTR );
         return;
     }
+    if ( connection.deaf )
+        return;
+    std::string_view bytes( piece, std::size_t( length ) );
+    TELSX_MESSAGE_STREAM_DECODER decoder = connection.decoder.get();
+    Peer peer{ id, connection.address };
     connection.lastHeard = ++clock;
-    telsxMessageStreamDecoderWrite( decoder, toBuffer( { piece, std::size_t( length ) } ).get() );
+    connection.begun += bytes;
+    std::size_t read = 0; // of what was begun
+    telsxMessageStreamDecoderWrite( decoder, toBuffer( bytes ).get() );
     while ( Message message{ connection.over ? nullptr : telsxMessageStreamDecoderRead( decoder ) } )
-        receive( std::move( message ), Peer{ id, connection.address } );
-    // Behind a bad message nothing tells where the next one begins.
-    if ( telsxMessageStreamDecoderError( decoder )
-         || telsxMessageStreamDecoderLength( decoder ) >= int64_t( maxMessage ) )
+    {
+        connection.deadline = Clock::time_point::max();
+        read = connection.begun.size() - std::size_t( telsxMessageStreamDecoderLength( decoder ) );
+        receive( { std::move( message ), peer } );
+    }
+    bool bad = telsxMessageStreamDecoderError( decoder );
+    if ( !bad ) // it also skips line ends between messages
+        read = connection.begun.size() - std::size_t( telsxMessageStreamDecoderLength( decoder ) );
+    connection.begun.erase( 0, read );
+    if ( !bad && connection.begun.size() < maxMessage )
+        return;
+
+    // After a bad message nothing tells where the next one begins. The connection stays for a while, since what
+    // the peer is still sending would otherwise end it before the response is read.
+    connection.deaf = true;
+    connection.deadline = Clock::now() + linger;
+    Message rest = decodeForRefusal( connection.begun );
+    connection.begun.clear();
+    if ( rest )
+        receive( { std::move( rest ), peer, 0, bad ? 400 : 513 } );
+    else
         connection.over = true;
 }
 
@@ -169,16 +237,47 @@ void Network::acceptConnection()
     socklen_t length = sizeof connection.address;
     connection.socket = Descriptor(
         accept4( listener.get(), &connection.address.any, &length, SOCK_CLOEXEC | SOCK_NONBLOCK ) );
-    bool accepted = connection.socket.get() >= 0;
-    // Without a free descriptor the waiting one would be heard of again and again.
-    bool full = accepted ? connections.size() == maxConnections : errno == EMFILE || errno == ENFILE;
-    auto quieter = []( const auto &a, const auto &b ) { return a.second.lastHeard < b.second.lastHeard; };
-    if ( full && !connections.empty() )
-        connections.erase( std::min_element( connections.begin(), connections.end(), quieter ) );
-    else
-        deaf = full;
-    if ( !accepted )
-        return;
+    if ( connection.socket.get() >= 0 )
+        add( ++lastConnection, std::move( connection ) );
+    else if ( errno == EMFILE || errno == ENFILE )
+    {
+        // Without a free descriptor the waiting one would be heard of again and again.
+        deaf = connections.empty();
+        dropOne();
+    }
+}
+
+Network::Connections::iterator Network::connectTo( const Peer &peer )
+{
+    Connection connection;
+    connection.address = peer.address;
+    connection.address.setPort( peer.port );
+    bool begun =
+        bindTo( own, SOCK_STREAM, connection.socket )
+        && ( connect( connection.socket.get(), &connection.address.any, connection.address.length() ) == 0
+             || errno == EINPROGRESS );
+    if ( !begun )
+        return connections.end();
+    return add( peer.connection ? peer.connection : ++lastConnection, std::move( connection ) );
+}
+
+Network::Connections::iterator Network::add( uint64_t id, Connection connection )
+{
+    if ( connections.size() >= maxConnections )
+        dropOne();
     connection.lastHeard = ++clock;
-    connections.emplace( ++lastConnection, std::move( connection ) );
+    return connections.emplace( id, std::move( connection ) ).first;
+}
+
+// The quietest of those that have never sent a message, or else of all.
+void Network::dropOne()
+{
+    auto less = []( const auto &a, const auto &b )
+    {
+        auto rank = []( const Connection &connection )
+        { return std::pair( connection.deadline == Clock::time_point::max(), connection.lastHeard ); };
+        return rank( a.second ) < rank( b.second );
+    };
+    if ( !connections.empty() )
+        connections.erase( std::min_element( connections.begin(), connections.end(), less ) );
 }
