@@ -14,7 +14,7 @@
 #include <thread>
 #include <vector>
 
-#include "../tests/support/heap.hpp"
+#include "heap.hpp"
 #include "rt/rt_frame.hpp"
 #include "telsx/telsx.h"
 

@@ -9,7 +9,7 @@
 #include <iterator>
 #include <string>
 
-#include "../tests/support/heap.hpp"
+#include "heap.hpp"
 #include "rt/rt_frame.hpp"
 #include "telsx/telsx.h"
 

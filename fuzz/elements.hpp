@@ -1,6 +1,5 @@
 // The elements of the grammar in one list, each with the functions that it has, and the properties that hold
-// for every text. The fuzz target and the tests go through it. The fuzzer's inputs name an element by its
-// place, so new ones go to the end.
+// for every text. The fuzz target and the tests go through it.
 #pragma once
 
 #include <algorithm>
@@ -21,7 +20,7 @@ using rt::Text;
 
 struct Element
 {
-    const char *name;
+    std::string_view name;
     RT_BOOL ( *ok )( RT_STRING ) = nullptr;
     Skipper skip = nullptr;
     RT_STRING ( *normalize )( RT_STRING ) = nullptr;

@@ -1,11 +1,12 @@
 // What the fuzz targets share. Each target states properties that hold for every input.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <iterator>
 #include <string_view>
+#include <vector>
 
 #include "rt/rt_frame.hpp"
 #include "telsx/telsx.h"
@@ -46,18 +47,6 @@ inline Ref<RT_STRING> text( std::string_view bytes )
     return utf8 ? utf8 : adopt( rtStringCreateFromCstr( bytes.data(), length ) );
 }
 
-// Runs a test of the entry of a list at the place that a byte says. A tilde means all entries, so that seeds
-// outlast changes of the list.
-template <class LIST, class TEST>
-void forPicked( uint8_t byte, const LIST &list, TEST test )
-{
-    if ( byte != '~' )
-        test( list[byte % std::size( list )] );
-    else
-        for ( const auto &entry : list )
-            test( entry );
-}
-
 // A property that broken found, of the thing of that name.
 inline void requireNone( const char *broken, std::string_view name )
 {
@@ -84,6 +73,30 @@ int run( TEST test )
     test();
     require( rtObjsAlive() == before, "every object is released" );
     return 0;
+}
+
+// Runs a test of the entry of the list whose name is the input's first line, on what follows that line. A tilde names
+// all entries, and another name none.
+template <class LIST, class TEST>
+int runNamed( const uint8_t *data, std::size_t size, const LIST &list, TEST test )
+{
+    std::string_view input( reinterpret_cast<const char *>( data ), size ),
+        name = input.substr( 0, input.find( '\n' ) );
+    input.remove_prefix( std::min( name.size() + 1, size ) );
+    for ( const auto &entry : list )
+        if ( name == entry.name || name == "~" )
+            run( [&] { requireNone( test( entry, input ), entry.name ); } );
+    return 0;
+}
+
+// The names of a list for naming.cpp.
+template <class LIST>
+std::vector<std::string_view> namesOf( const LIST &list )
+{
+    std::vector<std::string_view> names;
+    for ( const auto &entry : list )
+        names.emplace_back( entry.name );
+    return names;
 }
 
 } // namespace fuzz

@@ -15,7 +15,6 @@ using rt::Ref;
 struct Kind
 {
     std::string_view name; // as it is written
-    RT_STRING ( *nameString )();
     RT_OBJ ( *copy )( RT_OBJ hdr );
     TELSX_MESSAGE_HEADER ( *encode )( RT_OBJ hdr );
     RT_OBJ ( *tryDecode )( TELSX_MESSAGE_HEADER header );
@@ -25,24 +24,63 @@ struct Kind
     void ( *encodeToMessage )( RT_OBJ hdr, TELSX_MESSAGE *msg );
     RT_OBJ ( *tryDecodeFromMessage )( TELSX_MESSAGE msg );
     void ( *removeFromMessage )( TELSX_MESSAGE *msg );
+
+    // Of what it is a list or a set: the name of the value or element, and the functions that it has.
+    std::string_view item = {};
+    RT_OBJ ( *create )() = nullptr;
+    int64_t ( *length )( RT_OBJ hdr ) = nullptr;
+    RT_OBJ ( *at )( RT_OBJ hdr, int64_t index ) = nullptr;
+    void ( *clear )( RT_OBJ *hdr ) = nullptr;
+    // A list
+    void ( *set )( RT_OBJ *hdr, int64_t index, RT_OBJ item ) = nullptr;
+    void ( *del )( RT_OBJ *hdr, int64_t index ) = nullptr;
+    void ( *prepend )( RT_OBJ *hdr, RT_OBJ item ) = nullptr;
+    void ( *append )( RT_OBJ *hdr, RT_OBJ item ) = nullptr;
+    void ( *insert )( RT_OBJ *hdr, int64_t index, RT_OBJ item ) = nullptr;
+    // A set
+    RT_BOOL ( *has )( RT_OBJ hdr, RT_OBJ item ) = nullptr;
+    void ( *add )( RT_OBJ *hdr, RT_OBJ item ) = nullptr;
+    void ( *remove )( RT_OBJ *hdr, RT_OBJ item ) = nullptr;
+    // A set or a list of texts
+    RT_VECTOR ( *vector )( RT_OBJ hdr ) = nullptr;
+    void ( *setVector )( RT_OBJ *hdr, RT_VECTOR vector ) = nullptr;
+
+    Ref<RT_STRING> nameString() const { return adopt( rtStringCreateFromCstr( name.data(), -1 ) ); }
 };
 
-#define TELSX_KIND( NAME, SORT, SIP_NAME )                                                                  \
-    { SIP_NAME,                                                                                             \
-      [] { return rtStringCreateFromCstr( SIP_NAME, -1 ); },                                                \
-      []( RT_OBJ hdr ) { return telsx##NAME##Obj( telsx##NAME##CreateFrom( telsx##NAME##From( hdr ) ) ); }, \
-      []( RT_OBJ hdr ) { return telsx##NAME##Encode( telsx##NAME##From( hdr ) ); },                         \
-      []( TELSX_MESSAGE_HEADER header ) { return telsx##NAME##Obj( telsx##NAME##TryDecode( header ) ); },   \
-      []( RT_OBJ hdr ) { return telsx##NAME##Store( telsx##NAME##From( hdr ) ); },                          \
-      []( RT_STORE store ) { return telsx##NAME##Obj( telsx##NAME##TryRestore( store ) ); },                \
-      telsx##NAME##PresentInMessage,                                                                        \
-      []( RT_OBJ hdr, TELSX_MESSAGE *msg )                                                                  \
-      { telsx##NAME##EncodeToMessage( telsx##NAME##From( hdr ), msg ); },                                   \
-      []( TELSX_MESSAGE msg ) { return telsx##NAME##Obj( telsx##NAME##TryDecodeFromMessage( msg ) ); },     \
-      telsx##NAME##RemoveFromMessage },
+// Two kinds have a name of their own for this.
+#define telsxHeaderContactClearContacts telsxHeaderContactClear
+#define telsxHeaderWarningClearWarnings telsxHeaderWarningWarningsClear
+
+// clang-format off
+#define KIND( NAME, SIP_NAME ) \
+    SIP_NAME, ERASED( telsx##NAME##CreateFrom ), ERASED( telsx##NAME##Encode ), ERASED( telsx##NAME##TryDecode ), \
+    ERASED( telsx##NAME##Store ), ERASED( telsx##NAME##TryRestore ), telsx##NAME##PresentInMessage, \
+    ERASED( telsx##NAME##EncodeToMessage ), ERASED( telsx##NAME##TryDecodeFromMessage ), telsx##NAME##RemoveFromMessage
+#define ITEMS( NAME, WORD, ITEM, AT ) \
+    #ITEM, ERASED( telsx##NAME##Create ), ERASED( telsx##NAME##WORD##sLength ), ERASED( telsx##NAME##AT ), \
+    ERASED( telsx##NAME##Clear##WORD##s )
+#define CHANGES( NAME, WORD ) \
+    ERASED( telsx##NAME##Set##WORD##At ), ERASED( telsx##NAME##Del##WORD##At ), ERASED( telsx##NAME##Prepend##WORD ), \
+    ERASED( telsx##NAME##Append##WORD ), ERASED( telsx##NAME##Insert##WORD )
+#define VECTOR( NAME, WORD ) ERASED( telsx##NAME##WORD##sVector ), ERASED( telsx##NAME##Set##WORD##sVector )
+#define TELSX_KIND( NAME, SORT, SIP_NAME ) { KIND( NAME, SIP_NAME ) },
+#define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE ) \
+    { KIND( NAME, SIP_NAME ), ITEMS( NAME, WORD, VALUE, TryDecode##WORD##At ), CHANGES( NAME, WORD ) },
+#define TELSX_KIND_OF_LIST( NAME, SORT, SIP_NAME, WORD ) \
+    { KIND( NAME, SIP_NAME ), ITEMS( NAME, WORD, WORD, WORD##At ), CHANGES( NAME, WORD ), {}, {}, {}, VECTOR( NAME, WORD ) },
+#define TELSX_KIND_OF_SET( NAME, SORT, SIP_NAME, WORD ) \
+    { KIND( NAME, SIP_NAME ), ITEMS( NAME, WORD, WORD, WORD##At ), {}, {}, {}, {}, {}, \
+      ERASED( telsx##NAME##Has##WORD ), ERASED( telsx##NAME##Set##WORD ), ERASED( telsx##NAME##Del##WORD ), \
+      VECTOR( NAME, WORD ) },
 inline const Kind all[] = {
 #include "telsx/telsx_headers.def"
 };
+// clang-format on
+#undef KIND
+#undef ITEMS
+#undef CHANGES
+#undef VECTOR
 #undef TELSX_KIND
 
 using Raw = Ref<TELSX_MESSAGE_HEADER>;
@@ -93,18 +131,18 @@ inline const char *brokenReading( const Kind &kind, const Raw &raw, const Ref<RT
 
 inline const char *brokenWriting( const Kind &kind, const Raw &encoded, const Ref<RT_OBJ> &hdr )
 {
-    Raw other = adopt( telsxMessageHeaderCreate( adopt( kind.nameString() ).get() ) );
+    Raw other = adopt( telsxMessageHeaderCreate( kind.nameString().get() ) );
     for ( const char *line : { "?", "", "?" } )
         telsxMessageHeaderAppendLineCstr( other.address(), line, -1 );
     Message before = messageWith( other ), message = before;
     kind.encodeToMessage( hdr.get(), message.address() );
-    Raw written = adopt( telsxMessageHeader( message.get(), adopt( kind.nameString() ).get() ) );
+    Raw written = adopt( telsxMessageHeader( message.get(), kind.nameString().get() ) );
     if ( written != encoded )
         return "what is written to a message is the raw header, in the place of all lines of its name";
     kind.removeFromMessage( message.address() );
     if ( kind.presentInMessage( message.get() ) || kind.tryDecodeFromMessage( message.get() ) )
         return "what is removed from a message is gone";
-    if ( adopt( telsxMessageHeader( before.get(), adopt( kind.nameString() ).get() ) ) != other )
+    if ( adopt( telsxMessageHeader( before.get(), kind.nameString().get() ) ) != other )
         return "other holders of a message see none of it";
     return nullptr;
 }
@@ -137,7 +175,7 @@ inline const char *broken( const Kind &kind, const Raw &raw )
     Raw encoded = adopt( kind.encode( hdr.get() ) );
     if ( isStarInFront( kind, encoded ) )
         return nullptr;
-    if ( adopt( telsxMessageHeaderName( encoded.get() ) ) != adopt( kind.nameString() ) )
+    if ( adopt( telsxMessageHeaderName( encoded.get() ) ) != kind.nameString() )
         return "a kind writes its own name";
     Ref<RT_OBJ> again = adopt( kind.tryDecode( encoded.get() ) );
     if ( !again && linesOf( encoded ) )

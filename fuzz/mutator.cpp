@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <random>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace
 {
@@ -13,8 +11,7 @@ constexpr std::string_view names[] = {
 #define TELSX_KIND( NAME, SORT, SIP_NAME ) SIP_NAME,
 #include "telsx/telsx_headers.def"
 #undef TELSX_KIND
-    "Content-Length",
-    "Content-Type",
+    "Content-Length", "l", "v", "X", "cONTENT-type",
 };
 
 // Pieces of header values; sip.dict holds shorter ones, which the fuzzer puts in by itself.
@@ -22,11 +19,7 @@ constexpr std::string_view words[] = {
     "SIP/2.0/UDP a;branch=z9hG4bK1",
     "<sip:a@b.c;lr>",
     "\"a \\\" b\" <sips:c>",
-    ";tag=1",
-    ";q=0.5",
     ";a=\"b;c,d\"",
-    ";expires=60",
-    ";rport",
     ";received=[::1]",
     ", ",
     ",,",
@@ -40,6 +33,8 @@ constexpr std::string_view words[] = {
     "\xEF\xBB\xBF",
     "\xF4\x90\x80\x80",
 };
+constexpr std::string_view folds[] = { "\r\n ", "\r\n\t", "\n ", "\r ", "\r\n \r\n ", "\r\n" };
+constexpr std::string_view ends[] = { "\r\n", "\n", "\r", "", "\r\r\n", " \r\n" };
 
 class Random
 {
@@ -48,8 +43,6 @@ public:
 
     // A number below the limit, or 0.
     std::size_t below( std::size_t limit ) { return limit ? engine() % limit : 0; }
-    bool once( std::size_t in ) { return below( in ) == 0; }
-
     template <class LIST>
     auto &of( LIST &list )
     {
@@ -60,109 +53,59 @@ private:
     std::minstd_rand engine;
 };
 
-struct Message
-{
-    std::string front; // what stands before it in the input
-    std::string startLine;
-    std::vector<std::string> headers; // with their folds and their line ends
-    std::string body;                 // with the blank line
+// The lines of a message: the start line, headers with their folds, the body with the blank line.
+using Lines = std::vector<std::string>;
 
-    std::string whole() const
+Lines cut( std::string_view message )
+{
+    Lines lines;
+    bool isBody = false;
+    while ( !message.empty() )
     {
-        std::string text = front + startLine;
-        for ( const std::string &header : headers )
-            text += header;
-        return text + body;
+        isBody = isBody || ( lines.size() && ( message.starts_with( "\r\n" ) || message.front() == '\n' ) );
+        std::size_t length =
+            isBody ? message.size() : std::min( message.find( '\n' ), message.size() - 1 ) + 1;
+        bool isFold = lines.size() > 1 && ( message.front() == ' ' || message.front() == '\t' );
+        ( isFold ? lines.back() : lines.emplace_back() ) += message.substr( 0, length );
+        message.remove_prefix( length );
     }
-};
-
-constexpr std::string_view blankLine = "\r\n\r\n";
-
-std::string_view takeLine( std::string_view &rest )
-{
-    std::string_view line = rest.substr( 0, std::min( rest.find( '\n' ), rest.size() - 1 ) + 1 );
-    rest.remove_prefix( line.size() );
-    return line;
+    lines.resize( std::max<std::size_t>( lines.size(), 2 ) );
+    return lines;
 }
 
-Message cut( std::string_view input, std::size_t offset )
-{
-    offset = std::min( offset, input.size() );
-    std::string_view rest = input.substr( offset );
-    Message message{ .front = std::string( input.substr( 0, offset ) ),
-                     .startLine = std::string( takeLine( rest ) ),
-                     .headers = {},
-                     .body = {} };
-    while ( !rest.empty() && rest.front() != '\n' && !rest.starts_with( "\r\n" ) )
-    {
-        std::string_view line = takeLine( rest );
-        bool isFold = line.front() == ' ' || line.front() == '\t';
-        if ( isFold && !message.headers.empty() )
-            message.headers.back() += line;
-        else
-            message.headers.emplace_back( line );
-    }
-    message.body = rest;
-    return message;
-}
-
-// The first message, or what stands behind one of the blank lines: the next message of a stream, or one that
-// is a body.
+// The first message, or what follows one of the blank lines: the next message of a stream, or one that is a body.
 std::size_t pickOffset( std::string_view input, Random &random )
 {
-    std::vector<std::size_t> offsets = { fuzz::messageOffset, fuzz::messageOffset };
+    static constexpr std::string_view blankLine = "\r\n\r\n";
+    std::vector<std::size_t> offsets( 2, std::min( fuzz::messageOffset, input.size() ) );
     for ( std::size_t at = 0; ( at = input.find( blankLine, at ) ) != input.npos; )
         offsets.push_back( at += blankLine.size() );
     return random.of( offsets );
 }
 
-std::string name( Random &random )
-{
-    if ( random.once( 4 ) )
-        return { static_cast<char>( 'a' + random.below( 26 ) ) };
-    std::string picked( random.of( names ) );
-    if ( random.once( 4 ) )
-        for ( char &ch : picked )
-            ch = static_cast<char>( random.once( 2 ) ? std::toupper( ch ) : std::tolower( ch ) );
-    return picked;
-}
-
 std::string newHeader( Random &random )
 {
-    std::string header = name( random ) + ": ";
+    std::string header( random.of( names ) );
+    header += ": ";
     for ( std::size_t i = random.below( 4 ); i--; )
         header += random.of( words );
     return header + "\r\n";
 }
 
-void insert( Message &message, const std::string &header, Random &random )
+std::string contentLength( std::size_t bodyLength, Random &random )
 {
-    message.headers.insert( message.headers.begin()
-                                + static_cast<std::ptrdiff_t>( random.below( message.headers.size() + 1 ) ),
-                            header );
-}
-
-// One of the headers; a message without any is given one.
-std::string &pickHeader( Message &message, Random &random )
-{
-    if ( message.headers.empty() )
-        message.headers.push_back( newHeader( random ) );
-    return random.of( message.headers );
-}
-
-// Takes one of the headers out, of which there is one.
-std::string takeHeader( Message &message, Random &random )
-{
-    auto at = message.headers.begin() + static_cast<std::ptrdiff_t>( random.below( message.headers.size() ) );
-    std::string header = std::move( *at );
-    message.headers.erase( at );
-    return header;
-}
-
-// A place in the header, before its line end if it has one.
-std::size_t pickPlace( const std::string &header, Random &random )
-{
-    return random.below( header.size() - ( header.ends_with( "\r\n" ) ? 1 : 0 ) );
+    const std::string is = std::to_string( bodyLength ), values[] = { is,
+                                                                      is,
+                                                                      is,
+                                                                      std::to_string( bodyLength + 1 ),
+                                                                      "0",
+                                                                      "-1",
+                                                                      "+" + is,
+                                                                      "00" + is,
+                                                                      "9223372036854775807",
+                                                                      "18446744073709551616",
+                                                                      "" };
+    return "l: " + random.of( values ) + "\r\n";
 }
 
 void mutateBytes( std::string &text )
@@ -172,113 +115,27 @@ void mutateBytes( std::string &text )
     text.resize( LLVMFuzzerMutate( reinterpret_cast<uint8_t *>( text.data() ), size, text.size() ) );
 }
 
-// Each change of a message.
-
-void add( Message &message, Random &random ) { insert( message, newHeader( random ), random ); }
-void duplicate( Message &message, Random &random )
+void change( Lines &lines, Random &random )
 {
-    insert( message, std::string( pickHeader( message, random ) ), random );
-}
-void remove( Message &message, Random &random )
-{
-    if ( !message.headers.empty() )
-        takeHeader( message, random );
-}
-void swap( Message &message, Random &random )
-{
-    std::string &header = pickHeader( message, random );
-    std::swap( header, random.of( message.headers ) );
-}
-void move( Message &message, Random &random )
-{
-    if ( !message.headers.empty() )
-        insert( message, takeHeader( message, random ), random );
-}
-void rename( Message &message, Random &random )
-{
-    std::string &header = pickHeader( message, random );
-    header.replace( 0, std::min( header.find_first_of( ": \t\r" ), header.size() ), name( random ) );
-}
-void putWord( Message &message, Random &random )
-{
-    std::string &header = pickHeader( message, random );
-    header.insert( pickPlace( header, random ), random.of( words ) );
-}
-void fold( Message &message, Random &random )
-{
-    static constexpr std::string_view folds[] = { "\r\n ", "\r\n\t", "\n ", "\r ", "\r\n \r\n ", "\r\n" };
-    std::string &header = pickHeader( message, random );
-    header.insert( pickPlace( header, random ), random.of( folds ) );
-}
-void changeLineEnd( Message &message, Random &random )
-{
-    static constexpr std::string_view ends[] = { "\r\n", "\n", "\r", "", "\r\r\n", " \r\n" };
-    std::string &line = random.once( 4 ) ? message.startLine : pickHeader( message, random );
-    line.erase( line.find_last_not_of( "\r\n" ) + 1 );
-    line += random.of( ends );
-}
-void repeatPart( Message &message, Random &random )
-{
-    std::string &header = pickHeader( message, random );
-    std::size_t at = pickPlace( header, random ),
-                length = 1 + random.below( std::min<std::size_t>( header.size() - at, 32 ) );
-    std::string part = header.substr( at, length ), many;
-    for ( std::size_t i = std::size_t{ 1 } << random.below( 10 ); i--; )
-        many += part;
-    header.insert( at, many );
-}
-void repeatHeader( Message &message, Random &random )
-{
-    std::string &header = pickHeader( message, random ), part = header;
-    for ( std::size_t i = std::size_t{ 1 } << random.below( 6 ); i--; )
-        header += part;
-}
-void setContentLength( Message &message, Random &random )
-{
-    std::size_t length = message.body.size() - std::min<std::size_t>( message.body.size(), 2 );
-    const std::string values[] = {
-        std::to_string( length ),
-        std::to_string( length ),
-        std::to_string( length ),
-        std::to_string( length + 1 ),
-        std::to_string( length / 2 ),
-        "0",
-        "-1",
-        "+" + std::to_string( length ),
-        "00" + std::to_string( length ),
-        "9223372036854775807",
-        "18446744073709551616",
-        "",
-    };
-    std::string line =
-        ( random.once( 4 ) ? "l:" : "Content-Length: " ) + std::string( random.of( values ) ) + "\r\n";
-    if ( random.once( 2 ) )
-        pickHeader( message, random ) = line;
-    else
-        insert( message, line, random );
-}
-void mutateStartLine( Message &message, Random & ) { mutateBytes( message.startLine ); }
-void mutateHeader( Message &message, Random &random ) { mutateBytes( pickHeader( message, random ) ); }
-void mutateBody( Message &message, Random & ) { mutateBytes( message.body ); }
-
-constexpr void ( *changes[] )( Message &message, Random &random ) = {
-    add,          duplicate,    remove,           swap,
-    move,         rename,       rename,           putWord,
-    putWord,      fold,         changeLineEnd,    repeatPart,
-    repeatHeader, mutateHeader, setContentLength, mutateHeader,
-    mutateBody,   mutateHeader, mutateStartLine,
-};
-
-std::string_view view( const uint8_t *data, std::size_t size )
-{
-    return { reinterpret_cast<const char *>( data ), size };
-}
-
-std::size_t write( const std::string &text, uint8_t *out, std::size_t maxSize )
-{
-    std::size_t size = std::min( text.size(), maxSize );
-    std::copy_n( text.begin(), size, out );
-    return size;
+    std::size_t body = lines.size() - 1, bodyLength = std::max<std::size_t>( lines[body].size(), 2 ) - 2;
+    std::string &line = random.of( lines ), copy = line;
+    std::size_t place = random.below( line.size() - ( line.ends_with( "\r\n" ) ? 1 : 0 ) );
+    auto at = lines.begin() + static_cast<std::ptrdiff_t>( 1 + random.below( body ) );
+    switch ( random.below( 9 ) )
+    {
+        case 0: lines.insert( at, newHeader( random ) ); break;
+        case 1: lines.insert( at, copy ); break;
+        case 2: lines.erase( at ); break;
+        case 3: std::swap( *at, line ); break;
+        case 4: line.insert( place, random.of( words ) ); break;
+        case 5: line.insert( place, random.of( folds ) ); break;
+        case 6:
+            line.erase( line.find_last_not_of( "\r\n" ) + 1 );
+            line += random.of( ends );
+            break;
+        case 7: lines.insert( at, contentLength( bodyLength, random ) ); break;
+        default: mutateBytes( line );
+    }
 }
 
 } // namespace
@@ -286,32 +143,17 @@ std::size_t write( const std::string &text, uint8_t *out, std::size_t maxSize )
 std::size_t LLVMFuzzerCustomMutator( uint8_t *data, std::size_t size, std::size_t maxSize, unsigned seed )
 {
     Random random( seed );
-    if ( random.once( 4 ) )
+    if ( random.below( 4 ) == 0 )
         return LLVMFuzzerMutate( data, size, maxSize );
-    std::string_view input = view( data, size );
-    Message message = cut( input, pickOffset( input, random ) );
-    for ( std::size_t i = 1 + random.below( 4 ); i--; )
-        random.of( changes )( message, random );
-    return write( message.whole(), data, maxSize );
-}
-
-std::size_t LLVMFuzzerCustomCrossOver( const uint8_t *data1, std::size_t size1, const uint8_t *data2,
-                                       std::size_t size2, uint8_t *out, std::size_t maxOutSize,
-                                       unsigned seed )
-{
-    Random random( seed );
-    std::string_view first = view( data1, size1 ), second = view( data2, size2 );
-    Message message = cut( first, pickOffset( first, random ) ),
-            other = cut( second, pickOffset( second, random ) );
-    switch ( random.below( 5 ) )
-    {
-        case 0: message.startLine = other.startLine; break;
-        case 1: message.body = other.body; break;
-        case 2: message.body += other.startLine + Message{ {}, {}, other.headers, other.body }.whole(); break;
-        default:
-            for ( const std::string &header : other.headers )
-                if ( random.once( 2 ) )
-                    insert( message, header, random );
-    }
-    return write( message.whole(), out, maxOutSize );
+    std::string_view input( reinterpret_cast<const char *>( data ), size );
+    std::size_t offset = pickOffset( input, random );
+    Lines lines = cut( input.substr( offset ) );
+    for ( std::size_t i = 1 + random.below( 4 ); i-- && lines.size() > 1; )
+        change( lines, random );
+    std::string whole( input.substr( 0, offset ) );
+    for ( const std::string &line : lines )
+        whole += line;
+    size = std::min( whole.size(), maxSize );
+    std::copy_n( whole.begin(), size, data );
+    return size;
 }

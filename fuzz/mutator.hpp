@@ -1,20 +1,23 @@
-// How inputs are changed, beside the fuzzer's own changes of bytes. mutator.cpp changes messages as messages.
+// How inputs are changed, beside the fuzzer's own changes of bytes. mutator.cpp changes messages as messages; naming.cpp
+// leaves the name alone that an input begins with. Each target states what its mutator needs.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 extern "C" std::size_t LLVMFuzzerMutate( uint8_t *data, std::size_t size, std::size_t maxSize );
 extern "C" std::size_t LLVMFuzzerCustomMutator( uint8_t *data, std::size_t size, std::size_t maxSize,
                                                 unsigned seed );
-extern "C" std::size_t LLVMFuzzerCustomCrossOver( const uint8_t *data1, std::size_t size1,
-                                                  const uint8_t *data2, std::size_t size2, uint8_t *out,
-                                                  std::size_t maxOutSize, unsigned seed );
 
 namespace fuzz
 {
 
-// Where the message begins in an input of a target that mutator.cpp belongs to; the target states it.
+// For mutator.cpp: where the message begins in an input.
 extern const std::size_t messageOffset;
+
+// For naming.cpp: the names that an input may begin with.
+extern const std::vector<std::string_view> names;
 
 } // namespace fuzz

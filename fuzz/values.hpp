@@ -6,6 +6,7 @@
 #include <memory>
 #include <string_view>
 
+#include "erased.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx.h"
 
@@ -33,15 +34,13 @@ struct Type
     Ref<RT_STRING> encoded( const Ref<RT_OBJ> &value ) const { return adopt( encode( value.get() ) ); }
 };
 
-#define TELSX_VALUE( NAME, ... )                                                \
-    { #NAME, telsx___Skip##NAME,                                                \
-      []( const RT_CHAR *chs, int64_t length )                                  \
-      { return telsx##NAME##Obj( telsx___##NAME##TryDecode( chs, length ) ); }, \
-      []( RT_OBJ value ) { return telsx___##NAME##Encode( telsx##NAME##From( value ) ); } },
+#define TELSX_VALUE( NAME, ... ) \
+    { #NAME, telsx___Skip##NAME, ERASED( telsx___##NAME##TryDecode ), ERASED( telsx___##NAME##Encode ) },
 inline const Type all[] = {
     // clang-format off
     TELSX_VALUE( GenericParam )
     TELSX_VALUE( GenericParams )
+    TELSX_VALUE( Version )
 // clang-format on
 #include "telsx/telsx_values.def"
 };

@@ -1,5 +1,4 @@
-/* Route value: a proxy that a request is to pass or has passed. Element of Route, Record-Route and
- * Service-Route.
+/* Route value: a proxy that a request is to pass or has passed (Route, Record-Route, Service-Route).
  *
  *     route-param = name-addr *( SEMI rr-param )
  *     rr-param = generic-param

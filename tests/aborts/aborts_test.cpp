@@ -95,7 +95,7 @@ TEST( Aborts, OfElementsStandInTheirUnits )
     for ( const elements::Element &element : elements::all )
     {
         SCOPED_TRACE( element.name );
-        std::string own = unitOf( element.name ),
+        std::string own = unitOf( std::string( element.name ) ),
                     unit = element.ok || element.numberOk ? own : "telsx/telsx_skip";
         for ( auto &[other, names] : others )
             if ( std::string( names ).find( " " + std::string( element.name ) + " " ) != std::string::npos )
@@ -112,7 +112,7 @@ TEST( Aborts, OfElementsStandInTheirUnits )
         expectAborts( element.tryDecodeNumber, {} );
         if ( !element.ok )
             continue;
-        std::string parameter = element.name;
+        std::string parameter( element.name );
         parameter[0] = static_cast<char>( parameter[0] + 0x20 );
         for ( auto [name, shorter] : { std::pair( "ReasonCause", "cause" ),
                                        { "HistoryInfoIndex", "index" },

@@ -61,17 +61,23 @@ many_calls()
     $good && [ "$again_tcp" = 0 ] && (( again_udp < calls / 4 ))
 }
 
-# ask LINE HEADER...: sends a request in one datagram and prints what comes back within five seconds.
+# ask LINE HEADER...: sends a request and prints what comes back within five seconds. Variables say more: by, the transport, udp
+# unless told; to and id, its To and Call-ID; sent_by, in Via; open, if descriptor 3 is to be used and stays open.
 ask()
 {
-    printf '%s\r\n' "$1" "Via: SIP/2.0/UDP a.example;branch=z9hG4bK$( date +%s%N );rport" 'f: <sip:a@a.example>;tag=1' \
-        't: "B" <sip:b@b.example>' 'i: 1@a.example' "${@:2}" '' >request
-    exec 3<>"/dev/udp/127.0.0.1/$port"
+    printf '%s\r\n' "$1" "Via: SIP/2.0/UDP ${sent_by-a.example};branch=z9hG4bK$( date +%s%N );rport" \
+        'f: <sip:a@a.example>;tag=1' "t: ${to-"B" <sip:b@b.example>}" "i: ${id-1@a.example}" "${@:2}" '' >request
+    [ "${open-}" ] || exec 3<>"/dev/${by-udp}/127.0.0.1/$port"
     cat request >&3
     timeout 5 dd bs=65536 count=1 status=none <&3 | tr -d '\r'
-    exec 3>&-
+    [ "${open-}" ] || exec 3>&-
 }
-expect() { local got; got=$( ask "${@:2}" | head -n 1 ); [ "$got" = "SIP/2.0 $1" ] || fail "to $2 it says '$got', not $1"; }
+expect()
+{
+    local got request="${*:2}"
+    got=$( ask "${@:2}" | head -n 1 )
+    [ "$got" = "SIP/2.0 $1" ] || fail "to ${request:0:300} it says '$got', not $1"
+}
 
 # bound NUMBER HEADER...: the contacts that are bound when the REGISTER with these headers has been answered.
 bound() { ask 'REGISTER sip:b SIP/2.0' "CSeq: $1 REGISTER" "${@:2}" | sed -n 's/^Contact: \(<.*>\).*/\1/p' | tr -d '\n'; }
@@ -100,11 +106,15 @@ broken_messages()
     send udp noise
     head -c 1000000 /dev/zero | tr '\0' a >endless
     send tcp endless
-    # More connections than it holds, each with half a message; they stay open.
+    # More connections than it holds, each with half a message; they stay open, and so does one with a whole one.
+    exec 3<>"/dev/tcp/127.0.0.1/$port"
+    open=3 expect '200 OK' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 'l: 0'
     for (( i = 0; i < 300; i++ )); do
         exec {fd}<>"/dev/tcp/127.0.0.1/$port"
         printf 'INVITE sip:b@b SIP/2.0\r\nl: 9999999999\r\n\r\nx' >&"$fd"
     done
+    open=3 expect '200 OK' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 'l: 0'
+    exec 3>&-
 }
 
 start 100
@@ -116,8 +126,14 @@ for transport in u1 t1; do
     use "dialog-$transport" "$transport" -sf "$scenarios/dialog.xml" -m 20 -r 20 || fail "what belongs to a dialog"
 done
 
+# The caller's connection is gone before the 200, which comes by a new one.
+use late t1 -sf "$scenarios/late.xml" -p $(( port + 1 )) -m 1 & late=$!
+sleep 1
+id=2@a.example sent_by=127.0.0.1:$(( port + 1 )) by=tcp expect '100 Trying' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'l: 0'
+wait $late || fail "a response gets lost with its connection"
+
 ask 'OPTIONS sip:b@b.example SIP/2.0' 'CSeq: 7 OPTIONS' |
-    sed -E 's/rport=[0-9]+/rport=1/; s/tag=[0-9]+-[0-9]+/tag=2/; s/z9hG4bK[0-9]+/z9hG4bK1/' |
+    sed -E 's/rport=[0-9]+/rport=1/; s/tag=[0-9]+-[0-9]+/tag=2/; s/z9hG4bK[0-9]+/z9hG4bK1/; s/ $//' |
     diff - <( cat <<'RESPONSE'
 SIP/2.0 200 OK
 Via: SIP/2.0/UDP a.example;received=127.0.0.1;rport=1;branch=z9hG4bK1
@@ -126,7 +142,10 @@ To: "B" <sip:b@b.example>;tag=2
 Call-Id: 1@a.example
 Cseq: 7 OPTIONS
 Allow: INVITE,ACK,CANCEL,BYE,OPTIONS,REGISTER
+Supported:
 Accept: application/sdp
+Accept-Encoding: identity
+Accept-Language: en
 Content-Length: 0
 
 RESPONSE
@@ -134,7 +153,7 @@ RESPONSE
 expect '405 Method not allowed' 'PUBLISH sip:b SIP/2.0' 'CSeq: 1 PUBLISH'
 expect '481 Call leg/transaction does not exist' 'CANCEL sip:b SIP/2.0' 'CSeq: 1 CANCEL'
 expect '481 Call leg/transaction does not exist' 'BYE sip:b SIP/2.0' 'CSeq: 1 BYE'
-expect '481 Call leg/transaction does not exist' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 't: <sip:b>;tag=2'
+to='<sip:b>;tag=2' expect '481 Call leg/transaction does not exist' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS'
 expect '420 Bad extension' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'Require: 100rel'
 expect '200 OK' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 'Require:'
 expect '416 Unsupported URI scheme' 'INVITE tel:+1 SIP/2.0' 'CSeq: 1 INVITE'
@@ -142,6 +161,23 @@ expect '415 Unsupported media type' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'c: 
 expect '400 Bad request' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'c: application/sdp' '' 'v=0' 't=0 0' 'm=audio 1 RTP/AVP'
 expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 2147483648 OPTIONS'
 expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 BYE'
+for header in 'To: <sip:c>' 'CSeq: 1 OPTIONS' 'l: 9' 'no header' $'x: a\nb'; do
+    expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' "$header"
+done
+expect '415 Unsupported media type' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'e: identity, gzip'
+expect '406 Not acceptable' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'Accept: text/plain, application/sdp;q=0'
+expect '200 OK' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' 'Accept: text/plain, application/*'
+for media in 'video 1 RTP/AVP 0' 'audio 1 RTP/SAVP 0' 'audio 1 RTP/AVP 18 101'; do
+    expect '488 Not acceptable here' 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' 'c: application/sdp' '' 'v=0' 't=0 0' "m=$media" \
+        'a=rtpmap:101 telephone-event/8000'
+done
+# What is too long says so; the longest message is not.
+for by in udp tcp; do
+    expect '200 OK' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' "x: $( printf '%65000s' )" 'l: 0'
+done
+expect '513 Message too large' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' "x: $( printf '%66000s' )" 'l: 0'
+expect '400 Bad request' 'OPTIONS sip:b SIP/2.0' 'CSeq: 1 OPTIONS' # without Content-Length
+unset by
 expect '400 Bad request' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' 'Contact: <sip:a>, <sip:b'
 expect '505 SIP version not supported' 'OPTIONS sip:b SIP/3.0' 'CSeq: 1 OPTIONS'
 [ "$( bound 2 'm: <sip:d>, <sip:c>' ) $( bound 3 'm: <sip:c>;expires=0' ) $( bound 4 )" = \
@@ -150,7 +186,18 @@ expect '505 SIP version not supported' 'OPTIONS sip:b SIP/3.0' 'CSeq: 1 OPTIONS'
 for late in 'm: <sip:d>;expires=0' 'm: *'; do
     expect '500 Internal server error' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' "$late" 'Expires: 0'
 done
-[ "$( bound 4 ) $( bound 1 'm: *' 'Expires: 0' 'i: 2' )" = '<sip:d> ' ] || fail "REGISTER takes away what it should not"
+[ "$( to='<sip:%62@B.Example;x=y>' bound 4 ) $( id=2 bound 1 'm: *' 'Expires: 0' )" = '<sip:d> ' ] || fail "REGISTER takes away what it should not"
+# A forger can't have much sent to somebody else, and one sender can't take the places of others.
+long=$( printf '%0190d' 0 )
+expect '403 Forbidden' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' "m: <sip:${long}12345678>"
+expect '503 Service unavailable' 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' 'm: <sip:1>, <sip:2>, <sip:3>, <sip:4>, <sip:5>, <sip:6>'
+expect '200 OK' 'REGISTER sip:b SIP/2.0' 'CSeq: 5 REGISTER' "m: <sip:$long"{1,2,3,4,5}'>'
+expect '500 Internal server error' 'REGISTER sip:b SIP/2.0' 'CSeq: 6 REGISTER'
+by=tcp expect '200 OK' 'REGISTER sip:b SIP/2.0' 'CSeq: 6 REGISTER' 'l: 0'
+use others u1 -sf "$scenarios/bind.xml" -i 127.0.0.2 -m 1 -s other || fail "REGISTER from another address"
+use flood u1 -sf "$scenarios/bind.xml" -m 1001 -r 1000 -s flood || fail "REGISTER from one address"
+[ "$( for who in b@b.example flood1 flood1001 other1; do to="<sip:$who>" bound 9; done )" = '<sip:flood1001><sip:other1>' ] ||
+    fail "not the oldest bindings of the same sender have given way"
 
 broken_messages
 for transport in u1 t1; do

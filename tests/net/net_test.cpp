@@ -117,6 +117,11 @@ TEST( NetDnsIdna, UnicodeNamesConvert )
                         { "XN--MNCHEN-3YA.Xn--a.EU", "XN--MNCHEN-3YA.Xn--a.EU", "münchen.Xn--a.EU" },
                         { "ä.%41.xn--mnchen-3ya", "xn--4ca.%41.xn--mnchen-3ya", "ä.%41.münchen" },
                         { "ｘn--4ca", "xn--4ca", "ä" } };
+    // The longest label has 63 characters.
+    const std::string most = "ä" + repeated( "a", 55 ), mostAscii = "xn--" + repeated( "a", 55 ) + "-9te";
+    EXPECT_EQ( mostAscii, utf8( toAscii( str( most ) ) ) );
+    EXPECT_EQ( most, utf8( toUnicode( str( mostAscii ) ) ) );
+    EXPECT_FALSE( hostOk( str( most + "a" ) ) );
     for ( auto &row : table )
     {
         ASSERT_TRUE( hostOk( str( row.name ) ) ) << row.name;

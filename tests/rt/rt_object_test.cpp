@@ -1,106 +1,44 @@
 // What all types have in common, and modules.
-#include "support/support.hpp"
+#include "support/object_suite.hpp"
 
 using namespace support;
 
-// The functions of a type under names that are the same for all types, its text when it is filled, how to fill it and
-// how to change it then.
-#define KIND( NAME, HANDLE, TEXT, FILL, CHANGE )                                      \
-    struct NAME                                                                       \
-    {                                                                                 \
-        static constexpr auto create = rt##NAME##Create;                              \
-        static constexpr auto sort = rt##NAME##Sort;                                  \
-        static constexpr auto retain = rt##NAME##Retain, release = rt##NAME##Release; \
-        static constexpr auto obj = rt##NAME##Obj;                                    \
-        static constexpr auto from = rt##NAME##From;                                  \
-        static constexpr auto toString = rt##NAME##ToString;                          \
-        static constexpr auto compare = rt##NAME##Compare;                            \
-        static constexpr auto equals = rt##NAME##Equals;                              \
-        static constexpr const char *name = #HANDLE, *text = TEXT;                    \
-        static void fill( HANDLE *object ) { FILL; }                                  \
-        static void change( HANDLE *object ) { CHANGE; }                              \
-    };
-
-KIND( String, RT_STRING, "ab", rtStringAppendCstr( object, "ab", 2 ), rtStringAppendChar( object, 'c' ) )
-KIND( Vector, RT_VECTOR, "a", rtVectorAppendString( object, str( "a" ).get() ),
-      rtVectorDelLeading( object, 1 ) )
-KIND( Dict, RT_DICT, "a: 1", rtDictSetStringKey( object, str( "a" ).get(), rtStringObj( str( "1" ).get() ) ),
-      rtDictDelStringKey( object, str( "a" ).get() ) )
-KIND( Buffer, RT_BUFFER, "RT_BUFFER", rtBufferAppendBytes( object, "ab", 2 ),
-      rtBufferDelLeading( object, 1 ) )
-KIND( Store, RT_STORE, "RT_STORE", rtStoreSetValueCstr( object, "name", 4, str( "value" ).get() ),
-      rtStoreSetValueCstr( object, "name", -1, str( "other" ).get() ) )
-KIND( Time, RT_TIME, "2011-01-01 00:00:00", rtTimeSetYear( object, 2011 ), rtTimeSetDay( object, 28 ) )
-
-template <class KIND>
-struct RtObject : testing::Test
+namespace
 {
-    static auto make()
-    {
-        auto made = adopt( KIND::create() );
-        KIND::fill( made.address() );
-        return made;
+
+template <class HANDLE>
+Ref<HANDLE> filled( HANDLE created, void ( *fill )( HANDLE *object ) )
+{
+    Ref<HANDLE> object = adopt( created );
+    fill( object.address() );
+    return object;
+}
+
+// A type, the text of its sample, how that is filled and how it is changed.
+#define TYPE( NAME, HANDLE, TEXT, FILL, CHANGE )                                  \
+    {                                                                             \
+        OBJECT_TYPE( rt##NAME, HANDLE,                                            \
+                     filled(                                                      \
+                         rt##NAME##Create(), +[]( HANDLE *object ) { FILL; } ) ), \
+            nullptr, ERASED( +[]( HANDLE *object ) { CHANGE; } ), TEXT            \
     }
+const ObjectType types[] = {
+    TYPE( String, RT_STRING, "ab", rtStringAppendCstr( object, "ab", 2 ), rtStringAppendChar( object, 'c' ) ),
+    TYPE( Vector, RT_VECTOR, "a", rtVectorAppendString( object, str( "a" ).get() ),
+          rtVectorDelLeading( object, 1 ) ),
+    TYPE( Dict, RT_DICT, "a: 1",
+          rtDictSetStringKey( object, str( "a" ).get(), rtStringObj( str( "1" ).get() ) ),
+          rtDictDelStringKey( object, str( "a" ).get() ) ),
+    TYPE( Buffer, RT_BUFFER, "RT_BUFFER", rtBufferAppendBytes( object, "ab", 2 ),
+          rtBufferDelLeading( object, 1 ) ),
+    TYPE( Store, RT_STORE, "RT_STORE", rtStoreSetValueCstr( object, "name", 4, str( "value" ).get() ),
+          rtStoreSetValueCstr( object, "name", -1, str( "other" ).get() ) ),
+    TYPE( Time, RT_TIME, "2011-01-01 00:00:00", rtTimeSetYear( object, 2011 ), rtTimeSetDay( object, 28 ) ),
 };
+INSTANTIATE_TEST_SUITE_P( Rt, EveryObject, testing::ValuesIn( types ),
+                          []( auto &test ) { return test.param.sortName; } );
 
-using Kinds = testing::Types<String, Vector, Dict, Buffer, Store, Time>;
-TYPED_TEST_SUITE( RtObject, Kinds, );
-
-TYPED_TEST( RtObject, CountsReferences )
-{
-    auto object = this->make();
-    RT_OBJ obj = TypeParam::obj( object.get() );
-    EXPECT_EQ( 1, obj->count );
-    TypeParam::retain( object.get() );
-    rtObjRetain( obj );
-    EXPECT_EQ( 3, obj->count );
-    TypeParam::release( object.get() );
-    rtObjRelease( obj );
-    EXPECT_EQ( 1, obj->count );
-}
-
-TYPED_TEST( RtObject, KnowsItsSortAndText )
-{
-    auto object = this->make();
-    RT_OBJ obj = TypeParam::obj( object.get() );
-    EXPECT_EQ( TypeParam::sort(), rtObjSort( obj ) );
-    EXPECT_STREQ( TypeParam::name, TypeParam::sort()->name );
-    EXPECT_EQ( object.get(), TypeParam::from( obj ) );
-    EXPECT_EQ( nullptr, TypeParam::from( nullptr ) );
-    EXPECT_EQ( nullptr, TypeParam::obj( nullptr ) );
-    EXPECT_EQ( TypeParam::text, utf8( TypeParam::toString( object.get() ) ) );
-}
-
-TYPED_TEST( RtObject, ChangesOnlyTheHandleThatIsGiven )
-{
-    auto original = this->make(), copy = original, same = this->make();
-    TypeParam::change( copy.address() );
-    EXPECT_NE( original.get(), copy.get() );
-    EXPECT_EQ( 1, TypeParam::obj( original.get() )->count );
-    EXPECT_EQ( 1, TypeParam::obj( copy.get() )->count );
-
-    EXPECT_TRUE( TypeParam::equals( original.get(), same.get() ) );
-    EXPECT_EQ( 0, TypeParam::compare( original.get(), same.get() ) );
-    EXPECT_FALSE( TypeParam::equals( original.get(), copy.get() ) );
-    EXPECT_NE( 0, TypeParam::compare( original.get(), copy.get() ) );
-    EXPECT_NE( TypeParam::compare( original.get(), copy.get() ) < 0,
-               TypeParam::compare( copy.get(), same.get() ) < 0 );
-
-    TypeParam::change( same.address() );
-    EXPECT_TRUE( TypeParam::equals( same.get(), copy.get() ) );
-}
-
-TYPED_TEST( RtObject, AbortsForNullAndForOtherSorts )
-{
-    auto object = this->make();
-    EXPECT_ABORT( TypeParam::retain( nullptr ), "stdfunc retain: obj" );
-    EXPECT_ABORT( TypeParam::compare( object.get(), nullptr ), "stdfunc compare b: objB" );
-    EXPECT_FALSE( TypeParam::equals( object.get(), nullptr ) );
-    RT_OBJECT other = { rtStringSort() == TypeParam::sort() ? rtTimeSort() : rtStringSort(),
-                        RT_COUNT_IMMORTAL, 0 };
-    EXPECT_ABORT( TypeParam::from( &other ),
-                  "stdfunc from: !obj || rtObjSort(obj)==&rt___sort_" + std::string( TypeParam::name ) );
-}
+} // namespace
 
 TEST( RtObject, ComparesAnyTwo )
 {

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <set>
 
+#include "../../fuzz/headers.hpp"
 #include "telsx_support.hpp"
 
 namespace
@@ -49,53 +50,36 @@ std::string ofStream( std::string_view stream )
     return result + ( telsxMessageStreamDecoderLength( decoder.get() ) ? "..." : "" );
 }
 
-// The lines of a typed header.
-template <class HEADER>
-std::string linesOf( const char *name, Ref<HEADER> header, TELSX_MESSAGE_HEADER ( *encode )( HEADER ),
-                     const std::set<int64_t> &bad = {} )
-{
-    std::string result;
-    auto raw = adopt( encode( header.get() ) );
-    for ( int64_t i = 0; i < telsxMessageHeaderLinesLength( raw.get() ); ++i )
-        result += bad.contains( i )
-                      ? "null\r\n"
-                      : name + ( ": " + utf8( telsxMessageHeaderLineAt( raw.get(), i ) ) ) + "\r\n";
-    return result.empty() ? "empty\r\n" : result;
-}
-
-// Of a list, which is given back what each of its values decodes to.
-template <class HEADER, class VALUE>
-std::string linesOf( const char *name, Ref<HEADER> header, TELSX_MESSAGE_HEADER ( *encode )( HEADER ),
-                     int64_t ( *lengthOf )( HEADER ), VALUE ( *tryDecodeAt )( HEADER, int64_t ),
-                     void ( *setAt )( HEADER *, int64_t, VALUE ) )
+// The lines of a typed header. A list is given back what each of its values decodes to.
+std::string linesOf( const headers::Kind &kind, Ref<RT_OBJ> header )
 {
     std::set<int64_t> bad;
-    for ( int64_t i = 0; i < lengthOf( header.get() ); ++i )
-        if ( auto value = adopt( tryDecodeAt( header.get(), i ) ) )
-            setAt( header.address(), i, value.get() );
+    for ( int64_t i = 0; kind.set && i < kind.length( header.get() ); ++i )
+        if ( auto value = adopt( kind.at( header.get(), i ) ) )
+            kind.set( header.address(), i, value.get() );
         else
             bad.insert( i );
-    return linesOf( name, header, encode, bad );
+    std::string result;
+    auto raw = adopt( kind.encode( header.get() ) );
+    for ( int64_t i = 0; i < telsxMessageHeaderLinesLength( raw.get() ); ++i )
+        result += ( bad.contains( i )
+                        ? "null"
+                        : std::string( kind.name ) + ": " + utf8( telsxMessageHeaderLineAt( raw.get(), i ) ) )
+                  + "\r\n";
+    return result.empty() ? "empty\r\n" : result;
 }
 
 std::string ofHeaders( std::string_view lines )
 {
-    auto decoded = adopt( telsxMessageTryDecode(
-        buffer( "OPTIONS sip:a SIP/2.0\r\n" + std::string( lines ) + "\r\n\r\n" ).get() ) );
-    TELSX_MESSAGE msg = decoded.get();
+    auto msg = message( "OPTIONS sip:a SIP/2.0\r\n" + std::string( lines ) + "\r\n\r\n" );
     if ( !msg )
         return "no message";
     std::string result;
-#define LINES( NAME, SIP_NAME, ... )                                            \
-    if ( auto header = adopt( telsx##NAME##TryDecodeFromMessage( msg ) ) )      \
-        result += linesOf( SIP_NAME, header, telsx##NAME##Encode __VA_ARGS__ ); \
-    else if ( telsx##NAME##PresentInMessage( msg ) )                            \
-        result += "null\r\n";
-#define TELSX_KIND( NAME, SORT, SIP_NAME ) LINES( NAME, SIP_NAME )
-#define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE )                          \
-    LINES( NAME, SIP_NAME, , telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At, \
-           telsx##NAME##Set##WORD##At )
-#include "telsx/telsx_headers.def"
+    for ( const headers::Kind &kind : headers::all )
+        if ( auto header = adopt( kind.tryDecodeFromMessage( msg.get() ) ) )
+            result += linesOf( kind, header );
+        else if ( kind.presentInMessage( msg.get() ) )
+            result += "null\r\n";
     return result.substr( 0, result.size() - 2 );
 }
 

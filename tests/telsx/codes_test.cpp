@@ -12,38 +12,54 @@ TEST( StatusCode, HasAClassAndAPhrase )
         telsxStatusCodeInformational, telsxStatusCodeSuccess,     telsxStatusCodeRedirection,
         telsxStatusCodeClientError,   telsxStatusCodeServerError, telsxStatusCodeGlobalFailure
     };
-    int known = 0;
+    std::string known;
     for ( int64_t sc = 100; sc <= 999; ++sc )
     {
         EXPECT_TRUE( telsxStatusCodeOk( sc ) ) << sc;
         for ( int64_t i = 0; i < std::ssize( classes ); ++i )
             EXPECT_EQ( sc / 100 == i + 1, classes[i]( sc ) != 0 ) << sc;
-        known +=
-            utf8( telsxStatusCodeReasonPhrase( sc ) ) != "Unknown reason \"" + std::to_string( sc ) + "\"";
+        std::string phrase = utf8( telsxStatusCodeReasonPhrase( sc ) ), number = std::to_string( sc );
+        if ( phrase != "Unknown reason \"" + number + "\"" )
+            known += number + " " + phrase + "\n";
     }
-    EXPECT_EQ( 57, known );
-    for ( auto [sc, phrase] : { std::pair( 100, "Trying" ),
-                                { 183, "Session progress" },
-                                { 414, "Request-URI too long" },
-                                { 481, "Call leg/transaction does not exist" },
-                                { 606, "Not acceptable" } } )
-        EXPECT_EQ( phrase, utf8( telsxStatusCodeReasonPhrase( sc ) ) );
-    EXPECT_EQ( "Unknown reason \"411\"", utf8( telsxStatusCodeReasonPhrase( 411 ) ) );
+    EXPECT_EQ( "100 Trying\n180 Ringing\n181 Call is being forwarded\n182 Queued\n183 Session progress\n"
+               "200 OK\n202 Accepted\n300 Multiple choices\n301 Moved permanently\n302 Moved temporarily\n"
+               "305 Use proxy\n380 Alternative service\n400 Bad request\n401 Unauthorized\n"
+               "402 Payment required\n403 Forbidden\n404 Not found\n405 Method not allowed\n"
+               "406 Not acceptable\n407 Proxy authentication required\n408 Request timeout\n409 Conflict\n"
+               "410 Gone\n412 Length required\n413 Request entity too large\n414 Request-URI too long\n"
+               "415 Unsupported media type\n416 Unsupported URI scheme\n420 Bad extension\n"
+               "421 Extension required\n422 Session interval too small\n423 Interval too brief\n"
+               "429 Provide referrer identity\n480 Temporarily not available\n"
+               "481 Call leg/transaction does not exist\n482 Loop detected\n483 Too many hops\n"
+               "484 Address incomplete\n485 Ambiguous\n486 Busy here\n487 Request terminated\n"
+               "488 Not acceptable here\n489 Bad event\n491 Request pending\n493 Undecipherable\n"
+               "500 Internal server error\n501 Not implemented\n502 Bad gateway\n503 Service unavailable\n"
+               "504 Server timeout\n505 SIP version not supported\n513 Message too large\n"
+               "580 Precondition failed\n600 Busy everywhere\n603 Decline\n604 Does not exist anywhere\n"
+               "606 Not acceptable\n",
+               known );
     EXPECT_ABORT( telsxStatusCodeReasonPhrase( TELSX_STATUS_CODE_INVALID ), "telsxStatusCodeOk( sc )" );
 }
 
 TEST( WarnCode, HasTextAndDigits )
 {
-    int known = 0;
+    std::string known;
     for ( int64_t code = 0; code <= 999; ++code )
     {
         EXPECT_EQ( std::to_string( code ), utf8( telsx___WarnCodeEncode( code ) ) );
-        known += !utf8( telsxWarnCodeToString( code ) ).starts_with( "Warning \"" );
+        std::string text = utf8( telsxWarnCodeToString( code ) );
+        if ( !text.starts_with( "Warning \"" ) )
+            known += std::to_string( code ) + " " + text + "\n";
     }
-    EXPECT_EQ( 12, known );
+    EXPECT_EQ( "300 Incompatible network protocol\n301 Incompatible network address formats\n"
+               "302 Incompatible transport protocol\n303 Incompatible bandwidth units\n304 Media type not "
+               "available\n"
+               "305 Incompatible media format\n306 Attribute not understood\n"
+               "307 Session description parameter not understood\n330 Multicast not available\n"
+               "331 Unicast not available\n370 Insufficient bandwidth\n399 Miscellaneous warning\n",
+               known );
     EXPECT_EQ( "Warning \"007\"", utf8( telsxWarnCodeToString( 7 ) ) );
-    EXPECT_EQ( "Media type not available", utf8( telsxWarnCodeToString( 304 ) ) );
-    EXPECT_EQ( "Miscellaneous warning", utf8( telsxWarnCodeToString( 399 ) ) );
     EXPECT_EQ( 7, applied( telsx___WarnCodeDecode, "007" ) );
     EXPECT_ABORT(
         applied( telsx___WarnCodeDecode, "39x" ),

@@ -8,10 +8,6 @@ TEST( Encoding, WritesTheNormalForm )
     std::pair<std::string, std::string> cases[] = {
         { "", "Content-Length: 0\r\n\r\n" },
         { "\r\n\r\nabc", "Content-Length: 3\r\n\r\nabc" },
-        { "INVITE sip:b SIP/2.0\r\n\r\n", "INVITE sip:b SIP/2.0\r\nContent-Length: 0\r\n\r\n" },
-        { "A sip:\xC3\xA4@\xC3\xA4.de a / 1X\r\n\r\n",
-          "A sip:%C3%A4@xn--4ca.de A/1x\r\nContent-Length: 0\r\n\r\n" },
-        { "SIP/2.0 200\r\n\r\n", "SIP/2.0 200 \r\nContent-Length: 0\r\n\r\n" },
         { "SIP/2.0 00100 A \"b\" 5%25%0D%0A%41\xC3\xA4\r\n\r\n",
           "SIP/2.0 100 A %22b%22 5%25%0D%0AA\xC3\xA4\r\nContent-Length: 0\r\n\r\n" },
         // Lines of one name stand together; Content-Length keeps its place and tells the truth.

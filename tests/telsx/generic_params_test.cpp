@@ -69,13 +69,11 @@ TEST( GenericParams, ValuesOfAParameter )
 // What is decoded: an address in dots and a host name are tokens.
 TEST( GenericParams, TypesOfDecodedValues )
 {
-    for ( auto [type, wire, value] :
-          { std::tuple( -1, "a", "(null)" ), std::tuple( +token, "a=1.2.3.4", "1.2.3.4" ),
-            std::tuple( +host, "a=[::A]", "[::A]" ), std::tuple( +quotable, "a=\"B \\c\"", "B c" ) } )
+    for ( auto [type, wire] :
+          { std::pair( -1, "a" ), { token, "a=1.2.3.4" }, { host, "a=[::A]" }, { quotable, "a=\"B\"" } } )
     {
         EXPECT_EQ( type, telsxGenericParamValueType( param( wire ).get() ) ) << wire;
         EXPECT_EQ( type != -1, bool( telsxGenericParamHasValue( param( wire ).get() ) ) ) << wire;
-        EXPECT_EQ( value, utf8( telsxGenericParamValueNonNormalized( param( wire ).get() ) ) );
     }
 }
 
@@ -125,17 +123,9 @@ TEST( GenericParams, AreLookedUpInAnyCase )
         EXPECT_EQ( nullptr, telsxGenericParamsParamValueNonNormalizedCstr( set.get(), absent, -1 ) );
     }
 
-    const char *all[] = { "q=B", "x", "y=\"\"" };
-    Ref<RT_VECTOR> vector = adopt( telsxGenericParamsParamsVector( set.get() ) );
-    ASSERT_EQ( 3, rtVectorLength( vector.get() ) );
-    for ( int64_t i = 0; i < 3; ++i )
-    {
-        Param at = adopt( telsxGenericParamsParamAt( set.get(), i ) );
-        EXPECT_EQ( all[i], text( at ) );
-        EXPECT_EQ( telsxGenericParamObj( at.get() ), adopt( rtVectorObjAt( vector.get(), i ) ).get() );
-        EXPECT_EQ( telsxGenericParamValueType( at.get() ),
-                   telsxGenericParamsParamValueTypeAt( set.get(), i ) );
-    }
+    EXPECT_EQ( "q=B, x, y=\"\"", shown( telsxGenericParamsParamsVector( set.get() ) ) );
+    EXPECT_EQ( "y=\"\"", text( adopt( telsxGenericParamsParamAt( set.get(), 2 ) ) ) );
+    EXPECT_EQ( quotable, telsxGenericParamsParamValueTypeAt( set.get(), 2 ) );
     EXPECT_EQ( "b", utf8( telsxGenericParamsParamValueNormalizedAt( set.get(), 0 ) ) );
     EXPECT_EQ( "B", utf8( telsxGenericParamsParamValueNonNormalizedAt( set.get(), 0 ) ) );
     EXPECT_EQ( nullptr, telsxGenericParamsParamValueNormalizedAt( set.get(), 1 ) );
@@ -143,6 +133,8 @@ TEST( GenericParams, AreLookedUpInAnyCase )
 
 TEST( GenericParams, AreSetInThreeForms )
 {
+    EXPECT_EQ( params( ";a;b=C" ), params( ";B=c;A" ) );
+    EXPECT_NE( params( ";a;b=C" ), params( ";a;b=\"C\"" ) );
     Params set = params( ";a;b=1" );
     telsxGenericParamsDelParamCstr( set.address(), "B", -1 );
     telsxGenericParamsDelParamWcstr( set.address(), L"none", -1 );
@@ -167,14 +159,6 @@ TEST( GenericParams, AreSetFromAVector )
 
     rtVectorAppendString( vector.address(), str( "c" ).get() );
     EXPECT_DEATH( telsxGenericParamsSetParamsVector( set.address(), vector.get() ), "telsx_generic_params" );
-}
-
-TEST( GenericParams, EqualSetsHoldEqualParameters )
-{
-    EXPECT_EQ( params( ";a;b=C" ), params( ";B=c;A" ) );
-    EXPECT_NE( params( ";a;b=C" ), params( ";a;b=\"C\"" ) );
-    EXPECT_NE( params( ";a" ), params( "" ) );
-    EXPECT_NE( params( ";a" ), params( ";a=b" ) );
 }
 
 TEST( GenericParams, AreNewAlsoWhenEmpty )

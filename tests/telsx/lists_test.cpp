@@ -1,6 +1,5 @@
-// Lists of values as they change, what they share with the raw header, and the star.
-
-#include "telsx/object_tables.hpp"
+// Lists and sets as they change, what they share with the raw header, and the star.
+#include "rt/model.hpp"
 #include "telsx/samples.hpp"
 
 using namespace support;
@@ -8,119 +7,174 @@ using namespace support;
 namespace
 {
 
-// The operations of a list kind. Values go in and come out as text.
-struct List
-{
-    std::string_view name, valueName;
-    RT_OBJ ( *create )();
-    int64_t ( *length )( RT_OBJ hdr );
-    std::string ( *at )( RT_OBJ hdr, int64_t index );
-    void ( *set )( RT_OBJ *hdr, int64_t index, RT_OBJ value );
-    void ( *del )( RT_OBJ *hdr, int64_t index );
-    void ( *prepend )( RT_OBJ *hdr, RT_OBJ value );
-    void ( *append )( RT_OBJ *hdr, RT_OBJ value );
-    void ( *insert )( RT_OBJ *hdr, int64_t index, RT_OBJ value );
-    void ( *clear )( RT_OBJ *hdr );
+using Strings = std::vector<std::string>;
 
-    const headers::Kind &kind() const { return named( headers::all, name ); }
-    Ref<RT_OBJ> read( const OptionalText &lines ) const { return support::read( kind(), lines ); }
-    std::string lines( const Ref<RT_OBJ> &hdr ) const { return write( kind(), hdr ); }
-    Ref<RT_OBJ> value( const std::string &text ) const
+// A kind that is a list or a set.
+struct List : headers::Kind
+{
+    Ref<RT_OBJ> read( const OptionalText &lines ) const { return support::read( *this, lines ); }
+    std::string lines( const Ref<RT_OBJ> &hdr ) const { return write( *this, hdr ); }
+    std::string text( const Ref<RT_OBJ> &of ) const
     {
-        return support::read( named( values::all, valueName ), text );
+        if ( !of )
+            return "(null)";
+        return vector ? utf8( rtStringFrom( of.retained() ) ) : write( named( values::all, item ), of );
+    }
+    Strings texts( const Ref<RT_OBJ> &hdr ) const
+    {
+        Strings all;
+        for ( int64_t i = 0; i < length( hdr.get() ); ++i )
+            all.push_back( text( adopt( at( hdr.get(), i ) ) ) );
+        return all;
+    }
+    // Values of the rows of their type, that come back from what they are written as; texts, of the rows of the header,
+    // in other cases too.
+    std::vector<Ref<RT_OBJ>> samples() const
+    {
+        std::vector<Ref<RT_OBJ>> found;
+        auto takeValue = [&]( const OptionalText &, const OptionalText &written )
+        {
+            Ref<RT_OBJ> value =
+                written ? support::read( named( values::all, item ), written ) : Ref<RT_OBJ>();
+            if ( value && text( value ) == written )
+                found.push_back( value );
+        };
+        auto takeTexts = [&]( const OptionalText &lines, const OptionalText & )
+        {
+            Ref<RT_OBJ> hdr = read( lines );
+            for ( int64_t i = 0; hdr && i < length( hdr.get() ); ++i )
+                found.push_back( adopt( at( hdr.get(), i ) ) );
+        };
+        for ( const Texts &texts : vector ? headerTexts : valueTexts )
+            if ( texts.areFor( std::string( vector ? name : item ) ) )
+                vector ? forEach( texts, takeTexts ) : forEach( texts, takeValue );
+        for ( std::size_t i = found.size(); vector && i--; )
+        {
+            Ref<RT_STRING> upper = adopt( rtStringFrom( found[i].retained() ) );
+            rtStringToUpper( upper.address() );
+            found.push_back( adopt( rtStringObj( upper.take() ) ) );
+        }
+        return found;
     }
 };
 
-// What a value of the type is written as around a letter, and what its encoder says to null.
-struct Form
+std::vector<List> allLists()
 {
-    std::string_view valueName;
-    const char *front, *back, *self;
+    std::vector<List> found;
+    for ( const headers::Kind &kind : headers::all )
+        if ( kind.at )
+            found.push_back( { kind } );
+    return found;
+}
+const std::vector<List> lists = allLists();
 
-    std::string text( char letter ) const { return front + std::string( 1, letter ) + back; }
-};
+using Side = model::Side<RT_OBJ, Strings>;
 
-const Form forms[] = {
-    { "Accept", "a/", ";q=0.500", "accept" },
-    { "AcceptEncoding", "", ";x=\",\"", "acceptEncoding" },
-    { "AlertInfo", "<sip:", ">", "alertInfo" },
-    { "CallInfo", "<sip:", ">;purpose=icon", "callInfo" },
-    { "Contact", "\"A, B\" <sip:", ">;q=1.000", "contact" },
-    { "Diversion", "<sip:", ">;counter=1", "diversion" },
-    { "ErrorInfo", "<sip:", ">", "errorInfo" },
-    { "HistoryInfo", "<sip:", ">;index=1.1", "hi" },
-    { "IdentityValue", "<sip:", ">", "value" },
-    { "Reason", "", ";cause=1", "reason" },
-    { "Route", "<sip:", ";lr>;x", "route" },
-    { "Via", "SIP/2.0/UDP ", ";branch=z9hG4bK1", "via" },
-    { "WarningValue", "399 ", " \"a, \\\"b\\\"\"", "warning" },
-};
-
-const Form &formOf( const List &list )
+void changeList( const List &list, const Ref<RT_OBJ> &item, Side &side, model::Random &random )
 {
-    return *std::find_if( std::begin( forms ), std::end( forms ),
-                          [&]( const Form &form ) { return form.valueName == list.valueName; } );
+    RT_OBJ *hdr = side.real.address();
+    Strings &texts = side.model;
+    Ref<RT_OBJ> alone = adopt( list.create() );
+    list.append( alone.address(), item.get() );
+    const std::string text = list.texts( alone ).at( 0 ); // its normal form
+    int64_t index = random.upTo( texts.size() );
+    auto at = texts.begin() + index;
+    const std::function<void()> actions[] = {
+        [&] { list.append( hdr, item.get() ), texts.push_back( text ); },
+        [&] { list.prepend( hdr, item.get() ), texts.insert( texts.begin(), text ); },
+        [&] { list.insert( hdr, index, item.get() ), texts.insert( at, text ); },
+        [&]
+        {
+            if ( at != texts.end() )
+                list.set( hdr, index, item.get() ), *at = text;
+        },
+        [&]
+        {
+            if ( at != texts.end() )
+                list.del( hdr, index ), texts.erase( at );
+        },
+    };
+    random.act( actions );
 }
 
-// A change of a list of one kind by a function for another handle type.
-template <class HANDLE, class CHANGE>
-void changeAs( RT_OBJ *hdr, CHANGE change )
+void changeSet( const List &set, const Ref<RT_OBJ> &item, Side &side, model::Random &random )
 {
-    HANDLE handle = hdr ? reinterpret_cast<HANDLE>( *hdr ) : nullptr;
-    change( hdr ? &handle : nullptr );
-    *hdr = rt::asObj( handle );
+    Ref<RT_OBJ> alone = adopt( set.create() );
+    set.add( alone.address(), item.get() );
+    const std::string text = set.texts( alone ).at( 0 );
+    auto at = std::ranges::find( side.model, text );
+    bool isThere = at != side.model.end();
+    EXPECT_EQ( isThere, bool( set.has( side.real.get(), item.get() ) ) ) << text;
+    if ( random.below( 3 ) )
+    {
+        set.add( side.real.address(), item.get() );
+        if ( !isThere )
+            side.model.push_back( text );
+        return;
+    }
+    set.remove( side.real.address(), item.get() );
+    if ( isThere )
+        side.model.erase( at );
 }
 
 } // namespace
 
-// Two kinds have a name of their own for this.
-#define telsxHeaderContactClearContacts telsxHeaderContactClear
-#define telsxHeaderWarningClearWarnings telsxHeaderWarningWarningsClear
-
-#define CHANGE( SORT, CALL ) changeAs<TELSX_##SORT>( hdr, [&]( TELSX_##SORT *handle ) { CALL; } )
-#define TELSX_KIND( ... )
-#define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE )                                        \
-    { SIP_NAME,                                                                                          \
-      #VALUE,                                                                                            \
-      [] { return telsx##NAME##Obj( telsx##NAME##Create() ); },                                          \
-      []( RT_OBJ hdr ) { return telsx##NAME##WORD##sLength( telsx##NAME##From( hdr ) ); },               \
-      []( RT_OBJ hdr, int64_t index )                                                                    \
-      {                                                                                                  \
-          auto value = adopt( telsx##NAME##TryDecode##WORD##At( telsx##NAME##From( hdr ), index ) );     \
-          return value ? utf8( telsx___##VALUE##Encode( value.get() ) ) : "(null)";                      \
-      },                                                                                                 \
-      []( RT_OBJ *hdr, int64_t index, RT_OBJ value )                                                     \
-      { CHANGE( SORT, telsx##NAME##Set##WORD##At( handle, index, telsx##VALUE##From( value ) ) ); },     \
-      []( RT_OBJ *hdr, int64_t index ) { CHANGE( SORT, telsx##NAME##Del##WORD##At( handle, index ) ); }, \
-      []( RT_OBJ *hdr, RT_OBJ value )                                                                    \
-      { CHANGE( SORT, telsx##NAME##Prepend##WORD( handle, telsx##VALUE##From( value ) ) ); },            \
-      []( RT_OBJ *hdr, RT_OBJ value )                                                                    \
-      { CHANGE( SORT, telsx##NAME##Append##WORD( handle, telsx##VALUE##From( value ) ) ); },             \
-      []( RT_OBJ *hdr, int64_t index, RT_OBJ value )                                                     \
-      { CHANGE( SORT, telsx##NAME##Insert##WORD( handle, index, telsx##VALUE##From( value ) ) ); },      \
-      []( RT_OBJ *hdr ) { CHANGE( SORT, telsx##NAME##Clear##WORD##s( handle ) ); } },
-static const List lists[] = {
-#include "telsx/telsx_headers.def"
-};
-#undef TELSX_KIND
-
-TEST( Lists, AbortForNullAndForIndicesOutside )
+// A header that was read keeps more than one that was made: so it is read anew now and then.
+TEST( Lists, ActLikeTheirModels )
 {
     for ( const List &list : lists )
     {
         SCOPED_TRACE( list.name );
-        Ref<RT_OBJ> hdr = adopt( list.create() ), value = list.value( formOf( list ).text( 'a' ) );
-        list.append( hdr.address(), value.get() );
-        for ( int64_t index : { int64_t( -1 ), int64_t( 1 ) } )
+        const std::vector<Ref<RT_OBJ>> samples = list.samples();
+        ASSERT_GT( samples.size(), 1u ) << "rows_headers.def and rows_values.def need rows for " << list.name;
+        auto step = [&]( Side &side, const Side &other, model::Random &random )
         {
-            EXPECT_DEATH( list.at( hdr.get(), index ), "rt_vector.*index" );
-            EXPECT_DEATH( list.set( hdr.address(), index, value.get() ), "rt_vector.*index" );
-            EXPECT_DEATH( list.del( hdr.address(), index ), "rt_vector.*index" );
-            EXPECT_DEATH( list.insert( hdr.address(), 2 * index, value.get() ), "rt_vector.*index" );
-        }
+            const Ref<RT_OBJ> &item = samples[random.below( std::ssize( samples ) )];
+            int64_t what = random.below( 16 );
+            if ( what == 0 || side.model.size() > 12 )
+                list.clear( side.real.address() ), side.model.clear();
+            else if ( what == 1 && side.model.size() )
+                side.real = list.read( list.lines( side.real ) );
+            else if ( what == 2 && list.vector )
+                list.setVector( side.real.address(), adopt( list.vector( other.real.get() ) ).get() ),
+                    side.model = other.model;
+            else
+                ( list.add ? changeSet : changeList )( list, item, side, random );
+        };
+        auto same = [&]( const Side &side ) { EXPECT_EQ( side.model, list.texts( side.real ) ); };
+        model::run<Strings>( adopt( list.create() ), 500, step, same );
+    }
+}
 
+TEST( Lists, AbortForBrokenContracts )
+{
+    for ( const List &list : lists )
+    {
+        SCOPED_TRACE( list.name );
+        Ref<RT_OBJ> hdr = adopt( list.create() ), item = list.samples().at( 0 ),
+                    bad = adopt( rtStringObj( str( "a b" ).take() ) );
+        RT_OBJ none = nullptr;
         EXPECT_ABORT( list.length( nullptr ), "hdr" );
         EXPECT_ABORT( list.at( nullptr, 0 ), "hdr" );
+        EXPECT_DEATH( list.at( hdr.get(), 0 ), "index" );
+        EXPECT_ABORT( list.clear( nullptr ), "hdr" );
+        EXPECT_ABORT( list.clear( &none ), "*hdr" );
+        if ( list.add )
+        {
+            std::string condition = "telsx" + std::string( list.item ) + "Ok( element )";
+            EXPECT_ABORT( list.has( nullptr, item.get() ), "hdr" );
+            EXPECT_ABORT( list.add( nullptr, item.get() ), "hdr" );
+            EXPECT_ABORT( list.has( hdr.get(), bad.get() ), condition );
+            EXPECT_ABORT( list.add( hdr.address(), bad.get() ), condition );
+            EXPECT_ABORT( list.remove( hdr.address(), bad.get() ), condition );
+            EXPECT_ABORT( list.setVector( &none, nullptr ), "vec" );
+            continue;
+        }
+        list.append( hdr.address(), item.get() );
+        EXPECT_DEATH( list.set( hdr.address(), 1, item.get() ), "rt_vector.*index" );
+        EXPECT_DEATH( list.del( hdr.address(), -1 ), "rt_vector.*index" );
+        EXPECT_DEATH( list.insert( hdr.address(), 2, item.get() ), "rt_vector.*index" );
+        EXPECT_ABORT( list.del( nullptr, 0 ), "hdr" );
         const std::function<void( RT_OBJ * )> changes[] = {
             [&]( RT_OBJ *of ) { list.set( of, 0, nullptr ); },
             [&]( RT_OBJ *of ) { list.insert( of, 0, nullptr ); },
@@ -129,14 +183,42 @@ TEST( Lists, AbortForNullAndForIndicesOutside )
         };
         for ( auto &change : changes )
         {
-            RT_OBJ none = nullptr;
             EXPECT_ABORT( change( nullptr ), "hdr" );
             EXPECT_ABORT( change( &none ), "*hdr" );
-            EXPECT_ABORT( change( hdr.address() ), formOf( list ).self );
+            EXPECT_DEATH( change( hdr.address() ), "source/[a-z_/]*:[0-9]*: [a-zA-Z]+\n" );
         }
-        EXPECT_ABORT( list.clear( nullptr ), "hdr" );
-        EXPECT_ABORT( list.del( nullptr, 0 ), "hdr" );
     }
+}
+
+// Whatever has a text can stand in the vector of a set, and strings alone in that of a list.
+TEST( Kinds, Sets )
+{
+    Ref<RT_VECTOR> vector = adopt( rtVectorCreate() ), texts = vector;
+    for ( const char *text : { "X", "x" } )
+        rtVectorAppendString( texts.address(), str( text ).get() );
+    rtVectorAppend( vector.address(), rt::asObj( sample<TELSX_HEADER_PRIORITY>().get() ) );
+    Ref<RT_VECTOR> bad = vector;
+    rtVectorAppend( bad.address(), rt::asObj( sample<TELSX_HEADER_CSEQ>().get() ) );
+    for ( const List &list : lists )
+    {
+        if ( !list.vector )
+            continue;
+        Ref<RT_OBJ> hdr = adopt( list.create() );
+        list.setVector( hdr.address(), texts.get() );
+        Strings set = list.texts( hdr );
+        EXPECT_EQ( list.add && set.at( 0 ) == "x" ? 1u : 2u, set.size() ) << list.name;
+        EXPECT_EQ( set.back(), "x" ) << list.name;
+        if ( list.add )
+        {
+            list.setVector( hdr.address(), vector.get() );
+            EXPECT_EQ( Strings{ "non-urgent" }, list.texts( hdr ) ) << list.name;
+        }
+        EXPECT_DEATH( list.setVector( hdr.address(), bad.get() ),
+                      list.add ? "telsx" + std::string( list.item ) + "Ok.* element "
+                               : ": rtVectorContainsOnly.* vec, rtStringSort" );
+    }
+    EXPECT_EQ( read( named( headers::all, "Allow" ), "a,b" ),
+               read( named( headers::all, "Allow" ), "b\na" ) );
 }
 
 // A value that passes in the list may be none for its decoder; the others stand, and all go out as they came, until
@@ -158,9 +240,9 @@ TEST( Lists, KeepTextsAndNotObjects )
 TEST( Lists, OfViaAndWarningAreRestoredWithoutLines )
 {
     for ( const List &list : lists )
-        for ( RT_STORE store : { rtStoreCreate(), list.kind().store( adopt( list.create() ).get() ) } )
+        for ( RT_STORE store : { rtStoreCreate(), list.store( adopt( list.create() ).get() ) } )
         {
-            Ref<RT_OBJ> restored = adopt( list.kind().tryRestore( adopt( store ).get() ) );
+            Ref<RT_OBJ> restored = adopt( list.tryRestore( adopt( store ).get() ) );
             EXPECT_EQ( list.name == "Via" || list.name == "Warning", bool( restored ) ) << list.name;
             EXPECT_TRUE( !restored || list.length( restored.get() ) == 0 ) << list.name;
         }
@@ -174,13 +256,15 @@ TEST( Lists, ShareTheTextOfTheLines )
     for ( const List &list : lists )
     {
         SCOPED_TRACE( list.name );
-        std::string value = formOf( list ).text( 'a' ), two = value + ";y=" + std::string( 40, 'a' );
+        if ( list.vector )
+            continue;
+        std::string value = sampleValue( list.item ), two = value + ";y=" + std::string( 40, 'a' );
         bool hasParams = bool( list.read( two ) );
         two = hasParams ? two + ", " + two : value + "," + value;
         headers::Raw raw = rawHeader( list.name, value + "\n" + two );
-        Ref<RT_OBJ> hdr = adopt( list.kind().tryDecode( raw.get() ) );
+        Ref<RT_OBJ> hdr = adopt( list.tryDecode( raw.get() ) );
         ASSERT_TRUE( hdr );
-        headers::Raw encoded = adopt( list.kind().encode( hdr.get() ) );
+        headers::Raw encoded = adopt( list.encode( hdr.get() ) );
         EXPECT_EQ( lineAt( raw, 0 ).get(), lineAt( encoded, 0 ).get() );
         Text line = rt::textOf( lineAt( raw, 1 ) ), part = rt::textOf( lineAt( encoded, 2 ) );
         EXPECT_TRUE( !hasParams || line.chs + line.length == part.chs + part.length );
@@ -212,21 +296,19 @@ TEST( Lists, ContactIsAStarOrAList )
     EXPECT_TRUE( telsxHeaderContactIsStarForm( adopt( telsxHeaderContactCreateFrom( hdr.get() ) ).get() ) );
     EXPECT_DEATH( telsxHeaderContactDelContactAt( hdr.address(), 0 ), "index" );
 
-    const std::function<void( TELSX_HEADER_CONTACT * )> adds[] = {
-        [&]( auto *to ) { telsxHeaderContactAppendContact( to, contact.get() ); },
-        [&]( auto *to ) { telsxHeaderContactPrependContact( to, contact.get() ); },
-        [&]( auto *to ) { telsxHeaderContactInsertContact( to, 0, contact.get() ); },
-    };
-    for ( auto &add : adds )
+    // A value takes the place of the star, and the star that of the values.
+    for ( auto *add : { telsxHeaderContactAppendContact, telsxHeaderContactPrependContact,
+                        +[]( TELSX_HEADER_CONTACT *to, TELSX_CONTACT value )
+                        { telsxHeaderContactInsertContact( to, 0, value ); } } )
     {
         telsxHeaderContactSetStarForm( hdr.address(), 1 );
-        add( hdr.address() );
+        add( hdr.address(), contact.get() );
         expectForm( 0, "<sip:a>" );
         telsxHeaderContactSetStarForm( hdr.address(), 1 );
         expectForm( 1, "*" );
         telsxHeaderContactClear( hdr.address() );
         expectForm( 0, "" );
-        add( hdr.address() );
+        add( hdr.address(), contact.get() );
         telsxHeaderContactSetStarForm( hdr.address(), 0 );
         expectForm( 0, "" );
     }
@@ -279,16 +361,5 @@ TEST( ViaList, KeepsItsFirstValueAsItsTextIsDecoded )
             first )
             << line;
         EXPECT_TRUE( !first || rt::asObj( first.get() )->count == 1 ) << "each reading gives its own";
-
-        // It leaves with the value, also from a copy, and lists are compared without it.
-        auto copy = list;
-        if ( first )
-            telsxHeaderViaSetViaAt( copy.address(), 0, first.get() );
-        telsxHeaderViaPrependVia(
-            copy.address(), adopt( telsxViaCreateDummy( adopt( telsxVersionCreateSip20() ).get() ) ).get() );
-        EXPECT_NE( first, adopt( telsxHeaderViaTryDecodeViaAt( copy.get(), 0 ) ) ) << line;
-        telsxHeaderViaDelViaAt( copy.address(), 0 );
-        EXPECT_EQ( first, adopt( telsxHeaderViaTryDecodeViaAt( copy.get(), 0 ) ) ) << line;
-        EXPECT_EQ( first, adopt( telsxHeaderViaTryDecodeViaAt( list.get(), 0 ) ) ) << line;
     }
 }

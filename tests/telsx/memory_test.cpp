@@ -1,8 +1,8 @@
 // What messages and their headers hold of memory, and the end of a process that has no more.
 #include <sys/wait.h>
 
+#include "../../bench/heap.hpp"
 #include "../../fuzz/headers.hpp"
-#include "support/heap.hpp"
 #include "telsx/telsx_support.hpp"
 
 using namespace support;
@@ -53,6 +53,30 @@ TEST( Memory, WhatIsKeptHoldsLittleMoreThanItsText )
         return adopt( telsxRouteIri( adopt( telsxHeaderRouteTryDecodeRouteAt( routes.get(), 0 ) ).get() ) );
     };
     EXPECT_LE( heap::heldBy( keepPart ), 16 * rtStringLength( keepPart().get() ) + 200 );
+}
+
+TEST( Memory, OfWhatIsDeletedIsUsedAgain )
+{
+    if ( !heap::isMeasured )
+        GTEST_SKIP() << "a sanitizer has the heap";
+    auto keepDict = []
+    {
+        Ref<RT_DICT> dict = adopt( rtDictCreate() );
+        for ( int i = 0; i < 10'000; ++i )
+        {
+            Ref<RT_STRING> key = str( std::to_string( i % 5000 ) );
+            if ( i < 5000 )
+                rtDictSetStringKey( dict.address(), key.get(), rtStringObj( key.get() ) );
+            else
+                rtDictDelStringKey( dict.address(), key.get() );
+        }
+        return dict;
+    };
+    EXPECT_LE( heap::heldBy( keepDict ), 2000 );
+    heap::allocationsLeft = 100'000;
+    for ( int i = 0; i < 10'000; ++i )
+        adopt( rtBufferCreateFromBytesCopy( "a", 1 ) );
+    EXPECT_GE( heap::allocationsLeft.exchange( INT64_MAX ), 99'900 );
 }
 
 // The message behind a way on which everything allocates.

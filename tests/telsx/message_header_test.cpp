@@ -160,6 +160,50 @@ TEST( MessageHeaderStore, RestoresTheSameHeader )
     EXPECT_EQ( headers[3], adopt( telsxMessageHeaderRestoreLinesWcstr( L"v", -1, lines.get() ) ) );
 }
 
+// Words key=value; a key that begins with "lines." is one of the store of lines, and {} an empty store.
+static Ref<RT_STORE> storeOf( const std::string &entries )
+{
+    Ref<RT_STORE> store = adopt( rtStoreCreate() ), lines = store;
+    auto put = []( Ref<RT_STORE> &into, const std::string &key, const std::string &value )
+    {
+        if ( value == "{}" )
+            rtStoreSetStoreCstr( into.address(), key.c_str(), -1, adopt( rtStoreCreate() ).get() );
+        else
+            rtStoreSetValueCstr( into.address(), key.c_str(), -1, str( value ).get() );
+    };
+    for ( const std::string &entry : words( entries ) )
+    {
+        auto [key, value] = halves( entry );
+        if ( key.starts_with( "lines." ) )
+        {
+            put( lines, key.substr( 6 ), value );
+            rtStoreSetStoreCstr( store.address(), "lines", -1, lines.get() );
+        }
+        else
+            put( store, key, value );
+    }
+    return store;
+}
+
+TEST( MessageHeaderStore, GivesWhatIsLeftOfADamagedOne )
+{
+    for ( auto [entries, expected] :
+          { std::pair( "name=via lines.9=a lines.1= lines.x=b\r", "Via: <a> <> <b\r>" ),
+            { "x={} y=z lines.0=a lines.1={} lines.2=c name=To", "To: <a> <c>" },
+            { "name=Via lines={}", "Via:" },
+            { "name=Via lines.0=a lines=b", "(null)" },
+            { "name=Via", "(null)" },
+            { "lines.0=a", "(null)" },
+            { "name={} lines.0=a", "(null)" },
+            { "name=a:b lines.0=a", "(null)" },
+            { "name= lines.0=a", "(null)" },
+            { "name=Via lines.0=a lines.1=\r\n lines.2=b", "(null)" } } )
+    {
+        auto restored = adopt( telsxMessageHeaderTryRestore( storeOf( entries ).get() ) );
+        EXPECT_EQ( expected, restored ? dump( restored.get() ) : "(null)" ) << entries;
+    }
+}
+
 TEST( MessageHeader, AbortsForBrokenContracts )
 {
     Ref<TELSX_MESSAGE_HEADER> via = header( "Via", { "a" } );

@@ -12,9 +12,16 @@
 namespace support
 {
 
-// Texts of the types named, blanks between the names: those that are written as they are read, those that are
-// written otherwise, and bad ones. The front stands before each of them. For headers the lines stand with
-// line feeds between them; null is no lines, and so is an empty text that is written.
+inline bool isAmong( std::string_view name, const char *names )
+{
+    std::vector<std::string> all = words( names );
+    return std::find( all.begin(), all.end(), name ) != all.end();
+}
+
+// Texts of the types named, blanks between the names: those that are written as they are read, those that are written
+// otherwise, and bad ones. The front stands before each of them. Of headers, @lists and @sets are all of that shape, @ with
+// the name of a value or element is all lists and sets of it, and those with an exclamation mark are left out; their lines
+// stand with line feeds between them; null is no lines, and so is an empty text that is written.
 struct Texts
 {
     const char *names, *front;
@@ -22,13 +29,33 @@ struct Texts
     std::vector<std::pair<const char *, const char *>> changed;
     std::vector<const char *> bad;
 
-    bool areFor( std::string_view name ) const
+    bool areFor( const std::string &name ) const
     {
-        std::vector<std::string> all = words( names );
-        return std::find( all.begin(), all.end(), name ) != all.end();
+        auto kind = std::ranges::find( headers::all, name, &headers::Kind::name );
+        bool hasShape = kind != std::end( headers::all ) && kind->at
+                        && ( isAmong( "@lists", names ) || ( kind->add && isAmong( "@sets", names ) )
+                             || isAmong( "@" + std::string( kind->item ), names ) );
+        return isAmong( name, names ) || ( hasShape && !isAmong( "!" + name, names ) );
     }
 };
 extern const std::vector<Texts> valueTexts, headerTexts;
+
+// A good text of the elements named, its normal form and a bad text.
+struct Sample
+{
+    const char *names, *good, *normal, *bad;
+};
+extern const std::vector<Sample> elementSamples;
+
+inline const Sample &sampleOf( std::string_view element )
+{
+    static const Sample none = { "", "", "", "" };
+    for ( const Sample &sample : elementSamples )
+        if ( isAmong( element, sample.names ) )
+            return sample;
+    ADD_FAILURE() << "rows_elements.def needs a row for " << element;
+    return none;
+}
 
 using OptionalText = std::optional<std::string>;
 
@@ -105,17 +132,26 @@ void forEach( const Texts &texts, TEST test )
         test( whole( text ), OptionalText() );
 }
 
+// The first text of the type that is written as it is read.
+inline std::string firstText( const std::vector<Texts> &tables, const std::string &name )
+{
+    for ( const Texts &texts : tables )
+        if ( texts.areFor( name ) && !texts.kept.empty() )
+            return std::string( texts.front ) + texts.kept[0];
+    return {};
+}
+
 // Each type of the list must have good texts and bad ones. No text does harm to a type that it isn't meant
 // for.
 template <class LIST>
-void expectTexts( const LIST &list, const std::vector<Texts> &tables )
+void expectTexts( const LIST &list, const std::vector<Texts> &tables, const char *file )
 {
     for ( auto &type : list )
     {
         int good = 0, bad = 0;
         for ( const Texts &texts : tables )
         {
-            bool isMeant = texts.areFor( type.name );
+            bool isMeant = texts.areFor( std::string( type.name ) );
             forEach( texts,
                      [&]( const OptionalText &text, const OptionalText &written )
                      {
@@ -128,7 +164,7 @@ void expectTexts( const LIST &list, const std::vector<Texts> &tables )
                          EXPECT_EQ( written.value_or( "(null)" ), object ? write( type, object ) : "(null)" );
                      } );
         }
-        EXPECT_TRUE( good && bad ) << type.name;
+        EXPECT_TRUE( good && bad ) << file << " needs a row with good and bad texts for " << type.name;
     }
 }
 

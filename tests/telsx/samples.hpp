@@ -56,7 +56,7 @@ inline Ref<TELSX_GENERIC_PARAMS> sample<TELSX_GENERIC_PARAMS>()
 }
 
 // The longest text for the type that is written as it is read.
-inline std::string sampleText( const std::vector<Texts> &tables, std::string_view name )
+inline std::string sampleText( const std::vector<Texts> &tables, const std::string &name )
 {
     std::string longest;
     for ( const Texts &texts : tables )
@@ -64,11 +64,18 @@ inline std::string sampleText( const std::vector<Texts> &tables, std::string_vie
             if ( std::string whole = std::string( texts.front ) + text;
                  texts.areFor( name ) && whole.size() > longest.size() )
                 longest = whole;
+    EXPECT_NE( "", longest ) << "rows_values.def or rows_headers.def needs a text that is kept for " << name;
     return longest;
 }
 // The text of a value, by its name in functions, and the line of a header, by its name on the wire.
-inline std::string sampleValue( std::string_view name ) { return sampleText( valueTexts, name ); }
-inline std::string sampleLine( std::string_view name ) { return sampleText( headerTexts, name ); }
+inline std::string sampleValue( std::string_view name )
+{
+    return sampleText( valueTexts, std::string( name ) );
+}
+inline std::string sampleLine( std::string_view name )
+{
+    return sampleText( headerTexts, std::string( name ) );
+}
 
 #define TELSX_VALUE( NAME, SORT, FIELDS )                                                          \
     template <>                                                                                    \

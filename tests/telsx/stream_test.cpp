@@ -107,22 +107,7 @@ TEST( Stream, StaysFailed )
     EXPECT_FALSE( telsxMessageStreamDecoderWriteOuter( decoder, more.get(), 1, 1 ) );
     EXPECT_FALSE( adopt( telsxMessageStreamDecoderRead( decoder ) ) );
     EXPECT_EQ( 7, reader.held() );
-}
-
-TEST( Stream, TakesPartsOfBuffers )
-{
-    Reader reader;
-    TELSX_MESSAGE_STREAM_DECODER decoder = reader.decoder.get();
-    EXPECT_EQ( 0, telsxMessageStreamDecoderLength( decoder ) );
-    EXPECT_FALSE( adopt( telsxMessageStreamDecoderRead( decoder ) ) );
-    EXPECT_FALSE( reader.failed() );
-    EXPECT_TRUE( telsxMessageStreamDecoderWriteLeading( decoder, buffer( "A b---" ).get(), 3 ) );
-    EXPECT_TRUE( telsxMessageStreamDecoderWriteTrailing( decoder, buffer( "---:c D" ).get(), 4 ) );
-    EXPECT_TRUE( telsxMessageStreamDecoderWriteInner( decoder, buffer( "--/1\r\n--" ).get(), 2, 4 ) );
-    EXPECT_TRUE( telsxMessageStreamDecoderWriteOuter( decoder, buffer( "l: --1\r\n\r\n" ).get(), 3, 2 ) );
     EXPECT_GE( telsxMessageStreamDecoderSpace( decoder ), 0 );
-    reader.read( "x" );
-    EXPECT_EQ( "A b:c D/1 | Content-Length: <1> | body <x>\n0", reader.outcome() );
 }
 
 TEST( Stream, AbortsForNull )

@@ -7,3 +7,6 @@ const std::vector<support::Texts> support::valueTexts = {
 const std::vector<support::Texts> support::headerTexts = {
 #include "telsx/rows_headers.def"
 };
+const std::vector<support::Sample> support::elementSamples = {
+#include "telsx/rows_elements.def"
+};

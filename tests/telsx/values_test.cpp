@@ -3,7 +3,7 @@
 
 using namespace support;
 
-TEST( Values, AreReadAndWritten ) { expectTexts( values::all, valueTexts ); }
+TEST( Values, AreReadAndWritten ) { expectTexts( values::all, valueTexts, "rows_values.def" ); }
 
 TEST( Values, AbortForNullText )
 {
@@ -41,6 +41,7 @@ TEST( Values, SortByTheirFields )
             "B <sip:b>;q=0;expires=10;rc=1;mp=1;np=1;+sip.instance=\"<a>\";a" } },
         { "Route", { "Z <sip:a>;z", "<sip:b>;z", "B <sip:b>", "B <sip:b>;a" } },
         { "IdentityValue", { "Z <sip:a>", "<sip:b>", "\"\" <sip:b>", "B <sip:b>" } },
+        { "Version", { "A/9", "B/1", "b/2" } },
         { "GenericParam",
           { "a=b", "b", "b=a", "b=B.", "b=[::1]", "b=[::A]", "b=[::a]", "b=\"\"", "b=\"a\"" } },
         { "HistoryInfo",

@@ -29,6 +29,7 @@ TEST( Threads, ShareHeadersOfAllKinds )
     for ( const headers::Kind &kind : headers::all )
         all.push_back( { kind, rawHeader( kind.name, sampleLine( kind.name ) ),
                          read( kind, sampleLine( kind.name ) ) } );
+    ASSERT_TRUE( std::ranges::all_of( all, []( auto &shared ) { return bool( shared.hdr ); } ) );
     inThreads(
         [&all]( int )
         {

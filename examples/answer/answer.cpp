@@ -1,0 +1,202 @@
+// Answers calls: a SIP user agent server on UDP and TCP (RFC 3261, 8.2).
+//
+//     answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]
+//
+// ADDRESS, 127.0.0.1 unless told, is an IP address of this machine, at which others reach it; port 0 picks one.
+// The first line on standard output tells both. An INVITE rings for the time (1000) and is taken then, unless
+// its caller cancels it; a REGISTER binds addresses as a registrar does. SIGINT and SIGTERM end it.
+//
+// Limits, and what happens beyond them:
+//
+//     bytes of a message            65,535   by TCP 513, and the connection ends
+//     TCP connections               256      one that has never sent a message is closed, or else the quietest
+//     seconds to the first message  10       the connection is closed
+//     INVITEs without an ACK        50,000   503 with Retry-After; also for more than 128 MiB of responses to them
+//     calls                         200,000  those that are over give way; 503 with Retry-After
+//     hours of a call               24       it is forgotten
+//     registrations                 10,000   503 with Retry-After
+//     registrations of one sender   1,000    the sender's oldest gives way; a sender is an IPv4 address or an IPv6 /64
+//     contacts of an address        5        503 with Retry-After
+//     bytes of an address           200      404 for an address of record, 403 for a contact
+//     seconds of a registration     3,600    it is shortened
+//     bytes of a REGISTER's response by UDP: five times those of the request; 500
+#include <cerrno>
+
+#include <strings.h>
+
+#include "calls.hpp"
+#include "registrar.hpp"
+#include "responses.hpp"
+
+namespace
+{
+
+// Whether the header is there in two lines. It can't be told which one the sender means.
+bool isAmbiguous( const Request &request, const char *name )
+{
+    Owned header( telsxMessageHeaderCstr( request.message.get(), name, -1 ) );
+    return header && telsxMessageHeaderLinesLength( header.get() ) > 1;
+}
+
+// Whether the body is compressed; also if that can't be read.
+bool isEncoded( TELSX_MESSAGE message )
+{
+    Owned header( telsxHeaderContentEncodingTryDecodeFromMessage( message ) );
+    int64_t length = header ? telsxHeaderContentEncodingContentCodingsLength( header.get() ) : 0;
+    for ( int64_t i = 0; i < length; ++i )
+        if ( toUtf8( Owned( telsxHeaderContentEncodingContentCodingAt( header.get(), i ) ) ) != "identity" )
+            return true;
+    return !header && telsxHeaderContentEncodingPresentInMessage( message );
+}
+
+// Whether the sender understands session descriptions. Without Accept it does (RFC 3261, 20.1).
+bool acceptsSession( TELSX_MESSAGE message )
+{
+    Owned header( telsxHeaderAcceptTryDecodeFromMessage( message ) );
+    int64_t length = header ? telsxHeaderAcceptAcceptsLength( header.get() ) : 0;
+    for ( int64_t i = 0; i < length; ++i )
+    {
+        Owned accept( telsxHeaderAcceptTryDecodeAcceptAt( header.get(), i ) );
+        if ( !accept || telsxAcceptQvalue( accept.get() ) == 0 )
+            continue;
+        Owned type( telsxAcceptMediaType( accept.get() ) ),
+            subtype( telsxAcceptMediaSubtype( accept.get() ) );
+        if ( ( !type || toUtf8( type ) == "application" ) && ( !subtype || toUtf8( subtype ) == "sdp" ) )
+            return true;
+    }
+    return !header && !telsxHeaderAcceptPresentInMessage( message );
+}
+
+// The status code with which to refuse the request before anything is done with it, or 0 (RFC 3261, 8.2).
+int64_t refusal( const Request &request )
+{
+    TELSX_MESSAGE message = request.message.get();
+    const std::string &method = request.method;
+    if ( !telsxVersionIsSip20( Owned( telsxMessageVersion( message ) ).get() ) )
+        return 505;
+    if ( request.statusCode )
+        return request.statusCode;
+    // To a peer that takes a lone CR or LF for a line end it would be another message.
+    if ( request.number == -1 || telsxMessageHasLoneLineEnds( message ) )
+        return 400;
+    for ( const char *name : { "To", "From", "Cseq", "Call-Id", "Max-Forwards", "Content-Type" } )
+        if ( isAmbiguous( request, name ) )
+            return 400;
+    Owned require( telsxHeaderRequireTryDecodeFromMessage( message ) );
+    if ( !require && telsxHeaderRequirePresentInMessage( message ) )
+        return 400;
+    if ( method == "CANCEL" )
+        return 0; // it has the Request-URI of its INVITE, and no Require (RFC 3261, 9.1)
+    if ( strcasecmp( request.scheme.c_str(), "sip" ) != 0
+         && strcasecmp( request.scheme.c_str(), "sips" ) != 0 )
+        return 416;
+    if ( require && telsxHeaderRequireOptionTagsLength( require.get() ) > 0 )
+        return 420;
+    if ( isEncoded( message ) )
+        return 415;
+    if ( ( method == "INVITE" || method == "OPTIONS" ) && !acceptsSession( message ) )
+        return 406;
+    return 0;
+}
+
+// Gives each request to the part that knows what to do with it.
+class Server
+{
+public:
+    Server( Network &to, const SocketAddress &here, std::chrono::milliseconds ring )
+        : network( to ), calls( to, here, ring )
+    {
+    }
+
+    void receive( Arrival arrival )
+    {
+        std::optional<Request> request = toRequest( std::move( arrival ) );
+        if ( !request )
+            return;
+        const std::string &method = request->method;
+        if ( method == "ACK" )
+            return calls.acknowledge( *request ); // which nothing answers, not even when it is bad
+        if ( int64_t statusCode = refusal( *request ) )
+            return send( *request, refuse( *request, statusCode ) );
+        if ( method == "CANCEL" )
+            return calls.cancel( *request );
+        if ( method == "INVITE" )
+            return calls.invite( *request );
+        if ( method == "REGISTER" )
+            return send( *request, registrar.bind( *request ) );
+        if ( ( method == "BYE" || !request->tag.empty() ) && !calls.follows( *request ) )
+            return;
+        if ( method == "BYE" )
+            return calls.bye( *request );
+        if ( method != "OPTIONS" )
+            return send( *request, refuse( *request, 405 ) );
+        Message response = respond( *request, 200 );
+        addCapabilities( response );
+        send( *request, response );
+    }
+
+    // As in Calls.
+    Clock::time_point tick() { return calls.tick(); }
+
+private:
+    void send( const Request &request, const Message &response )
+    {
+        network.send( request.peer, encode( response ) );
+    }
+
+    Network &network;
+    Calls calls;
+    Registrar registrar;
+};
+
+// The number that the text is, or -1.
+int64_t toNumber( const char *text, int64_t most )
+{
+    String digits = toString( text );
+    int64_t number, length;
+    bool good = digits && rtStringScanInt( digits.get(), 0, -1, 10, &number, &length )
+                && length == rtStringLength( digits.get() ) && number >= 0 && number <= most;
+    return good ? number : -1;
+}
+
+} // namespace
+
+int main( int argc, char **argv )
+{
+    Library library;
+    SocketAddress address;
+    int64_t port = 5060, ring = 1000;
+    bool good = address.setHost( "127.0.0.1" ) && argc % 2 == 1;
+    for ( int i = 1; good && i < argc; i += 2 )
+    {
+        std::string_view word = argv[i];
+        if ( word == "--bind" )
+            good = address.setHost( argv[i + 1] );
+        else if ( word == "--port" )
+            good = ( port = toNumber( argv[i + 1], 0xFFFF ) ) != -1;
+        else if ( word == "--ring" )
+            good = ( ring = toNumber( argv[i + 1], 60000 ) ) != -1;
+        else
+            good = false;
+    }
+    // The calls' Contact is the address, and that is not "any".
+    if ( !good || address.host() == "0.0.0.0" || address.host() == "::" )
+    {
+        std::cerr << "usage: answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]\n";
+        return 2;
+    }
+    address.setPort( port );
+    Network network;
+    if ( !network.open( address ) )
+    {
+        std::cerr << "answer: " << address.host() << ' ' << port << ": " << std::strerror( errno ) << '\n';
+        return 1;
+    }
+    std::cout << "answering at " << address.host() << ' ' << address.port() << std::endl;
+
+    Server server( network, address, std::chrono::milliseconds( ring ) );
+    auto receive = [&server]( Arrival arrival ) { server.receive( std::move( arrival ) ); };
+    while ( network.wait( server.tick(), receive ) )
+        continue;
+    return 0;
+}

@@ -1,0 +1,52 @@
+// A registrar (RFC 3261, 10.3). Of a contact it gives back its address and until when it holds; contacts are the
+// same if their texts are, not by the rules of RFC 3261, 19.1.4.
+#pragma once
+
+#include <map>
+
+#include "requests.hpp"
+
+class Registrar
+{
+public:
+    // The response to a REGISTER, and what it changes.
+    Message bind( const Request &request );
+
+private:
+    // Places for addresses of record, of all and of one sender, whose oldest one gives way to its newest one.
+    static constexpr std::size_t maxRegistrations = 10000, maxOfSource = 1000;
+    static constexpr std::size_t maxContacts = 5,
+                                 maxLength = 200; // of an address of record; bytes of an address
+    static constexpr std::size_t maxGrowth = 5;   // a datagram's response is so many times its length at most
+    static constexpr int64_t maxExpires = 3600;   // seconds
+
+    // A contact, by the last request that has bound it, and until when it holds.
+    struct Binding
+    {
+        uint64_t callId = 0, transaction = 0;
+        int64_t number = -1;
+        Clock::time_point end = {};
+    };
+    using Contacts = std::map<std::string, Binding>;
+
+    struct Registration
+    {
+        Contacts contacts;
+        Clock::time_point end; // of the last contact
+        std::string source;    // of the last request
+        uint64_t age;          // in the order of these
+    };
+    using Registrations = std::map<std::string, Registration>;
+
+    // Puts what the request binds or takes away into the contacts; returns the status code of the response.
+    static int64_t change( const Request &request, Contacts &contacts, Clock::time_point now );
+    // False if there is no place.
+    bool keep( const std::string &who, Contacts contacts, const std::string &source );
+    void forget( Registrations::iterator at );
+    void forgetEnded( Clock::time_point now );
+
+    Registrations registrations;                                    // by address of record
+    std::map<std::string, std::map<uint64_t, std::string>> sources; // their addresses of record, by age
+    uint64_t lastAge = 0;
+    Clock::time_point nextSweep = {};
+};

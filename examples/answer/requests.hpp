@@ -1,0 +1,33 @@
+// Requests that can be answered: what their responses take over is there and good.
+#pragma once
+
+#include <optional>
+
+#include "transport.hpp"
+
+struct Request
+{
+    Message message;
+    Peer peer = {};
+    std::size_t datagram = 0;             // its bytes, 0 if it came by a connection
+    int64_t statusCode = 0;               // with which the transport refuses it, or 0
+    std::string method = {}, scheme = {}; // the scheme is that of the Request-URI
+    Owned<TELSX_HEADER_VIA> vias = {};
+    Owned<TELSX_HEADER_FROM> from = {};
+    Owned<TELSX_HEADER_TO> to = {};
+    Owned<TELSX_HEADER_CALL_ID> callId = {};
+    int64_t number = -1;      // in Cseq; -1 if that is bad or has another method
+    std::string tag = {};     // in To, if there is one
+    uint64_t key = 0;         // of the call: the tag of this side begins with it
+    uint64_t random = 0;      // the rest of that tag
+    uint64_t caller = 0;      // stands for Call-Id and the tag in From
+    uint64_t transaction = 0; // the same when the request comes twice (RFC 3261, 17.2.3)
+};
+
+// Nothing for a response and for a request whose Via, From, To or Call-Id is bad or missing.
+std::optional<Request> toRequest( Arrival arrival );
+
+uint64_t randomNumber();
+
+// The tag of this side.
+std::string toTag( uint64_t key, uint64_t random );
