@@ -24,7 +24,7 @@ RT_API const void *rtBufferBacking( RT_BUFFER buffer );
 /* Copies bytes out, starting at the offset. */
 RT_API void rtBufferRead( RT_BUFFER buffer, int64_t offset, void *bytes, int64_t length );
 
-/* Append bytes, or bytes of another buffer: all of them, a part (Inner), all but a part (Outer), the first ones
+/* Appends bytes, or bytes of another buffer: all of them, a part (Inner), all but a part (Outer), the first ones
  * (Leading) or the last ones (Trailing). Amortised O(1) for each byte. */
 RT_API void rtBufferAppendBytes( RT_BUFFER *buffer, const void *bytes, int64_t length );
 RT_API void rtBufferAppend( RT_BUFFER *buffer, RT_BUFFER source );

@@ -67,7 +67,7 @@ RT_API RT_BOOL rtStringScanInt( RT_STRING string, int64_t offset, int64_t length
  * write them at once. */
 RT_API RT_CHAR *rt___StringExtend( RT_STRING *string, int64_t count );
 
-/* Append text; amortised O(1) for each code point. AppendFormat takes formats as above. */
+/* Appends text; amortised O(1) for each code point. AppendFormat takes formats as above. */
 RT_API void rtStringAppend( RT_STRING *string, RT_STRING other );
 RT_API void rtStringAppendChar( RT_STRING *string, RT_CHAR ch );
 RT_API void rtStringAppendChars( RT_STRING *string, const RT_CHAR *chs, int64_t length );

@@ -33,7 +33,7 @@ RT_API void rtVectorInsertString( RT_VECTOR *vector, int64_t index, RT_STRING st
 /* Replaces the element at the index. */
 RT_API void rtVectorSetStringAt( RT_VECTOR *vector, int64_t index, RT_STRING string );
 
-/* Remove the element at the index, the first count elements, and all elements. */
+/* DelAt removes the element at the index, DelLeading the first count elements, Clear all elements. */
 RT_API void rtVectorDelAt( RT_VECTOR *vector, int64_t index );
 RT_API void rtVectorDelLeading( RT_VECTOR *vector, int64_t count );
 RT_API void rtVectorClear( RT_VECTOR *vector );

@@ -26,8 +26,8 @@ RT_API RT_BOOL telsxMessageStreamDecoderError( TELSX_MESSAGE_STREAM_DECODER deco
 RT_API int64_t telsxMessageStreamDecoderLength( TELSX_MESSAGE_STREAM_DECODER decoder );
 RT_API int64_t telsxMessageStreamDecoderSpace( TELSX_MESSAGE_STREAM_DECODER decoder );
 
-/* Append bytes, in the same parts as the functions of rt/rt_buffer.h, and return true. With the latch set they do
- * nothing and return false. Lengths and offsets are in bytes. */
+/* Appends bytes, in the same parts as the functions of rt/rt_buffer.h, and returns true. With the latch set it does
+ * nothing and returns false. Lengths and offsets are in bytes. */
 RT_API RT_BOOL telsxMessageStreamDecoderWrite( TELSX_MESSAGE_STREAM_DECODER decoder, RT_BUFFER source );
 RT_API RT_BOOL telsxMessageStreamDecoderWriteLeading( TELSX_MESSAGE_STREAM_DECODER decoder, RT_BUFFER source,
                                                       int64_t length );
