@@ -123,14 +123,15 @@ TEST( RtDict, ActsLikeItsModel )
         if ( step % 10 )
             return;
         Strings values;
+        // From the back first, near which the reading before has ended.
         for ( int64_t i = 0; i < std::ssize( model.keys ); ++i )
         {
             const std::string &key = model.keys[static_cast<std::size_t>( i )];
             values.push_back( model.values.at( key ) );
-            EXPECT_EQ( key, utf8( rtDictKeyAt( real.get(), i ) ) );
             int64_t fromBack = std::ssize( model.keys ) - 1 - i;
             EXPECT_EQ( model.keys[static_cast<std::size_t>( fromBack )],
                        utf8( rtDictKeyAt( real.get(), fromBack ) ) );
+            EXPECT_EQ( key, utf8( rtDictKeyAt( real.get(), i ) ) );
             EXPECT_EQ( values.back(), utf8( rtStringFrom( rtDictValueAt( real.get(), i ) ) ) );
             EXPECT_EQ( values.back(),
                        utf8( rtStringFrom( rtDictStringKey( real.get(), str( key ).get() ) ) ) );
