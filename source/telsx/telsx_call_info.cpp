@@ -14,7 +14,10 @@ struct TELSX_CALL_INFO_
     Ref<RT_STRING> purpose;                  // lower case
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.purpose, self.genericParams ); }
+    static constexpr auto fields( auto &self )
+    {
+        return std::tie( self.iri, self.purpose, self.genericParams );
+    }
 };
 
 TELSX_DEFINE_OBJECT( CallInfo, CALL_INFO, telsx___CallInfoFreeFunc, telsx___CallInfoCompareFunc,

@@ -15,7 +15,10 @@ struct TELSX_HEADER_EVENT_
     Ref<RT_STRING> id;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.eventType, self.id, self.genericParams ); }
+    static constexpr auto fields( auto &self )
+    {
+        return std::tie( self.eventType, self.id, self.genericParams );
+    }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderEvent, HEADER_EVENT, hdr, "Event" )

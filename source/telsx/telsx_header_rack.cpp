@@ -16,7 +16,10 @@ struct TELSX_HEADER_RACK_
     int64_t cseq;          // of the request
     Ref<RT_STRING> method; // never null
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.responseNum, self.cseq, self.method ); }
+    static constexpr auto fields( auto &self )
+    {
+        return std::tie( self.responseNum, self.cseq, self.method );
+    }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderRack, HEADER_RACK, hdr, "Rack" )

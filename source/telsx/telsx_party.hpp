@@ -15,7 +15,10 @@ struct Party
     Ref<RT_STRING> displayName;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.displayName, self.genericParams ); }
+    static constexpr auto fields( auto &self )
+    {
+        return std::tie( self.iri, self.displayName, self.genericParams );
+    }
 };
 static_assert( rt::listsAllFields<Party>() );
 

@@ -14,7 +14,10 @@ struct TELSX_ROUTE_
     Ref<RT_STRING> displayName;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.displayName, self.genericParams ); }
+    static constexpr auto fields( auto &self )
+    {
+        return std::tie( self.iri, self.displayName, self.genericParams );
+    }
 };
 
 TELSX_DEFINE_OBJECT( Route, ROUTE, telsx___RouteFreeFunc, telsx___RouteCompareFunc, nullptr )

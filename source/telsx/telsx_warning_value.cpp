@@ -17,7 +17,10 @@ struct TELSX_WARNING_VALUE_
     Ref<RT_STRING> warnAgent; // never null
     Ref<RT_STRING> warnText;  // plain, never null
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.warnCode, self.warnAgent, self.warnText ); }
+    static constexpr auto fields( auto &self )
+    {
+        return std::tie( self.warnCode, self.warnAgent, self.warnText );
+    }
 };
 
 TELSX_DEFINE_OBJECT( WarningValue, WARNING_VALUE, telsx___WarningValueFreeFunc,
