@@ -79,10 +79,10 @@ using Receive = std::function<void( Arrival )>;
 class Network
 {
 public:
-    static constexpr std::size_t maxMessage = 65535;  // bytes; a longer one gets a 513, and ends a connection
+    static constexpr std::size_t maxMessage = 65535;  // bytes; a longer one gets 513, and ends a connection
     static constexpr std::size_t maxDatagram = 65507; // bytes, with IPv4
     static constexpr std::size_t maxUnsent = 2 * maxMessage; // bytes, to a peer that doesn't read
-    static constexpr std::size_t maxConnections = 256;       // one more replaces another
+    static constexpr std::size_t maxConnections = 256;       // a further one takes the place of another one
     static constexpr Clock::duration patience = 10s, linger = 5s; // for the first message; after a bad one
 
     // Listens on the address; if its port is 0, picks one and puts it there. False and errno if it can't. From now on
