@@ -1,9 +1,9 @@
-// What hostile messages cost when they get longer. Each family is a message in which one thing stands n times.
-// It is decoded, its headers are decoded to their types and all values of them, everything is encoded again
-// and released. Under callgrind each of these phases ends with a dump of the instructions that it took:
+// What hostile messages cost as they get longer. Each family is a message in which one thing occurs n times. It is
+// decoded, its headers and all their values are decoded to their types, everything is encoded again and released. Under
+// callgrind each of these phases ends with a dump of the instructions that it took:
 //
-//     growth                   names the families
-//     growth FAMILY N...       prints for each n how many bytes of memory were in use at most
+//     growth                   lists the families
+//     growth FAMILY N...       prints for each n the peak memory use in bytes
 #include <valgrind/callgrind.h>
 
 #include <algorithm>
@@ -32,7 +32,7 @@ std::string request( const std::string &headers ) { return std::string( requestL
 
 using Item = std::string ( * )( int index );
 
-// A request with a header that has the items of the indices below n between what stands in front and behind.
+// A request with a header that has the items with indices below n, between the text before and the text after them.
 std::string repeated( std::string_view front, Item item, int n, std::string_view behind = "" )
 {
     std::string headers( front );
@@ -43,8 +43,8 @@ std::string repeated( std::string_view front, Item item, int n, std::string_view
 
 std::string digits( int index ) { return std::to_string( 1'000'000 + index ); }
 
-// Sixteen times one of two pairs of characters: all of these have one hash if a hash multiplies by a number and
-// adds a character, the number being that by which the pairs are chosen.
+// Sixteen times one of two pairs of characters. All of these have the same hash if the hash multiplies by a number and
+// adds a character, and the pairs are chosen for that number.
 std::string chosen( int index, const char *zero, const char *one )
 {
     std::string name;
@@ -53,7 +53,7 @@ std::string chosen( int index, const char *zero, const char *one )
     return name;
 }
 
-// The order of that number of nine letters: all of these have one hash if a hash only adds or joins.
+// The permutation of nine letters with that number. All of these have the same hash if the hash only adds or joins.
 std::string anagram( int index )
 {
     std::string letters = "abcdefghi", name;
@@ -220,7 +220,7 @@ private:
             hold( values, kind->at( header, i ) );
     }
 
-    // Without a type a header is asked for by its name, and its line is taken.
+    // A header without a type is looked up by its name, and its line is taken.
     void decodeNames( TELSX_MESSAGE message )
     {
         auto all = adopt( telsxMessageHeadersVector( message ) );
@@ -246,7 +246,7 @@ void count( const std::string &label, const std::function<void()> &phase )
     CALLGRIND_DUMP_STATS_AT( label.c_str() );
 }
 
-// In a thread of its own, so that no block is used again that an earlier run has freed.
+// In a thread of its own, so that no block freed by an earlier run is used again.
 void measure( const Family &family, int n )
 {
     auto run = [&]

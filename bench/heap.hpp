@@ -1,6 +1,6 @@
-// The heap as a program sees it that measures its own: how many bytes are in use, how many were at most, and
-// a heap that has run out. The functions of malloc stand here, so one unit of a program includes this. With
-// sanitizers, which have a malloc of their own, it measures nothing.
+// The heap as seen by a program that measures its own: how many bytes are in use, the peak, and a heap that has run
+// out. The functions of malloc are defined here, so one unit of a program includes this. With sanitizers, which have
+// their own malloc, it measures nothing.
 #pragma once
 
 #include <malloc.h>
@@ -24,7 +24,7 @@ inline void count( int64_t change )
         most = now;
 }
 
-// A block with the word that the heap keeps before it.
+// A block and the word that the heap keeps before it.
 inline int64_t sizeOf( void *block )
 {
     return block ? static_cast<int64_t>( malloc_usable_size( block ) + sizeof( std::size_t ) ) : 0;
@@ -44,8 +44,8 @@ inline bool hasRunOut()
     return true;
 }
 
-// How many bytes what the function makes holds alive. It is made in a thread of its own, so that the blocks
-// that are freed on the way go when the thread does; what the first such thread leaves behind doesn't count.
+// How many bytes are kept alive by what the function makes. It is made in a thread of its own, so that blocks freed on
+// the way go with the thread; what the first such thread leaves over doesn't count.
 template <class MAKE>
 int64_t heldBy( MAKE make )
 {
@@ -85,7 +85,7 @@ extern "C"
     {
         return heap::hasRunOut() ? nullptr : heap::counted( __libc_calloc( count, size ) );
     }
-    // A block that moves counts twice while it does.
+    // A block that is moved counts twice meanwhile.
     void *realloc( void *old, std::size_t size ) noexcept
     {
         if ( heap::hasRunOut() )

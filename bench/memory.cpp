@@ -1,6 +1,6 @@
-// What messages hold in memory: prints a line of a table for each file of a message, with its bytes on the
-// wire, the bytes of all blocks that it holds decoded, and the bytes that a Call-Id and a From of it hold
-// alive once the message is released, beside the number of characters of their text:
+// What messages hold in memory: prints a row of a table for each file of a message, with its bytes on the wire, the
+// bytes of all blocks that it holds decoded, and the bytes that a Call-Id and a From from it hold once the message is
+// released, next to the number of characters of their text:
 //
 //     memory bench/messages/*.sip
 #include <cstdio>

@@ -1,6 +1,6 @@
-// How decoding scales over threads that share nothing but the library: messages a second, for one thread and for two.
-// What threads wait for each other costs processor time too, which other programs on the machine don't change; so that
-// is told beside.
+// How decoding scales over threads that share nothing but the library: messages per second, for one thread and for two.
+// What threads wait for each other costs processor time too, which other programs on the machine don't change, so that
+// is printed as well.
 // usage: threads [ROUNDS]
 #include <algorithm>
 #include <atomic>
@@ -39,7 +39,7 @@ auto decoded()
 }
 bool decodes() { return bool( decoded() ); }
 
-// As a proxy does: reads the headers that it needs, and sends the message on.
+// Like a proxy: reads the headers that it needs, and sends the message on.
 bool forwards()
 {
     auto message = decoded();
@@ -63,7 +63,7 @@ double secondsOf( clockid_t clock )
     return static_cast<double>( time.tv_sec ) + static_cast<double>( time.tv_nsec ) / 1e9;
 }
 
-// As many messages as the threads handle in half a second.
+// As many messages as the threads process in half a second.
 Result measured( bool ( *handle )(), int threads )
 {
     std::atomic<bool> isOver = false;

@@ -1,7 +1,7 @@
-/* Makes the messages of a short call from nothing and writes their bytes to standard output, each as its
- * sender sends it: Alice's INVITE, Bob's 200, Alice's ACK and BYE. `call | stream` shows them one by one.
+/* Makes the messages of a short call from scratch and writes their bytes to standard output, each as its sender sends
+ * it: Alice's INVITE, Bob's 200, Alice's ACK and BYE. `call | stream` shows them one by one.
  *
- * It is written in C, where who is given a new reference releases it by hand. */
+ * It is written in C, so whoever is given a new reference releases it by hand. */
 #include <stdio.h>
 #include <string.h>
 
@@ -40,13 +40,13 @@ static const PARTY bob = {
                    "m=audio 3456 RTP/AVP 0\r\n",
 };
 
-/* A text of the library, a new reference; all texts here are good UTF-8. */
+/* A text of the library, a new reference; all texts here are valid UTF-8. */
 static RT_STRING text( const char *utf8 )
 {
     return rtStringTryCreateFromUtf8( utf8, (int64_t)strlen( utf8 ) );
 }
 
-/* Puts a Via on top of those that the message has. */
+/* Puts a Via on top of those in the message. */
 static void addVia( TELSX_MESSAGE *msg, const char *host, const char *branch )
 {
     TELSX_HEADER_VIA header = telsxHeaderViaTryDecodeFromMessage( *msg );
@@ -143,9 +143,8 @@ static void setSubject( TELSX_MESSAGE *msg, const char *subject )
     rtStringRelease( subjectText );
 }
 
-/* What a party says of itself in an INVITE and in the answer: its address, the methods and extensions that it
- * understands, and the session that it offers. There is no type for Content-Type: its line is set as it is.
- */
+/* What a party says about itself in an INVITE and in the answer: its address, the methods and extensions that it
+ * understands, and the session that it offers. Content-Type has no type: its line is set as it is. */
 static void describe( TELSX_MESSAGE *msg, const PARTY *party )
 {
     setContact( msg, party->contact );
@@ -172,7 +171,7 @@ static void describe( TELSX_MESSAGE *msg, const PARTY *party )
     rtBufferRelease( body );
 }
 
-/* A request of Alice's with the headers that every one of hers has. */
+/* A request from Alice with the headers that all of hers have. */
 static TELSX_MESSAGE request( const char *method, RT_STRING target, int64_t number, const char *branch )
 {
     TELSX_VERSION version = telsxVersionCreateSip20();
@@ -207,7 +206,7 @@ static TELSX_MESSAGE invite( void )
     return msg;
 }
 
-/* The header as it stands in another message, if it is there. */
+/* The header as it is in another message, if it is there. */
 static void takeOver( TELSX_MESSAGE *msg, TELSX_MESSAGE from, const char *name )
 {
     TELSX_MESSAGE_HEADER header = telsxMessageHeaderCstr( from, name, -1 );
@@ -217,7 +216,7 @@ static void takeOver( TELSX_MESSAGE *msg, TELSX_MESSAGE from, const char *name )
     telsxMessageHeaderRelease( header );
 }
 
-/* The response of a party to a request (RFC 3261, 8.2.6 and 12.1.1). */
+/* A party's response to a request (RFC 3261, 8.2.6 and 12.1.1). */
 static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY *party )
 {
     TELSX_VERSION version = telsxVersionCreateSip20();
@@ -267,8 +266,7 @@ static void setRoute( TELSX_MESSAGE *msg, TELSX_MESSAGE response )
     telsxHeaderRecordRouteRelease( recorded );
 }
 
-/* A later request of the caller in the dialog that the response has made (RFC 3261, 12.2.1.1 and 13.2.2.4).
- */
+/* A later request from the caller in the dialog that the response created (RFC 3261, 12.2.1.1 and 13.2.2.4). */
 static TELSX_MESSAGE inDialog( TELSX_MESSAGE response, const char *method, int64_t number,
                                const char *branch )
 {

@@ -1,4 +1,4 @@
-// Decodes one SIP message, shows what is in it, raw and by type, and encodes it again.
+// Decodes one SIP message, shows its contents, raw and typed, and encodes it again.
 //
 //     decode            the message below
 //     decode FILE       a file
@@ -11,8 +11,7 @@
 namespace
 {
 
-// Header names in any case and compact, a folded line, a Content-Length that is missing: the encoder mends it
-// all.
+// Header names in any case and in compact form, a folded line, a missing Content-Length: the encoder mends them all.
 const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example;transport=tcp SIP/2.0\r\n"
                       "Via: SIP/2.0/TCP gate.example.net;branch=z9hG4bK4b43c2ff8.1\r\n"
                       "v: SIP/2.0/UDP [2001:db8::17]:5060;branch=z9hG4bK87asdks7;rport\r\n"

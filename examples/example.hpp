@@ -51,8 +51,8 @@ inline std::string toBytes( const Buffer &buffer )
                         static_cast<std::size_t>( rtBufferLength( buffer.get() ) ) );
 }
 
-// How many bytes at the start of UTF-8 are a character with which a sender could steer a terminal or turn the direction
-// of the text around (RFC 3987, 4.1), 0 for none.
+// The number of bytes at the start of the UTF-8 that form a character with which a sender could control a terminal or
+// reverse the direction of the text (RFC 3987, 4.1), or 0.
 inline std::size_t steeringBytes( std::string_view utf8 )
 {
     auto ch = static_cast<unsigned char>( utf8[0] );
@@ -68,8 +68,8 @@ inline std::size_t steeringBytes( std::string_view utf8 )
     return 0;
 }
 
-// The bytes as they may go to a terminal. Steering characters become "\x1b" and the like, and so does every byte outside
-// ASCII if the bytes aren't UTF-8.
+// The bytes as they may go to a terminal. Control characters become "\x1b" and the like, and so does every byte outside
+// ASCII if the bytes are not UTF-8.
 inline std::string printable( std::string_view bytes )
 {
     bool utf8 = bool( toString( bytes ) );

@@ -1,11 +1,11 @@
-// Does a proxy's work on one request and writes what it sends on, or the response that it gives instead, to
-// standard output; what it reads in the request goes to standard error.
+// Does a proxy's work on one request and writes what it sends on, or the response that it sends instead, to standard
+// output; what it reads in the request goes to standard error.
 //
 //     hop [--host HOST] [--source ADDRESS PORT] [FILE | -]
 //
-// HOST is the proxy's own host, proxy.example.com unless told; ADDRESS and PORT are where the request came
-// from. Without a file the request is the one below; "-" is standard input. As a proxy without state hop does
-// the same to the same request each time (RFC 3261, 16.11).
+// HOST is the proxy's own host, by default proxy.example.com; ADDRESS and PORT are where the request came from. Without
+// a file the request is the one below; "-" is standard input. Like a stateless proxy, hop does the same to the same
+// request each time (RFC 3261, 16.11).
 #include <cerrno>
 #include <sstream>
 #include <stdexcept>
@@ -31,7 +31,7 @@ const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example SIP/2.0\r\n"
                       "Contact: <sip:tomas@192.0.2.4>\r\n"
                       "\r\n";
 
-// This proxy, and where the request came from; without an address that is not known.
+// This proxy, and where the request came from; unknown without an address.
 struct Place
 {
     std::string host; // in lower case, a domain name in Unicode, an address in its short form
@@ -55,7 +55,7 @@ std::string lowerCase( String text )
     return toUtf8( text );
 }
 
-// The IP address that the text is, with brackets or without, or null.
+// The IP address that the text is, with or without brackets, or null.
 IpAddress toIpAddress( const String &text )
 {
     if ( !text )
@@ -68,7 +68,7 @@ IpAddress toIpAddress( const String &text )
         netAddressTryCreateFromChars( rtStringBacking( text.get() ) + bracket, length - 2 * bracket ) );
 }
 
-// The host in the one form that hosts are compared in: an IPv6 address has many.
+// The one form of the host that is used for comparison: an IPv6 address has many.
 std::string plainHost( const std::string &host )
 {
     IpAddress address = toIpAddress( toString( host ) );
@@ -76,7 +76,7 @@ std::string plainHost( const std::string &host )
     return plain.find( ':' ) == std::string::npos ? plain : '[' + plain + ']';
 }
 
-// What routing asks of an address: [sip:|sips:][user@]host[:port][;parameters][?headers] (RFC 3261, 19.1.1).
+// What routing needs of an address: [sip:|sips:][user@]host[:port][;parameters][?headers] (RFC 3261, 19.1.1).
 struct Target
 {
     explicit Target( String iri )
@@ -104,7 +104,7 @@ struct Target
     }
 
     bool secure = false, user = false, loose = false;
-    std::string host;      // as in Place; empty if this is no SIP address
+    std::string host;      // as in Place; empty if this is not a SIP address
     std::string transport; // in lower case; empty if the address names none
 };
 
@@ -120,7 +120,7 @@ String iriAt( const Routes &routes, int64_t index )
     return Owned( telsxRouteIri( route.get() ) );
 }
 
-// A text that is the same for a request, its CANCEL and the ACK of its failure, and for no other request, if its client
+// A text that is the same for a request, its CANCEL and the ACK of its failure, and for no other request if its client
 // chooses branches as it must (RFC 3261, 8.1.1.7 and 16.11), as a token (FNV-1a).
 std::string fingerprint( const Via &top, const Owned<TELSX_HEADER_FROM> &from,
                          const Owned<TELSX_HEADER_CALL_ID> &callId, const Owned<TELSX_HEADER_CSEQ> &cseq )
@@ -137,9 +137,9 @@ std::string fingerprint( const Via &top, const Owned<TELSX_HEADER_FROM> &from,
     return hex;
 }
 
-// Notes in the top Via where the request came from: the address if the Via tells another one or a name
-// (RFC 3261, 18.2.1), address and port if it asks for them (RFC 3581, 4). What the sender has put there himself goes, or
-// he could aim the responses at anybody.
+// Notes in the top Via where the request came from: the address if the Via has another one or a name (RFC 3261,
+// 18.2.1), address and port if it asks for them (RFC 3581, 4). What the sender put there itself is removed, or it could
+// direct the responses at anybody.
 void noteSource( Via &top, const Place &place )
 {
     IpAddress told = toIpAddress( Owned( telsxViaHost( top.get() ) ) );
@@ -152,7 +152,7 @@ void noteSource( Via &top, const Place &place )
         telsxViaSetRportNumeric( top.address(), place.port );
 }
 
-// Takes a hop from Max-Forwards; false if none is left (RFC 3261, 16.6, step 3).
+// Takes one hop from Max-Forwards; false if none is left (RFC 3261, 16.6, step 3).
 bool countHop( Message &message )
 {
     Owned header( telsxHeaderMaxForwardsCreate( 70 ) );
@@ -168,15 +168,15 @@ bool countHop( Message &message )
     return true;
 }
 
-// Takes this proxy off the Route and brings the target and the Route into the form that whoever is next
-// understands (RFC 3261, 16.4 and 16.6, step 6). Returns the address to send to, secure if the target is.
+// Takes this proxy off the Route and brings the target and the Route into the form that the next hop understands (RFC
+// 3261, 16.4 and 16.6, step 6). Returns the address to send to, secure if the target is.
 Target followRoute( Message &message, const Place &place )
 {
     if ( !telsxHeaderRoutePresentInMessage( message.get() ) )
         return Target( targetOf( message ) );
     auto routes = need( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
 
-    // A strict router has put this proxy's Record-Route in the place of the target, which stands last.
+    // A strict router has replaced the target by this proxy's Record-Route; the target is last.
     Target target( targetOf( message ) );
     if ( target.host == place.host && target.loose && !target.user && lengthOf( routes ) )
     {
@@ -190,7 +190,7 @@ Target followRoute( Message &message, const Place &place )
     Target next( lengthOf( routes ) ? iriAt( routes, 0 ) : targetOf( message ) );
     next.secure = next.secure || Target( targetOf( message ) ).secure;
 
-    // A strict router wants its own address as the target, and the target last.
+    // A strict router needs its own address as the target, and the target last.
     if ( lengthOf( routes ) && !next.loose )
     {
         String strict = iriAt( routes, 0 );
@@ -207,7 +207,7 @@ Target followRoute( Message &message, const Place &place )
     return next;
 }
 
-// Has the dialog's later requests come by here too (RFC 3261, 16.6, step 4).
+// Makes later requests of the dialog pass through here too (RFC 3261, 16.6, step 4).
 void recordRoute( Message &message, const Place &place, bool secure )
 {
     Owned header( telsxHeaderRecordRouteCreate() );
@@ -218,7 +218,7 @@ void recordRoute( Message &message, const Place &place, bool secure )
     telsxHeaderRecordRouteEncodeToMessage( header.get(), message.address() );
 }
 
-// The response without a body, sent back the way that the request came (RFC 3261, 8.2.6).
+// The response without a body, sent back the way the request came (RFC 3261, 8.2.6).
 Message respond( const Message &request, int64_t statusCode, To to, const std::string &tag )
 {
     Owned version( telsxVersionCreateSip20() );
@@ -234,7 +234,7 @@ Message respond( const Message &request, int64_t statusCode, To to, const std::s
     return response;
 }
 
-// The 420 for a request that needs an extension of its proxies, of which this one has none (RFC 3261, 16.3, step 5).
+// The 420 for a request that needs an extension from its proxies; this one has none (RFC 3261, 16.3, step 5).
 Message refuseExtensions( const Message &request, To to, const std::string &tag )
 {
     auto required = need( request, "Proxy-Require", telsxHeaderProxyRequireTryDecodeFromMessage );
@@ -246,8 +246,8 @@ Message refuseExtensions( const Message &request, To to, const std::string &tag 
     return response;
 }
 
-// The 400 for a request with a CR or LF that ends no line here: whoever takes it for a line end would see other headers than
-// this proxy did. Nothing if the response would hold one too.
+// The 400 for a request with a CR or LF that does not end a line here: a peer that takes it for a line end would see
+// other headers than this proxy did. Nothing if the response would contain one too.
 Message refuseLineEnds( const Message &request, To to, const std::string &tag )
 {
     Message response = respond( request, 400, std::move( to ), tag );
@@ -256,8 +256,8 @@ Message refuseLineEnds( const Message &request, To to, const std::string &tag )
     return response;
 }
 
-// What the proxy sends when it gets the message; what it reads there goes to the stream. Throws a
-// std::runtime_error for bad ones.
+// What the proxy sends when it gets the message; what it reads there goes to the stream. Throws a std::runtime_error
+// for bad messages.
 Message hop( Message message, const Place &place, std::ostream &read )
 {
     if ( !telsxMessageIsRequest( message.get() ) )
@@ -320,7 +320,7 @@ Message hop( Message message, const Place &place, std::ostream &read )
     return message;
 }
 
-// The port that the text is, or -1.
+// The port that the text stands for, or -1.
 int64_t toPort( const String &text )
 {
     int64_t port, digits;
@@ -329,7 +329,7 @@ int64_t toPort( const String &text )
     return number && port <= 0xFFFF ? port : -1;
 }
 
-// False if the texts are no host, address and port; the address may be null.
+// False if the texts are not a host, an address and a port; the address may be null.
 bool toPlace( const char *host, const char *address, const char *port, Place &place )
 {
     String name = toString( host );

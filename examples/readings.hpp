@@ -5,7 +5,7 @@
 
 #include "example.hpp"
 
-// Writes what a value or a header says, a field on a line; what is absent has no line.
+// Writes what a value or a header says, one field per line; absent fields have no line.
 class Reading
 {
 public:
@@ -97,7 +97,7 @@ private:
 #undef TELSX_OBJECT_OF
 #undef TELSX_PARAMS
 
-// Of a kind that has fields.
+// For a kind that has fields.
 template <class HANDLE>
 void showFields( const char *name, const Owned<HANDLE> &header )
 {
@@ -108,7 +108,7 @@ void showFields( const char *name, const Owned<HANDLE> &header )
 inline bool isStar( TELSX_HEADER_CONTACT header ) { return telsxHeaderContactIsStarForm( header ); }
 inline bool isStar( const void * ) { return false; }
 
-// Of a kind that is a list of values.
+// For a kind that is a list of values.
 template <class HANDLE, class VALUE>
 void showValues( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                  VALUE ( *tryDecodeAt )( HANDLE, int64_t ) )
@@ -128,7 +128,7 @@ void showValues( const char *name, const Owned<HANDLE> &header, int64_t ( *lengt
     }
 }
 
-// Of a kind that is a list or a set of texts.
+// For a kind that is a list or a set of texts.
 template <class HANDLE>
 void showTexts( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                 RT_STRING ( *textAt )( HANDLE, int64_t ) )

@@ -9,7 +9,7 @@
 
 int main()
 {
-    constexpr int64_t maxHeld = 65536; // bytes of a message that isn't complete; the decoder has no limit
+    constexpr int64_t maxHeld = 65536; // bytes of an incomplete message; the decoder itself has no limit
     Library library;
     Owned decoder( telsxMessageStreamDecoderCreate() );
     int messages = 0;
@@ -25,7 +25,7 @@ int main()
             show( message );
             std::cout << std::endl;
         }
-        // There is no way on from a bad message: nothing tells where the next one begins.
+        // A bad message ends the stream: nothing tells where the next one begins.
         if ( telsxMessageStreamDecoderError( decoder.get() ) )
         {
             std::cerr << "stream: message " << messages + 1 << " is bad or has no Content-Length\n";

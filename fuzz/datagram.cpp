@@ -1,4 +1,4 @@
-// A datagram that decodes is written in a form that decodes to the same message and doesn't change any more.
+// A datagram that decodes is written in a form that decodes to the same message and no longer changes.
 #include "fuzz.hpp"
 #include "mutator.hpp"
 
@@ -17,7 +17,7 @@ Fragment decode( const Ref<RT_BUFFER> &input )
 }
 Ref<RT_BUFFER> encode( const Fragment &frag ) { return adopt( telsxMessageFragmentEncode( frag.get() ) ); }
 
-// The headers but Content-Length, which the encoder makes anew.
+// All headers except Content-Length, which the encoder makes anew.
 Ref<RT_VECTOR> headers( Fragment frag )
 {
     telsxMessageFragmentDelHeaderCstr( frag.address(), "Content-Length", -1 );

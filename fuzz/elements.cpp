@@ -1,5 +1,5 @@
-// Every skipper, predicate, normaliser, encoder and decoder of the elements on any text: the element's name, a line feed,
-// and UTF-8. What is no UTF-8 is code points of three bytes each, so that there is no text that can't be said.
+// Every skipper, predicate, normaliser, encoder and decoder of the elements on any text: the element's name, a line
+// feed, and UTF-8. Bytes that are not UTF-8 make code points of three bytes each, so that every text can be expressed.
 #include "elements.hpp"
 #include "fuzz.hpp"
 #include "mutator.hpp"

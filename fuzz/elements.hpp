@@ -1,5 +1,5 @@
-// The elements of the grammar in one list, each with the functions that it has, and the properties that hold
-// for every text. The fuzz target and the tests go through it.
+// The elements of the grammar in one list, each with its functions, and the properties that hold for every text. The
+// fuzz target and the tests go through it.
 #pragma once
 
 #include <algorithm>
@@ -24,22 +24,22 @@ struct Element
     RT_BOOL ( *ok )( RT_STRING ) = nullptr;
     Skipper skip = nullptr;
     RT_STRING ( *normalize )( RT_STRING ) = nullptr;
-    bool okIsWhole = false; // whether the skipper takes the whole text is what ok asks
+    bool okIsWhole = false; // ok is true exactly if the skipper takes the whole text
 
-    // The plain text that is encoded is any that is Ok; where okIsWhole, it is any without line ends.
+    // Any plain text that is Ok can be encoded; if okIsWhole, any without line ends.
     RT_STRING ( *encode )( RT_STRING ) = nullptr;
     RT_STRING ( *tryDecode )( const RT_CHAR *chs, int64_t length ) = nullptr;
-    bool isHost = false; // plain text comes back in a normal form, and not all that is measured decodes
+    bool isHost = false; // plain text comes back in a normal form, and not everything that is skipped decodes
 
     RT_BOOL ( *numberOk )( int64_t ) = nullptr;
     RT_STRING ( *encodeNumber )( int64_t ) = nullptr;
     int64_t ( *tryDecodeNumber )( const RT_CHAR *chs, int64_t length ) = nullptr;
 };
 
-// What the skippers of an exact word are asked for.
+// The word that skippers of an exact word are given.
 inline constexpr RT_CHAR sip[] = { 'S', 'I', 'P' };
 
-// -1, which no count may be, unless the index is set with a match and only then.
+// The count; or -1, which no count may be, unless the index is set exactly if there is a match.
 template <auto SKIP, int64_t FIRST, int64_t LAST>
 int64_t skipName( const RT_CHAR *chs, int64_t length )
 {
@@ -99,10 +99,10 @@ private:
     int64_t length;
 };
 
-// Each of these gives the first property that doesn't hold, or null.
+// Each of these returns the first property that does not hold, or null.
 
-// Behind a count stands at most what ends a run or lets an optional part fail, which the end of the text does
-// too: so a text that is cut there has the same count. What a missing part fails has none.
+// What follows a count can only end a run or make an optional part fail, and so does the end of the text: a text that
+// is cut there has the same count. If a missing part makes the match fail, there is no count.
 inline const char *brokenSkipping( const Element &element, Text text )
 {
     int64_t count = element.skip( text.chs, text.length );

@@ -8,7 +8,7 @@
 namespace erased
 {
 
-// A handle that a function may change, in the place of an object of any type.
+// A handle that a function may change, as one for objects of any type.
 template <class HANDLE>
 struct InPlace
 {
@@ -38,7 +38,7 @@ auto converted( FROM from )
 template <class RESULT, class... ARGUMENT>
 using Pointer = RESULT ( * )( ARGUMENT... );
 
-// What converts to a pointer to a function that takes and gives RT_OBJ where this one has its own handle.
+// Converts to a pointer to a function that takes and returns RT_OBJ where this one has its own handle.
 template <auto FUNCTION>
 struct Function;
 template <class HAS_RESULT, class... HAS, Pointer<HAS_RESULT, HAS...> FUNCTION>

@@ -39,7 +39,7 @@ inline std::string_view bytes( const Ref<RT_BUFFER> &from )
              static_cast<std::size_t>( rtBufferLength( from.get() ) ) };
 }
 
-// The text in UTF-8, or, if it is none, in 8-bit characters.
+// The text as UTF-8 or, if it is not UTF-8, as 8-bit characters.
 inline Ref<RT_STRING> text( std::string_view bytes )
 {
     auto length = static_cast<int64_t>( bytes.size() );
@@ -47,7 +47,7 @@ inline Ref<RT_STRING> text( std::string_view bytes )
     return utf8 ? utf8 : adopt( rtStringCreateFromCstr( bytes.data(), length ) );
 }
 
-// A property that broken found, of the thing of that name.
+// Reports the property that does not hold for the thing with this name, if there is one.
 inline void requireNone( const char *broken, std::string_view name )
 {
     if ( broken )
@@ -57,7 +57,7 @@ inline void requireNone( const char *broken, std::string_view name )
     }
 }
 
-// The module runs as long as the process.
+// The module runs as long as the process does.
 struct Module
 {
     Module() { rtModuleStart( telsxModule() ); }
@@ -75,8 +75,8 @@ int run( TEST test )
     return 0;
 }
 
-// Runs a test of the entry of the list whose name is the input's first line, on what follows that line. A tilde names
-// all entries, and another name none.
+// Runs a test for the entry of the list that the input's first line names, on what follows that line. A tilde names all
+// entries, any other name none.
 template <class LIST, class TEST>
 int runNamed( const uint8_t *data, std::size_t size, const LIST &list, TEST test )
 {

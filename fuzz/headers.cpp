@@ -1,5 +1,5 @@
-// Every typed header on any lines: the header's name, a line feed, and the lines, each with a line feed after it but the
-// last.
+// Every typed header on any lines: the header's name, a line feed, and the lines, each except the last followed by a
+// line feed.
 #include "headers.hpp"
 #include "fuzz.hpp"
 #include "mutator.hpp"

@@ -1,5 +1,5 @@
-// The kinds of typed headers in one list, and the properties that hold for all lines of text. The fuzz target
-// and the tests go through it.
+// The kinds of typed headers in one list, and the properties that hold for all lines of text. The fuzz target and the
+// tests go through it.
 #pragma once
 
 #include <string_view>
@@ -25,7 +25,7 @@ struct Kind
     RT_OBJ ( *tryDecodeFromMessage )( TELSX_MESSAGE msg );
     void ( *removeFromMessage )( TELSX_MESSAGE *msg );
 
-    // Of what it is a list or a set: the name of the value or element, and the functions that it has.
+    // For a list or set: the name of its value or element, and its functions.
     std::string_view item = {};
     RT_OBJ ( *create )() = nullptr;
     int64_t ( *length )( RT_OBJ hdr ) = nullptr;
@@ -48,7 +48,7 @@ struct Kind
     Ref<RT_STRING> nameString() const { return adopt( rtStringCreateFromCstr( name.data(), -1 ) ); }
 };
 
-// Two kinds have a name of their own for this.
+// Two kinds have another name for this.
 #define telsxHeaderContactClearContacts telsxHeaderContactClear
 #define telsxHeaderWarningClearWarnings telsxHeaderWarningWarningsClear
 
@@ -96,13 +96,13 @@ inline int64_t count( const Raw &raw, RT_CHAR ch )
     return sum;
 }
 
-// Whether both are null, or both are the same in value and text.
+// Whether both are null, or both have the same value and text.
 inline bool areSame( const Kind &kind, const Ref<RT_OBJ> &a, const Ref<RT_OBJ> &b )
 {
     return a && b ? a == b && adopt( kind.encode( a.get() ) ) == adopt( kind.encode( b.get() ) ) : !a && !b;
 }
 
-// A request with that raw header.
+// A request with this raw header.
 inline Message messageWith( const Raw &raw )
 {
     Ref<TELSX_VERSION> version = adopt( telsxVersionCreateSip20() );
@@ -112,8 +112,7 @@ inline Message messageWith( const Raw &raw )
     return message;
 }
 
-// Each of these gives the first property that doesn't hold, or null. The header is what the raw one decodes
-// to.
+// Each of these returns the first property that does not hold, or null. The header is what the raw one decodes to.
 
 inline const char *brokenReading( const Kind &kind, const Raw &raw, const Ref<RT_OBJ> &hdr )
 {
@@ -156,8 +155,8 @@ inline Ref<RT_STRING> textOf( const Raw &raw )
     return text;
 }
 
-// Whether the lines are contacts of which the first has a display name that begins with a star. That is a
-// contact in any line but the first, where the star means all contacts.
+// Whether the lines are contacts, the first with a display name that begins with a star. That is a contact in any line
+// except the first, where the star means all contacts.
 inline bool isStarInFront( const Kind &kind, const Raw &raw )
 {
     if ( kind.name != "Contact" || !linesOf( raw ) )

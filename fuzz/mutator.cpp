@@ -14,7 +14,7 @@ constexpr std::string_view names[] = {
     "Content-Length", "l", "v", "X", "cONTENT-type",
 };
 
-// Pieces of header values; sip.dict holds shorter ones, which the fuzzer puts in by itself.
+// Pieces of header values; sip.dict has shorter ones, which the fuzzer inserts by itself.
 constexpr std::string_view words[] = {
     "SIP/2.0/UDP a;branch=z9hG4bK1",
     "<sip:a@b.c;lr>",
@@ -73,7 +73,7 @@ Lines cut( std::string_view message )
     return lines;
 }
 
-// The first message, or what follows one of the blank lines: the next message of a stream, or one that is a body.
+// The first message, or what follows one of the blank lines: the next message of a stream, or one inside a body.
 std::size_t pickOffset( std::string_view input, Random &random )
 {
     static constexpr std::string_view blankLine = "\r\n\r\n";

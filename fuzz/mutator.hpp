@@ -1,5 +1,5 @@
-// How inputs are changed, beside the fuzzer's own changes of bytes. mutator.cpp changes messages as messages; naming.cpp
-// leaves the name alone that an input begins with. Each target states what its mutator needs.
+// How inputs are changed, in addition to the fuzzer's own changes of bytes. mutator.cpp changes messages as messages;
+// naming.cpp keeps the name that an input begins with. Each target states what its mutator needs.
 #pragma once
 
 #include <cstddef>

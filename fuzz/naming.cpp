@@ -1,5 +1,5 @@
-// How inputs are changed whose first line names what is tested: what follows the line by the fuzzer's own changes. Now
-// and then, and where the name is none of the list, another name takes its place.
+// Changes inputs whose first line names what is tested: the fuzzer's own changes apply to what follows that line. Now
+// and then, and if the name is not in the list, another name replaces it.
 #include <algorithm>
 #include <cstring>
 #include <string>

@@ -1,5 +1,5 @@
-// Stands in for the fuzzer where there is none: runs a target over all files of the folders that it is given,
-// each in a heap block of exactly its size, so that a sanitizer sees a read past the end.
+// Stands in for the fuzzer where there is none: runs a target over all files of the folders given, each in a heap block
+// of exactly its size, so that a sanitizer sees a read past the end.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>

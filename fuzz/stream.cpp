@@ -1,7 +1,7 @@
-// However a stream is cut, the decoder gives the same messages, and fails or doesn't.
+// However a stream is cut, the decoder returns the same messages, and fails or succeeds alike.
 //
-// The first four bytes of the input steer the cutting: the lower six bits of each are the length of a piece,
-// in turn. So "AAAA" cuts the stream into single bytes, and "@" is an empty piece.
+// The first four bytes of the input control the cutting: the lower six bits of each are the length of a piece, in turn.
+// So "AAAA" cuts the stream into single bytes, and "@" is an empty piece.
 #include <algorithm>
 #include <array>
 #include <string>
@@ -25,7 +25,7 @@ struct Outcome
 {
     std::vector<Ref<RT_BUFFER>> messages; // encoded
     bool error = false;
-    int64_t left = 0; // bytes of no message
+    int64_t left = 0; // bytes that belong to no message
 
     bool operator==( const Outcome &other ) const
     {
@@ -33,8 +33,7 @@ struct Outcome
     }
 };
 
-// Writes the piece of the stream at the offset by one of the five functions; all give the decoder the same
-// bytes.
+// Writes the piece of the stream at the offset by one of the five functions; all pass the same bytes to the decoder.
 bool write( const Decoder &decoder, std::string_view stream, std::size_t offset, std::size_t length,
             std::size_t function )
 {

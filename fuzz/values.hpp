@@ -1,5 +1,5 @@
-// The structured values in one list, and the properties that hold for every text. The fuzz target and the
-// tests go through it.
+// The structured values in one list, and the properties that hold for every text. The fuzz target and the tests go
+// through it.
 #pragma once
 
 #include <algorithm>
@@ -48,11 +48,11 @@ inline const Type all[] = {
 
 inline int64_t count( Text text, RT_CHAR ch ) { return std::count( text.chs, text.chs + text.length, ch ); }
 
-// Whether two objects of a type are equal; those that can't be compared are told apart by their texts alone.
+// Whether two objects of a type are equal; those that can't be compared are distinguished by their texts only.
 inline bool areEqual( const Ref<RT_OBJ> &a, const Ref<RT_OBJ> &b ) { return !a->sort->compareFunc || a == b; }
 
-// Whether the text is a warning with a code below 100, which is written without zeros in front and is no
-// warning for anyone who reads it.
+// Whether the text is a warning with a code below 100, which is written without leading zeros and is then not a warning
+// for any reader.
 inline bool isShortWarning( const Type &type, Text text )
 {
     return type.name == "WarningValue" && telsx___SkipDigits( text.chs, text.length ) < 3;
@@ -73,7 +73,7 @@ inline const char *broken( const Type &type, Text text )
     Ref<RT_OBJ> again = type.decoded( wire );
     if ( !again )
         return "what is encoded decodes";
-    // An escape may hide what the field of a parameter wants, and what is encoded shows it.
+    // An escape may hide what the field of a parameter requires; the encoded text shows it.
     bool mayHide = count( text, '\\' );
     if ( type.encoded( again ) != encoded )
         return mayHide ? broken( type, wire ) : "what is encoded doesn't change any more";

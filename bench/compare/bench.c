@@ -32,7 +32,7 @@ static void need( bool good, const char *what )
     exit( 1 );
 }
 
-/* What the parsers hand over. The compiler must take it for used; checks print it. */
+/* What the parsers hand over. The compiler must assume that it is used; checks print it. */
 
 static bool printsValues;
 static FILE *bytesTo;
@@ -121,7 +121,7 @@ static void load( MESSAGE *message )
     fclose( file );
 }
 
-/* A small request with n of the shape. */
+/* A small request with n of the given shape. */
 static MESSAGE shaped( SHAPE shape, int n )
 {
     MESSAGE message = { .name = shapes[shape], .bytes = allocate( 1024 + (size_t)n * 40 ) };
@@ -174,7 +174,7 @@ static void pin( size_t core )
     sched_setaffinity( 0, sizeof cores, &cores );
 }
 
-/* Nanoseconds for a job, by the clock, in a run of at least so many seconds. */
+/* Nanoseconds for one job by the clock, in a run of at least this many seconds. */
 static double run( JOB job, const MESSAGE *message, double length, clockid_t clock )
 {
     double start = seconds( clock ), now;
@@ -285,7 +285,7 @@ static void *work( void *context )
     return NULL;
 }
 
-/* Jobs in a nanosecond of so many threads together, each on a core and a message of its own. */
+/* Jobs per nanosecond of this many threads together, each on its own core and message. */
 static double rate( size_t threads, JOB job, const MESSAGE *message, double length )
 {
     pthread_t ids[2];
@@ -322,7 +322,7 @@ static void threads( JOB job, const MESSAGE *message, void *context )
     printf( "%s %s %.2f\n", jobs[job], message->name, median( ratios, timing->runs ) );
 }
 
-/* Nanoseconds for n and twice n and so on: the least of some passes, since a neighbour on the machine only adds. */
+/* Nanoseconds for n, twice n and so on: the minimum of several passes, since a neighbour on the machine only adds. */
 static void grow( void )
 {
     for ( SHAPE shape = 0; shape < SHAPES; ++shape )
@@ -398,7 +398,7 @@ int main( int argc, char **argv )
     int64_t number = argc > 2 ? atoll( argv[2] ) : 0;
     TIMING timing = { 0.3, number < 1 ? 1 : number > 64 ? 64 : (int)number };
 
-    /* With a second thread the C library and the reference counts can take no short cut. */
+    /* With a second thread the C library and the reference counts can take no shortcut. */
     pthread_t id;
     need( pthread_create( &id, NULL, sleepOn, NULL ) == 0, "a thread" );
     for ( int i = 0; i < MESSAGES; ++i )

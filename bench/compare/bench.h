@@ -1,4 +1,4 @@
-/* The frame of the comparison: one program for each parser, which do the same jobs on the same messages. */
+/* The frame of the comparison: one program for each parser, all doing the same jobs on the same messages. */
 #ifndef COMPARE_BENCH_H
 #define COMPARE_BENCH_H
 
@@ -6,7 +6,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
-/* What is done with a message; each job holds the one before it.
+/* What is done with a message; each job includes the one before it.
  *
  *     screen  bytes to the parser's message object, which is released
  *     route   reads VALUES and hands them to benchTakeValues
@@ -25,8 +25,8 @@ typedef enum JOB
 #define OWN_PORT 5060
 #define OWN_BRANCH "z9hG4bK-own-0123456789abcdef"
 
-/* A text as the parser hands it out: of 1 or 4 bytes a character, with a length or, with -1, up to the zero.
- * Without characters it is absent. */
+/* A text as the parser hands it out: 1 or 4 bytes per character, with a length or, with -1, up to a zero. Without
+ * characters it is absent. */
 typedef struct TEXT
 {
     const void *chars;
@@ -34,7 +34,7 @@ typedef struct TEXT
     int64_t width;
 } TEXT;
 
-/* An address, whole or in pieces, again as the parser hands it out. */
+/* An address, whole or in parts, again as the parser hands it out. */
 typedef struct ADDRESS
 {
     TEXT whole;
@@ -48,7 +48,7 @@ typedef struct VALUES
     int64_t viaPort; /* 0: none */
     ADDRESS from, to;
     TEXT fromTag, toTag;
-    TEXT callId, callIdHost; /* the latter where the parser cuts at the @ */
+    TEXT callId, callIdHost; /* the latter if the parser splits at the @ */
     TEXT method;
     int64_t cseq, maxForwards; /* -1: none */
 } VALUES;
@@ -66,16 +66,16 @@ typedef enum SHAPE
     SHAPES
 } SHAPE;
 
-/* The bytes may be changed until the function returns, and then must be as they were; behind them stands a
- * zero. Functions may run in several threads at once. */
+/* The bytes may be changed until the function returns, and must then be as before; a zero follows them. Functions may
+ * run in several threads at once. */
 typedef struct PARSER
 {
     void ( *start )( void );
     bool hops; /* whether there is an encoder, and so the job hop */
     bool ( *work )( JOB job, char *bytes, size_t length );
-    /* Decodes and walks the n, and tells how many they are; -1 where they stay one text. */
+    /* Decodes and walks the n, and returns how many there are; -1 if they stay one text. */
     int64_t ( *count )( SHAPE shape, char *bytes, size_t length );
-    /* Decodes a stream of messages that come in pieces of the size and tells how many they are; may be null. */
+    /* Decodes a stream of messages that comes in pieces of the size, and returns how many there are; may be null. */
     int64_t ( *stream )( const char *bytes, size_t length, size_t piece );
 } PARSER;
 

@@ -1,4 +1,4 @@
-// What telsx writes is read by Sofia-SIP and libosip2, and what Sofia-SIP writes by telsx: the fields agree.
+// Sofia-SIP and libosip2 read what telsx writes, and telsx reads what Sofia-SIP writes: the fields agree.
 #include <cmath>
 #include <cstring>
 #include <ranges>
@@ -54,7 +54,7 @@ struct Content
     std::vector<Party> contacts = {};
     std::vector<std::string> routes = {};
     std::string body = {};
-    // What libosip2 has no type for.
+    // Headers that libosip2 has no type for.
     int64_t sessionExpires = -1;
     std::string refresher = {};
 };
@@ -278,7 +278,7 @@ Content telsxRead( const std::string &wire )
     return content;
 }
 
-// What the others hand out as it stands in the message.
+// What the others hand out as it is in the message.
 
 std::string text( const char *chars ) { return chars ? chars : ""; }
 int64_t number( const char *digits ) { return digits ? std::stoll( digits ) : -1; }
@@ -332,7 +332,7 @@ std::string sofiaWrite( const Content &content )
         add( sip_status_class, "SIP/2.0 " + std::to_string( content.status ) + " Moved" );
     else
         add( sip_request_class, content.method + ' ' + toUri( content.iri ) + " SIP/2.0" );
-    for ( const Via &via : std::ranges::reverse_view( content.vias ) ) // each goes on top
+    for ( const Via &via : std::ranges::reverse_view( content.vias ) ) // each becomes the top one
         add( sip_via_class, "SIP/2.0/" + via.transport + ' ' + via.host
                                 + ( via.port == -1 ? "" : ':' + std::to_string( via.port ) )
                                 + ";branch=" + via.branch );
@@ -407,7 +407,7 @@ Content sofiaRead( const std::string &wire )
 
 // libosip2
 
-// It takes an IPv6 address in a Via out of its brackets.
+// It takes the brackets off an IPv6 address in a Via.
 std::string bracketed( const std::string &host )
 {
     return host.find( ':' ) == std::string::npos ? host : '[' + host + ']';

@@ -1,4 +1,4 @@
-/* Counts heap calls and the bytes that they ask for; to be preloaded. A realloc is a call with its new size. */
+/* Counts heap calls and the bytes that they ask for; to be preloaded. A realloc is one call with its new size. */
 #include <stdatomic.h>
 #include <stddef.h>
 #include <stdint.h>

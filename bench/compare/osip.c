@@ -112,7 +112,7 @@ static bool work( JOB job, char *bytes, size_t length )
     return good;
 }
 
-/* Its own way through a list that does not begin anew for each element. */
+/* Its own way through a list, which does not start over for each element. */
 static int64_t countList( osip_list_t *list )
 {
     osip_list_iterator_t at;

@@ -1,5 +1,5 @@
-/* Its message object refers to the bytes of the caller, who hands them over in a buffer. It has no encoder for
- * a decoded message. */
+/* Its message object refers to the bytes of the caller, who passes them in a buffer. It has no encoder for a decoded
+ * message. */
 #include <stdint.h>
 
 #include <re.h>

@@ -54,7 +54,7 @@ static bool route( const sip_t *sip )
     return true;
 }
 
-/* As its transports do: only what has no text yet is encoded, and the pieces are listed; here they are joined. */
+/* As its own transports do: only what has no text yet is encoded, and the pieces are listed; here they are joined. */
 static bool encode( msg_t *msg )
 {
     msg_iovec_t pieces[256];

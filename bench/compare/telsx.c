@@ -2,7 +2,8 @@
 
 #include "bench.h"
 
-/* The parts of the own Via that are the same in each. Threads that share nothing need not wait for each other's counts. */
+/* The parts of our own Via that are always the same; per thread, since threads that share nothing need not wait for
+ * each other's counts. */
 static _Thread_local RT_STRING ownTransport, ownHost;
 static TELSX_VERSION ownVersion;
 

@@ -1,7 +1,7 @@
 #!/usr/bin/perl
-# Makes of the public headers what Doxygen reads: a group for each header, and for each function a comment of its own,
-# also for those that macros declare. To it the comment adds who owns what and in which unit numbers are, as the types
-# and the names tell.
+# Turns the public headers into input for Doxygen: a group for each header, and a comment for each function, including
+# those that macros declare. Each comment also says who owns what and gives the units of numbers, as derived from the
+# types and names.
 # usage: headers.pl SOURCE INTO
 use strict;
 use warnings;
@@ -46,7 +46,7 @@ sub spew
     close $out or die "$name: $!\n";
 }
 
-# What a macro's comment says of the function with this suffix. A row may name a part of the suffix by the macro's
+# What a macro's comment says about the function with this suffix. A row may name a part of the suffix by the macro's
 # parameter, such as Del<WORD>At; in its text <word> and <words> are that argument in words.
 sub row
 {
@@ -65,7 +65,7 @@ sub row
     return;
 }
 
-# What a macro declares: a section, the declaration and what the macro's comment says of it.
+# What a macro declares: a section, the declaration and what the macro's comment says about it.
 sub expanded
 {
     my ( $call, $comment ) = @_;
@@ -177,7 +177,7 @@ sub formatted
     return $result =~ s/\n+(?=\n\n|\n\@endverbatim)//gr;
 }
 
-# Who owns what, and the units, as the types and the names of a declaration tell.
+# Who owns what, and the units, derived from the types and names of a declaration.
 my $handle = qr/(?:RT_(?:STRING|BUFFER|VECTOR|DICT|STORE|TIME|OBJ)|NET_ADDRESS|TELSX_\w+)/;
 my $seconds = qr/(?:expires|deltaSeconds|duration|retryAfter)$/i;
 
@@ -269,7 +269,7 @@ sub write_unit
     spew( "$name.h", "$page/** \@} */\n" );
 }
 
-# The one header of C++, whose comments are lines.
+# The one C++ header, which has line comments.
 sub write_cpp
 {
     my ( $page, $text, $group ) = ( '', '', '' );

@@ -1,5 +1,5 @@
 #!/usr/bin/perl
-# Makes of a document of docs/ a page of the reference: it and its recipes become targets of links, and code in its
+# Turns a document of docs/ into a page of the reference: the page and its recipes become link targets, and code in its
 # tables is written so that Doxygen leaves it alone.
 # usage: page.pl NAME <DOCUMENT
 use strict;

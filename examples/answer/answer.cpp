@@ -2,9 +2,9 @@
 //
 //     answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]
 //
-// ADDRESS, 127.0.0.1 unless told, is an IP address of this machine, at which others reach it; port 0 picks one.
-// The first line on standard output tells both. An INVITE rings for the time (1000) and is taken then, unless
-// its caller cancels it; a REGISTER binds addresses as a registrar does. SIGINT and SIGTERM end it.
+// ADDRESS, by default 127.0.0.1, is an IP address of this machine at which others can reach it; port 0 picks one. The
+// first line on standard output gives both. An INVITE rings for the time (by default 1000) and is then accepted, unless
+// its caller cancels it; a REGISTER binds addresses as a registrar does. SIGINT and SIGTERM end the program.
 //
 // Limits, and what happens beyond them:
 //
@@ -31,14 +31,14 @@
 namespace
 {
 
-// Whether the header is there in two lines. It can't be told which one the sender means.
+// Whether the header occurs in two lines. Then nothing tells which one the sender means.
 bool isAmbiguous( const Request &request, const char *name )
 {
     Owned header( telsxMessageHeaderCstr( request.message.get(), name, -1 ) );
     return header && telsxMessageHeaderLinesLength( header.get() ) > 1;
 }
 
-// Whether the body is compressed; also if that can't be read.
+// Whether the body is compressed; also true if that can't be read.
 bool isEncoded( TELSX_MESSAGE message )
 {
     Owned header( telsxHeaderContentEncodingTryDecodeFromMessage( message ) );
@@ -67,7 +67,7 @@ bool acceptsSession( TELSX_MESSAGE message )
     return !header && !telsxHeaderAcceptPresentInMessage( message );
 }
 
-// The status code with which to refuse the request before anything is done with it, or 0 (RFC 3261, 8.2).
+// The status code that refuses the request before anything is done with it, or 0 (RFC 3261, 8.2).
 int64_t refusal( const Request &request )
 {
     TELSX_MESSAGE message = request.message.get();
@@ -76,7 +76,7 @@ int64_t refusal( const Request &request )
         return 505;
     if ( request.statusCode )
         return request.statusCode;
-    // To a peer that takes a lone CR or LF for a line end it would be another message.
+    // A peer that takes a lone CR or LF for a line end would see another message.
     if ( request.number == -1 || telsxMessageHasLoneLineEnds( message ) )
         return 400;
     for ( const char *name : { "To", "From", "Cseq", "Call-Id", "Max-Forwards", "Content-Type" } )
@@ -99,7 +99,7 @@ int64_t refusal( const Request &request )
     return 0;
 }
 
-// Gives each request to the part that knows what to do with it.
+// Passes each request to the part that handles it.
 class Server
 {
 public:
@@ -115,7 +115,7 @@ public:
             return;
         const std::string &method = request->method;
         if ( method == "ACK" )
-            return calls.acknowledge( *request ); // which nothing answers, not even when it is bad
+            return calls.acknowledge( *request ); // nothing answers it, not even if it is bad
         if ( int64_t statusCode = refusal( *request ) )
             return send( *request, refuse( *request, statusCode ) );
         if ( method == "CANCEL" )
@@ -149,7 +149,7 @@ private:
     Registrar registrar;
 };
 
-// The number that the text is, or -1.
+// The number that the text stands for, or -1.
 int64_t toNumber( const char *text, int64_t most )
 {
     String digits = toString( text );
@@ -179,7 +179,7 @@ int main( int argc, char **argv )
         else
             good = false;
     }
-    // The calls' Contact is the address, and that is not "any".
+    // The calls' Contact is this address, which must not be "any".
     if ( !good || address.host() == "0.0.0.0" || address.host() == "::" )
     {
         std::cerr << "usage: answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]\n";

@@ -9,7 +9,7 @@ Clock::time_point Calls::tick()
     for ( Agenda &agenda : ends )
         while ( !agenda.empty() && now >= agenda.begin()->first )
             forget( agenda.begin()->second );
-    // Some of what is due; then it is the turn of what has come meanwhile.
+    // Handles some of what is due; then it is the turn of what has arrived meanwhile.
     for ( int i = 0; i < 100 && !dues.empty() && now >= dues.begin()->first; ++i )
     {
         uint64_t key = dues.begin()->second;
@@ -30,8 +30,8 @@ Clock::time_point Calls::tick()
     return next;
 }
 
-// Whether there is no place for another INVITE, of the call or, without one, of a new call. Calls that are over
-// give way, and no others do.
+// Whether there is no room for another INVITE, in the call or, without one, in a new call. Calls that are over make
+// room; no others do.
 bool Calls::full( const Call *call )
 {
     if ( !call && calls.size() >= maxCalls && !ends[true].empty() )
@@ -71,7 +71,7 @@ void Calls::schedule( uint64_t key, Invite &invite, Clock::time_point due )
     dues.emplace( due, key );
 }
 
-// The call of the request: for one without a tag in To, the call that it began.
+// The call of the request; without a tag in To, the call that the request began.
 Calls::Call *Calls::find( const Request &request )
 {
     auto at = calls.find( request.key );
@@ -101,7 +101,7 @@ bool Calls::follows( const Request &request )
     return true;
 }
 
-// A response that makes a dialog (RFC 3261, 12.1.1).
+// A response that creates a dialog (RFC 3261, 12.1.1).
 Message Calls::respondInDialog( const Request &request, int64_t statusCode )
 {
     Message response = respond( request, statusCode );
@@ -123,13 +123,13 @@ void Calls::invite( Request &request )
     bool again = call && call->transaction == request.transaction;
     if ( again && pending != invites.end() )
     {
-        pending->second.peer = request.peer; // it may come by a new connection
+        pending->second.peer = request.peer; // it may arrive over a new connection
         return network.send( request.peer, pending->second.response );
     }
     if ( again )
-        return; // a late copy of one that is acknowledged
+        return; // a late copy of an acknowledged one
     if ( call && request.tag.empty() )
-        return answer( request, 482 ); // it came on two ways (RFC 3261, 8.2.2.2)
+        return answer( request, 482 ); // it came by two paths (RFC 3261, 8.2.2.2)
     if ( !request.tag.empty() && !follows( request ) )
         return;
     if ( pending != invites.end() )
@@ -171,7 +171,7 @@ void Calls::finish( uint64_t key, Invite &invite, bool taken )
         invite.response = std::move( invite.taken );
     else
     {
-        // The 180 with another status code, and without what makes a dialog.
+        // The 180 with another status code, and without what creates a dialog.
         Message response( telsxMessageTryDecode( toBuffer( invite.response ).get() ) );
         telsxMessageSetResponseStatusCode( response.address(), 487, true );
         telsxHeaderContactRemoveFromMessage( response.address() );
@@ -179,7 +179,7 @@ void Calls::finish( uint64_t key, Invite &invite, bool taken )
         invite.response = encode( response );
     }
     invite.final = true;
-    // A connection loses nothing, but after it a 200 may be on its way by UDP.
+    // A connection loses nothing, but beyond it a 200 may travel by UDP.
     bool again = taken || invite.peer.connection == 0;
     schedule( key, invite, again ? Clock::now() + invite.pause : Clock::time_point::max() );
     keep( key, calls[key], !taken, patience );

@@ -20,7 +20,7 @@ struct Stream
     std::map<std::string, std::string> codecs = { { "0", "PCMU/8000" }, { "8", "PCMA/8000" } }; // by format
 };
 
-// The answer to a stream, with those of its formats that are understood; empty if there is no sound in them.
+// The answer to a stream, with those of its formats that are understood; empty if none of them is audio.
 std::string take( const Stream &stream )
 {
     std::string formats, lines;
@@ -73,7 +73,7 @@ Answer answerToOffer( const std::string &offer )
         else if ( first.rfind( "a=rtpmap:", 0 ) == 0 && !streams.empty() )
         {
             if ( second.size() > 2 && second.compare( second.size() - 2, 2, "/1" ) == 0 )
-                second.resize( second.size() - 2 ); // one channel, which need not be said
+                second.resize( second.size() - 2 ); // one channel is the default
             streams.back().codecs[first.substr( 9 )] = second;
         }
     }
@@ -101,8 +101,8 @@ Answer answerTo( const Request &request )
         return {
             0, "t=0 0\r\nm=audio 9 RTP/AVP 0 8 101\r\na=rtpmap:101 telephone-event/8000\r\na=inactive\r\n"
         };
-    // There is no type for Content-Type: its line is read and set as it is. (Another body is refused even if
-    // Content-Disposition says that it is optional.)
+    // Content-Type has no type: its line is read and set as it is. (Another body is refused even if Content-Disposition
+    // says that it is optional.)
     Owned header( telsxMessageHeaderCstr( request.message.get(), "Content-Type", -1 ) );
     std::string type = header ? toUtf8( Owned( telsxMessageHeaderLastLine( header.get() ) ) ) : "";
     if ( strcasecmp( type.substr( 0, type.find_first_of( "; \t" ) ).c_str(), "application/sdp" ) != 0 )

@@ -41,7 +41,7 @@ Message Registrar::bind( const Request &request )
     std::string who = toAddressOfRecord( toUtf8( Owned( telsxHeaderToIri( request.to.get() ) ) ) );
     if ( who.size() > maxLength )
         return refuse( request, 404 );
-    // What is changed is a copy, which counts when all of the request is good.
+    // The changes are made to a copy, which takes effect only if the whole request is good.
     auto known = registrations.find( who );
     Contacts contacts;
     if ( known != registrations.end() )
@@ -72,11 +72,11 @@ Message Registrar::bind( const Request &request )
     }
     if ( !contacts.empty() )
         telsxHeaderContactEncodeToMessage( held.get(), response.address() );
-    // The sender of a datagram may be somebody else, to whom no more must be sent than a forger could send itself.
+    // The sender of a datagram may be forged: its victim must not be sent more than the forger could send itself.
     if ( request.datagram
          && encode( response ).size() > std::min( Network::maxDatagram, maxGrowth * request.datagram ) )
         return refuse( request, 500 );
-    // Whoever only asks doesn't become the one to whom the registration counts.
+    // A request that only asks does not make its sender the one to whom the registration counts.
     if ( telsxHeaderContactPresentInMessage( request.message.get() )
          && !keep( who, std::move( contacts ), request.peer.address.source() ) )
         return refuseForNow( request, 503, 60 );
@@ -88,7 +88,7 @@ int64_t Registrar::change( const Request &request, Contacts &contacts, Clock::ti
     TELSX_MESSAGE message = request.message.get();
     uint64_t callId =
         std::hash<std::string>()( toUtf8( Owned( telsxHeaderCallIdCallId( request.callId.get() ) ) ) );
-    auto newer = [&]( const auto &contact ) // than the request, unless that has just come twice
+    auto newer = [&]( const auto &contact ) // than the request, unless the same one has arrived twice
     {
         return contact.second.callId == callId && contact.second.number >= request.number
                && contact.second.transaction != request.transaction;
@@ -155,7 +155,7 @@ void Registrar::forget( Registrations::iterator at )
     registrations.erase( at );
 }
 
-// All registrations are looked at, and so not for each request.
+// Goes through all registrations, and therefore not for each request.
 void Registrar::forgetEnded( Clock::time_point now )
 {
     if ( now < nextSweep )

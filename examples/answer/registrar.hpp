@@ -1,5 +1,5 @@
-// A registrar (RFC 3261, 10.3). Of a contact it gives back its address and until when it holds; contacts are the
-// same if their texts are, not by the rules of RFC 3261, 19.1.4.
+// A registrar (RFC 3261, 10.3). Of a contact it returns the address and the expiry time; contacts are the same if their
+// texts are, not by the rules of RFC 3261, 19.1.4.
 #pragma once
 
 #include <map>
@@ -13,14 +13,14 @@ public:
     Message bind( const Request &request );
 
 private:
-    // Places for addresses of record, of all and of one sender, whose oldest one gives way to its newest one.
+    // Limits on addresses of record: in all, and for one sender, whose newest one replaces its oldest.
     static constexpr std::size_t maxRegistrations = 10000, maxOfSource = 1000;
     static constexpr std::size_t maxContacts = 5,
                                  maxLength = 200; // of an address of record; bytes of an address
-    static constexpr std::size_t maxGrowth = 5;   // a datagram's response is so many times its length at most
+    static constexpr std::size_t maxGrowth = 5;   // limit of a response, in multiples of its datagram
     static constexpr int64_t maxExpires = 3600;   // seconds
 
-    // A contact, by the last request that has bound it, and until when it holds.
+    // A contact, with the last request that has bound it, and when it expires.
     struct Binding
     {
         uint64_t callId = 0, transaction = 0;
@@ -38,9 +38,10 @@ private:
     };
     using Registrations = std::map<std::string, Registration>;
 
-    // Puts what the request binds or takes away into the contacts; returns the status code of the response.
+    // Adds what the request binds to the contacts, and removes what it unbinds; returns the status code of the
+    // response.
     static int64_t change( const Request &request, Contacts &contacts, Clock::time_point now );
-    // False if there is no place.
+    // False if there is no room.
     bool keep( const std::string &who, Contacts contacts, const std::string &source );
     void forget( Registrations::iterator at );
     void forgetEnded( Clock::time_point now );

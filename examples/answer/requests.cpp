@@ -7,9 +7,9 @@
 namespace
 {
 
-// Notes in the top Via where the request came from (RFC 3261, 18.2.1, and RFC 3581, 4), and in peer where the
-// answers to a datagram go (RFC 3261, 18.2.2, but for maddr: it would send them anywhere). Returns branch and
-// sent-by; nothing without a good Via.
+// Notes in the top Via where the request came from (RFC 3261, 18.2.1, and RFC 3581, 4), and in peer where the answers
+// to a datagram go (RFC 3261, 18.2.2, except for maddr, which could send them anywhere). Returns branch and sent-by;
+// nothing without a good Via.
 std::string noteSource( Owned<TELSX_HEADER_VIA> &vias, Peer &peer )
 {
     Owned top( telsxHeaderViaViasLength( vias.get() ) ? telsxHeaderViaTryDecodeViaAt( vias.get(), 0 )
@@ -54,7 +54,7 @@ std::optional<Request> toRequest( Arrival arrival )
 {
     TELSX_MESSAGE handle = arrival.message.get();
     if ( !telsxMessageIsRequest( handle ) )
-        return std::nullopt; // this side sends no requests, so nothing waits for it
+        return std::nullopt; // this side sends no requests, so nothing waits for a response
     Request request{ std::move( arrival.message ), arrival.peer, arrival.datagram, arrival.statusCode };
     request.vias = Owned( telsxHeaderViaTryDecodeFromMessage( handle ) );
     request.from = Owned( telsxHeaderFromTryDecodeFromMessage( handle ) );
@@ -73,8 +73,8 @@ std::optional<Request> toRequest( Arrival arrival )
     if ( cseq && toUtf8( Owned( telsxHeaderCseqMethod( cseq.get() ) ) ) == request.method )
         request.number = telsxHeaderCseqCseq( cseq.get() );
 
-    // A call gets a random number of its own in its tag (RFC 3261, 19.3). All other answers share one, so that
-    // the same request has the same tag (RFC 3261, 8.2.7); their tags name nothing.
+    // Each call gets its own random number in its tag (RFC 3261, 19.3). All other answers share one, so that the same
+    // request gets the same tag (RFC 3261, 8.2.7); their tags identify nothing.
     static const uint64_t shared = randomNumber();
     std::hash<std::string> hash;
     Owned theirs( telsxHeaderFromTag( request.from.get() ) ), ours( telsxHeaderToTag( request.to.get() ) );

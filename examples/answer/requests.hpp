@@ -1,4 +1,4 @@
-// Requests that can be answered: what their responses take over is there and good.
+// Requests that can be answered: what their responses take over is present and valid.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@ struct Request
 {
     Message message;
     Peer peer = {};
-    std::size_t datagram = 0;             // its bytes, 0 if it came by a connection
+    std::size_t datagram = 0;             // its bytes, 0 if it came over a connection
     int64_t statusCode = 0;               // with which the transport refuses it, or 0
     std::string method = {}, scheme = {}; // the scheme is that of the Request-URI
     Owned<TELSX_HEADER_VIA> vias = {};
@@ -21,10 +21,10 @@ struct Request
     uint64_t key = 0;         // of the call: the tag of this side begins with it
     uint64_t random = 0;      // the rest of that tag
     uint64_t caller = 0;      // stands for Call-Id and the tag in From
-    uint64_t transaction = 0; // the same when the request comes twice (RFC 3261, 17.2.3)
+    uint64_t transaction = 0; // the same if the request arrives twice (RFC 3261, 17.2.3)
 };
 
-// Nothing for a response and for a request whose Via, From, To or Call-Id is bad or missing.
+// Nothing for a response, or for a request whose Via, From, To or Call-Id is bad or missing.
 std::optional<Request> toRequest( Arrival arrival );
 
 uint64_t randomNumber();

@@ -11,7 +11,7 @@ void addAllow( Message &response )
     telsxHeaderAllowEncodeToMessage( allow.get(), response.address() );
 }
 
-// The bodies that are understood, and in what coding and language (RFC 3261, 8.2.3).
+// The bodies that are understood, with their codings and languages (RFC 3261, 8.2.3).
 void addAccept( Message &response )
 {
     Owned accept( telsxAcceptCreate() );

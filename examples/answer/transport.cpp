@@ -16,21 +16,21 @@ bool bindTo( const SocketAddress &address, int type, Descriptor &to )
 {
     to = Descriptor( socket( address.any.sa_family, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0 ) );
     int on = 1, room = 8 << 20;
-    // So that a new process can have the port whose last connections the system still remembers.
+    // A new process can have the port even if the system still remembers its last connections.
     if ( type == SOCK_STREAM )
         setsockopt( to.get(), SOL_SOCKET, SO_REUSEADDR, &on, sizeof on );
-    // What comes while this side is busy waits, as much as the system allows (net.core.rmem_max).
+    // What arrives while this side is busy waits, as much as the system allows (net.core.rmem_max).
     else
         setsockopt( to.get(), SOL_SOCKET, SO_RCVBUF, &room, sizeof room );
     return bind( to.get(), &address.any, address.length() ) == 0;
 }
 
-// Of a message that can't be decoded, the start line and what a response takes over, so that the sender can be told;
-// null if that can't be read either.
+// The start line of a message that can't be decoded, and what a response takes over from it, so that the sender can be
+// told; null if these can't be read either.
 Message decodeForRefusal( std::string_view bytes )
 {
     std::string kept;
-    bool keeps = true; // the start line; then the lines of these headers and those that continue them
+    bool keeps = true; // the start line, then the lines of these headers and their continuation lines
     for ( std::size_t end; ( end = bytes.find( "\r\n" ) ) != bytes.npos; bytes.remove_prefix( end + 2 ) )
     {
         std::string_view line = bytes.substr( 0, end + 2 );
@@ -82,7 +82,7 @@ bool Network::open( SocketAddress &address )
     signals = Descriptor( signalfd( -1, &mask, SFD_CLOEXEC ) );
     own = address;
     own.setPort( 0 );
-    // A port that is free for TCP may be taken for UDP.
+    // A port that is free for TCP may be in use for UDP.
     SocketAddress wanted = address;
     for ( int tries = 0; tries < 16; ++tries )
     {
@@ -157,7 +157,7 @@ void Network::send( const Peer &peer, const std::string &bytes )
 
 void Network::readDatagrams( const Receive &receive )
 {
-    // All that is there, but timers and connections have their turn too.
+    // Reads everything that is there, but gives timers and connections their turn.
     for ( int i = 0; i < 1000; ++i )
     {
         Peer peer = {};
@@ -176,7 +176,7 @@ void Network::readDatagrams( const Receive &receive )
 
 void Network::readStream( uint64_t id, Connection &connection, const Receive &receive )
 {
-    // No more than fits, so that the longest message is the same however the network cuts it.
+    // No more than fits, so that the size limit is the same however the network cuts the stream.
     ssize_t length =
         recv( connection.socket.get(), piece, sizeof piece - connection.begun.size(), MSG_DONTWAIT );
     if ( length <= 0 )
@@ -206,8 +206,8 @@ void Network::readStream( uint64_t id, Connection &connection, const Receive &re
     if ( !bad && connection.begun.size() < maxMessage )
         return;
 
-    // After a bad message nothing tells where the next one begins. The connection stays for a while, since what
-    // the peer is still sending would otherwise end it before the response is read.
+    // After a bad message nothing tells where the next one begins. The connection stays open for a while: otherwise
+    // what the peer is still sending would end it before the response is read.
     connection.deaf = true;
     connection.deadline = Clock::now() + linger;
     Message rest = decodeForRefusal( connection.begun );
@@ -241,7 +241,7 @@ void Network::acceptConnection()
         add( ++lastConnection, std::move( connection ) );
     else if ( errno == EMFILE || errno == ENFILE )
     {
-        // Without a free descriptor the waiting one would be heard of again and again.
+        // Without a free descriptor, the waiting connection would be reported again and again.
         deaf = connections.empty();
         dropOne();
     }
@@ -269,7 +269,7 @@ Network::Connections::iterator Network::add( uint64_t id, Connection connection 
     return connections.emplace( id, std::move( connection ) ).first;
 }
 
-// The quietest of those that have never sent a message, or else of all.
+// The quietest of the connections that have never sent a message, or, if there are none, of all.
 void Network::dropOne()
 {
     auto less = []( const auto &a, const auto &b )

@@ -1,5 +1,5 @@
-// Messages from and to the network: one address and port, datagrams and TCP connections, one thread. What it
-// holds has a limit, whoever sends what.
+// Messages from and to the network: one address and port, datagrams and TCP connections, one thread. What it holds is
+// limited, whatever anybody sends.
 #pragma once
 
 #include <chrono>
@@ -29,13 +29,13 @@ union SocketAddress
     void setPort( int64_t port ) { ( isV6() ? v6.sin6_port : v4.sin_port ) = htons( uint16_t( port ) ); }
 
     std::string host() const;
-    // The bytes that stand for the sender: with IPv6 the half of the address that it can't choose.
+    // The bytes that stand for the sender: for IPv6 the half of the address that it can't choose.
     std::string source() const;
-    // False if the text is no IP address.
+    // False if the text is not an IP address.
     bool setHost( const char *text );
 };
 
-// A file descriptor, closed with the object.
+// A file descriptor, closed when the object is destroyed.
 class Descriptor
 {
 public:
@@ -57,12 +57,12 @@ private:
     int fd;
 };
 
-// Where a message comes from, and where its responses go.
+// Where a message came from, and where its responses go.
 struct Peer
 {
     uint64_t connection; // 0 for a datagram; never used again for another peer
     SocketAddress address;
-    int64_t port = 5060; // of a new connection, when the one of the request is gone (RFC 3261, 18.2.2)
+    int64_t port = 5060; // of a new connection if that of the request is gone (RFC 3261, 18.2.2)
 };
 
 struct Arrival
@@ -79,21 +79,21 @@ using Receive = std::function<void( Arrival )>;
 class Network
 {
 public:
-    static constexpr std::size_t maxMessage = 65535;  // bytes; a longer one has 513, and ends a connection
+    static constexpr std::size_t maxMessage = 65535;  // bytes; a longer one gets 513, and ends a connection
     static constexpr std::size_t maxDatagram = 65507; // bytes, with IPv4
     static constexpr std::size_t maxUnsent = 2 * maxMessage; // bytes, to a peer that doesn't read
     static constexpr std::size_t maxConnections = 256;       // a further one takes the place of another one
     static constexpr Clock::duration patience = 10s, linger = 5s; // for the first message; after a bad one
 
-    // Listens there, on a port that it picks and puts there if it is 0; false and errno if it can't. SIGINT and
-    // SIGTERM are events from now on.
+    // Listens on the address; if its port is 0, picks one and puts it there. False and errno if it can't. From now on
+    // SIGINT and SIGTERM are events.
     bool open( SocketAddress &address );
 
-    // Waits for messages until the time and calls receive for each; false when a signal asks for the end.
+    // Waits for messages until the time and calls receive for each; false when a signal asks to end.
     bool wait( Clock::time_point until, const Receive &receive );
 
-    // A datagram is sent, or by a connection what is too long for one. For a connection that is gone there will
-    // be a new one. What can't be sent is lost.
+    // Sends a datagram, or uses a connection if the message is too long for one. A connection that is gone is replaced
+    // by a new one. What can't be sent is lost.
     void send( const Peer &peer, const std::string &bytes );
 
 private:
@@ -121,7 +121,7 @@ private:
     Descriptor signals, listener, datagrams;
     SocketAddress own; // with port 0
     Connections connections;
-    uint64_t lastConnection = 0, clock = 0; // the clock counts what is heard
+    uint64_t lastConnection = 0, clock = 0; // the clock counts arrivals
     bool deaf = false;                      // to new connections, for one round
     char piece[maxMessage];
 };

@@ -1,10 +1,10 @@
-// Safe use from C++17: handles that release by themselves, and text to strings and back.
+// Safe use from C++17: handles that release themselves, and conversion of text to strings and back.
 //
 //     telsx::Owned via( telsxHeaderViaTryDecodeViaAt( vias.get(), 0 ) );
 //     if ( via )
 //         telsxViaSetPort( via.address(), 5060 );
 //
-// The functions stay those of the C headers, and so do their contracts.
+// The functions remain those of the C headers, and so do their contracts.
 #ifndef TELSX_TELSX_HPP
 #define TELSX_TELSX_HPP
 
@@ -16,7 +16,7 @@
 
 #include "telsx/telsx.h"
 
-// What C++ programs have beside the functions of C.
+// What C++ programs have in addition to the C functions.
 namespace telsx
 {
 
@@ -31,7 +31,7 @@ public:
     // Null.
     Owned() = default;
 
-    // Takes over a reference, which the caller was given: from all functions but Sort, Obj and From.
+    // Takes over a reference that the caller owns: what any function except Sort, Obj and From returns.
     explicit Owned( HANDLE given ) : handle( given ) {}
 
     // Takes another reference to the object.
@@ -41,7 +41,7 @@ public:
             rtObjRetain( obj() );
     }
 
-    // Takes over the reference of the other one, which is null then.
+    // Takes over the other's reference; the other is then null.
     Owned( Owned &&other ) noexcept : handle( std::exchange( other.handle, nullptr ) ) {}
 
     // Releases the reference.
@@ -51,7 +51,7 @@ public:
             rtObjRelease( obj() );
     }
 
-    // The same for what takes the place of the reference that was held.
+    // The same, for assignment: the reference held before is released.
     Owned &operator=( Owned other ) noexcept
     {
         std::swap( handle, other.handle );
@@ -74,7 +74,7 @@ private:
     HANDLE handle = nullptr;
 };
 
-// A reference of its own to an object that is only borrowed, or null.
+// A new reference to an object that is only borrowed, or null.
 template <class HANDLE>
 Owned<HANDLE> retained( HANDLE borrowed )
 {
@@ -107,7 +107,7 @@ inline std::u32string_view toView( const Owned<RT_STRING> &string )
 // The view would outlive the string.
 std::u32string_view toView( const Owned<RT_STRING> && ) = delete;
 
-// The text in UTF-8; a number that is no character, such as a surrogate, comes out as U+FFFD.
+// The text in UTF-8; a code point that is not a character, such as a surrogate, becomes U+FFFD.
 inline std::string toUtf8( const Owned<RT_STRING> &string )
 {
     Owned bytes( rtCharsetStringToBuffer( RT_CHARSET_UTF8, string.get() ) );

@@ -1,4 +1,4 @@
-// The character classes as bits of one table, and runs of them.
+// The character classes, as bits of one table, and runs of them.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// Tables of numbers and their texts.
+// Tables of codes and their texts.
 #pragma once
 
 #include <algorithm>
@@ -15,8 +15,8 @@ struct CodeText
     const char *text;
 };
 
-// The code's text, a new reference; if the table, which is in order, has none, what the format makes of the
-// code.
+// The code's text, a new reference. The table is sorted; a code that it does not have gets the text that the format
+// makes of it.
 inline RT_STRING textOfCode( std::span<const CodeText> table, int64_t code, const char *unknownFormat )
 {
     auto row = std::ranges::lower_bound( table, code, {}, &CodeText::code );

@@ -1,5 +1,5 @@
-// The frame of telsx's object types: rt's frame (rt/rt_frame.hpp, where the fields are told) with telsx's
-// names, and the accessors of fields.
+// The frame of telsx's object types: rt's frame (rt/rt_frame.hpp, which explains the fields) with telsx's names, and
+// the accessors of fields.
 #pragma once
 
 #include "rt/rt_frame.hpp"
@@ -9,21 +9,21 @@
 #define TELSX_CHECK( CONDITION, MESSAGE, EXPRESSION ) RT_CHECK( CONDITION, MESSAGE, EXPRESSION )
 #define TELSX_ASSERT( ... ) RT_CHECK( ( __VA_ARGS__ ), nullptr, #__VA_ARGS__ )
 
-// The code points that a skipper or a decoder is given.
+// The code points that are passed to a skipper or a decoder.
 #define TELSX_ASSERT_CHARS( CHS, LENGTH )                       \
     ( TELSX_CHECK( ( LENGTH ) >= 0, nullptr, #LENGTH " >= 0" ), \
       TELSX_CHECK( ( CHS ) || ( LENGTH ) == 0, nullptr, #CHS " || " #LENGTH " == 0" ) )
 
-// A text that an operation is given, and what the operation asks of it.
+// A text that is passed to an operation, and the condition that it must meet.
 #define TELSX_ASSERT_OK( OK, TEXT ) \
     ( TELSX_CHECK( TEXT, nullptr, #TEXT ), TELSX_CHECK( OK( TEXT ), nullptr, #OK "( " #TEXT " )" ) )
 
-// The handle and its address that an operation is given which changes the object.
+// The handle, and its address, that are passed to an operation that changes the object.
 #define TELSX_ASSERT_HANDLE( HANDLE ) \
     ( TELSX_CHECK( HANDLE, nullptr, #HANDLE ), TELSX_CHECK( *HANDLE, nullptr, "*" #HANDLE ) )
 
-// The copy step of such an operation; gives the object. It must be a statement of its own where a value is
-// computed that might abort or change the handle.
+// The copy step of such an operation; returns the object. It must be a statement of its own if the value is computed by
+// something that may abort or change the handle.
 #define TELSX_OWN( HANDLE ) ( TELSX_CHECK( ( *HANDLE ), nullptr, "((*" #HANDLE "))" ), rt::own( HANDLE ) )
 
 namespace telsx
@@ -49,7 +49,7 @@ using rt::share;
         return rt::createFrom( source );                                                         \
     }
 
-// The functions behind the slots. A null argument aborts with SELF, or SELF with A or B behind it.
+// The functions in the slots. A null argument aborts and is called SELF in the message, or SELF followed by A or B.
 #define TELSX_DEFINE_FREE_FUNC( NAME, SELF )    \
     void telsx___##NAME##FreeFunc( RT_OBJ obj ) \
     {                                           \
@@ -66,7 +66,7 @@ using rt::share;
         TELSX_CHECK( SELF##B, nullptr, #SELF "B" );                 \
         return rt::compareFields( SELF##A, SELF##B );               \
     }
-// The text is the encoder's.
+// The text is what the encoder writes.
 #define TELSX_DEFINE_TO_STRING_FUNC( NAME, SELF )        \
     RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj ) \
     {                                                    \
@@ -75,7 +75,7 @@ using rt::share;
         return telsx___##NAME##Encode( SELF );           \
     }
 
-// Getter of the field MEMBER, called WORD in the function's name.
+// Getter of the field MEMBER, which is called WORD in the function's name.
 #define TELSX_DEFINE_GETTER( NAME, SELF, WORD, MEMBER )                                        \
     auto telsx##NAME##WORD( TELSX_HANDLE( NAME ) SELF )->decltype( rt::value( SELF->MEMBER ) ) \
     {                                                                                          \
@@ -83,7 +83,7 @@ using rt::share;
         return rt::value( SELF->MEMBER );                                                      \
     }
 
-// Getter and setter. OK is what the setter asks of its argument, which is called MEMBER too.
+// Getter and setter. OK is the condition that the setter's argument, also called MEMBER, must meet.
 #define TELSX_DEFINE_FIELD( NAME, SELF, WORD, MEMBER, OK )                           \
     TELSX_DEFINE_GETTER( NAME, SELF, WORD, MEMBER )                                  \
     void telsx##NAME##Set##WORD( TELSX_HANDLE( NAME ) * SELF,                        \

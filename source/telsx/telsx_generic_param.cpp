@@ -130,7 +130,7 @@ TELSX_GENERIC_PARAM telsx___GenericParamTryDecode( const RT_CHAR *chs, int64_t l
     return param->value && !rest ? param.take() : nullptr;
 }
 
-// What takes a name, with the name as 8-bit and as wide characters
+// Functions that take a name, with the name as 8-bit and as wide characters
 
 #define TEXT_VARIANTS( SUFFIX, CHAR )                                                                     \
     TELSX_GENERIC_PARAM telsxGenericParamCreate##SUFFIX( const CHAR *name, int64_t length )               \

@@ -9,7 +9,7 @@ struct TELSX_GENERIC_PARAM_
     RT_OBJECT object;
     rt::Ref<RT_STRING> name;  // lower case, never null
     int64_t valueType;        // -1 without a value
-    rt::Ref<RT_STRING> value; // as it was set; of a quotable string the plain text
+    rt::Ref<RT_STRING> value; // as it was set; for a quotable string the plain text
 
     static constexpr auto fields( auto &self ) { return std::tie( self.name, self.valueType, self.value ); }
 };

@@ -167,7 +167,7 @@ void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS para
     }
 }
 
-// What takes a name, with the name as 8-bit and as wide characters
+// Functions that take a name, with the name as 8-bit and as wide characters
 
 #define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
     TELSX_GENERIC_PARAM telsxGenericParamsParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,      \

@@ -1,4 +1,4 @@
-// The inside of a set of generic parameters, and its text beside the fields that stand for some of them.
+// The inside of a set of generic parameters, and its text together with the fields that stand for some of them.
 #pragma once
 
 #include <span>
@@ -10,7 +10,7 @@
 struct TELSX_GENERIC_PARAMS_
 {
     RT_OBJECT object;
-    rt::Ref<RT_DICT> params; // from names in lower case to parameters, never null
+    rt::Ref<RT_DICT> params; // from lower-case names to parameters, never null
 
     static constexpr auto fields( auto &self ) { return std::tie( self.params ); }
 };
@@ -18,7 +18,7 @@ struct TELSX_GENERIC_PARAMS_
 namespace telsx
 {
 
-// One empty set serves all values without parameters; the first change makes another. It has the shape of the type
+// One empty set serves all values without parameters; the first change makes a new one. It has the layout of the type
 // without its Ref.
 struct EmptyGenericParams
 {
@@ -34,12 +34,12 @@ inline Ref<TELSX_GENERIC_PARAMS> noGenericParams()
         reinterpret_cast<const TELSX_GENERIC_PARAMS_ *>( &emptyGenericParams ) ) );
 }
 
-// Appends the parameters, a semicolon before each, but for those with one of these names in lower case.
+// Appends the parameters, each after a semicolon, except those with one of these lower-case names.
 void appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS params,
                           std::span<const RT_STRING> without = {} );
 
-// Writes the parameters of a value: each field that is present under its name, and after them the generic parameters,
-// without those that a field stands for.
+// Writes the parameters of a value: each field that is present under its name, then the generic parameters except those
+// that a field stands for.
 //
 //     ParamWriter params( text );
 //     params.write<"cause">( reason->cause );
@@ -50,7 +50,7 @@ class ParamWriter
 public:
     explicit ParamWriter( Ref<RT_STRING> &to ) : text( to ) {}
 
-    // A text or a number as it is, or as the encoder writes it.
+    // A text or a number, as it is or as the encoder writes it.
     template <rt::Ascii NAME>
     void write( const Ref<RT_STRING> &field )
     {
@@ -102,7 +102,7 @@ private:
     }
 
     Ref<RT_STRING> &text;
-    RT_STRING written[16]; // No value has as many fields.
+    RT_STRING written[16]; // More fields than any value has.
     std::size_t count = 0;
 };
 

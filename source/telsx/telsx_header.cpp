@@ -13,7 +13,7 @@ bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name )
     return header && rtStringEquals( header->name.get(), name );
 }
 
-// In the table the number of a line is its place in moreLines plus 1, and that of the first is 0.
+// A line's number in the table is 0 for the first line, and otherwise its index in moreLines plus 1.
 RT_STRING HeaderLines::next()
 {
     if ( header )
@@ -37,7 +37,7 @@ RT_STRING HeaderLines::last()
     return next();
 }
 
-// Most decoders keep no part of a line that could share a string.
+// Most decoders keep no part of a line, and so need no string that could be shared.
 Text HeaderLines::lastText()
 {
     if ( entry )

@@ -1,6 +1,6 @@
-// What all typed headers share. A kind's unit writes its Encode and its decode; the rest of what
-// TELSX_HEADER declares stands on these two and comes from one line. Names are constants in their canonical
-// form, so that nothing is made to look one up.
+// What all typed headers share. The unit of a kind writes its Encode and its decode; the rest of what TELSX_HEADER
+// declares builds on these two and comes from one line. Names are constants in canonical form, so no string is made to
+// look one up.
 #pragma once
 
 #include "telsx/telsx_header.h"
@@ -15,8 +15,8 @@ namespace telsx
 
 bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name );
 
-// The lines of a header in their order, of a raw header or of a message; a message that has no such header has no
-// lines either. The strings are borrowed until the next one is asked for.
+// The lines of a header in order, from a raw header or a message; a message without such a header has no lines. A
+// string is borrowed until the next one is read.
 class HeaderLines
 {
 public:
@@ -31,38 +31,37 @@ public:
     }
 
     bool empty() const { return !entry && ( !header || rtVectorLength( header->lines.get() ) == 0 ); }
-    RT_STRING next(); // null behind the last one
+    RT_STRING next(); // null after the last one
     RT_STRING last(); // null if there is none
-    Text lastText();  // empty if there is none; borrowed as a string is
+    Text lastText();  // empty if there is none; borrowed like a string
     void restart();
 
-    // A reference to a line that was read, the reader's own if it has one.
+    // A reference to a line that was read; the reader's own if it has one.
     Ref<RT_STRING> takeText( RT_STRING line )
     {
         return text.get() == line ? std::move( text ) : share( line );
     }
 
 private:
-    TELSX_MESSAGE_HEADER header = nullptr; // or, where nobody has asked for it yet,
-    HeaderTable *table = nullptr;          // the table that it stands in,
-    const HeaderEntry *entry = nullptr;    // and where there
+    TELSX_MESSAGE_HEADER header = nullptr; // or, if nobody has asked for it yet,
+    HeaderTable *table = nullptr;          // the table that it is in,
+    const HeaderEntry *entry = nullptr;    // and its entry there
     int64_t index = 0;                     // of the next line
-    Ref<RT_STRING> text;                   // of the last line that was read in the table
+    Ref<RT_STRING> text;                   // of the last line that was read from the table
     WideText wideText;                     // the same without a string
 };
 
-// The raw header with the lines of a store, a new reference, or null if a line of it is none.
+// The raw header with the lines of a store, a new reference, or null if one of them is not a line.
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store );
 
 bool hasHeader( TELSX_MESSAGE msg, HeaderName name );
 void putHeader( TELSX_MESSAGE *msg, Ref<TELSX_MESSAGE_HEADER> header );
 void removeHeader( TELSX_MESSAGE *msg, HeaderName name );
 
-// The lines alone: none is an empty text, one is itself, more are as the runtime shows a vector.
+// The lines alone: an empty text for none, the line itself for one, and for more what the runtime shows for a vector.
 RT_STRING linesToString( const Ref<TELSX_MESSAGE_HEADER> &header );
 
-// The header with the lines that the decoder gives it; takes over the raw header's reference, which may be
-// null.
+// The header that the decoder makes of the lines; takes over the raw header's reference, which may be null.
 template <class HANDLE>
 HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX_MESSAGE_HEADER ) )
 {
@@ -72,7 +71,7 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
 
 } // namespace telsx
 
-// The decoding, store, message and text functions of the kind; decode is the unit's.
+// The decoding, store, message and text functions of the kind; its unit defines decode.
 #define TELSX_DEFINE_HEADER( NAME, SIP_NAME )                                                       \
     RT_STORE telsx##NAME##Store( TELSX_HANDLE( NAME ) hdr )                                         \
     {                                                                                               \
@@ -122,8 +121,8 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
         return telsx::linesToString( telsx::adopt( telsx##NAME##Encode( hdr ) ) );                  \
     }
 
-// What a kind is beside its fields: TELSX_DEFINE_OBJECT with the three slots, their functions, and the line
-// above. SELF is what the comparison calls its arguments.
+// Everything of a kind except its fields: TELSX_DEFINE_OBJECT with the three slots, their functions, and the functions
+// above. SELF is the name that the comparison gives its arguments.
 #define TELSX_DEFINE_HEADER_OBJECT( NAME, SORT, SELF, SIP_NAME )                            \
     TELSX_DEFINE_OBJECT( NAME, SORT, telsx___##NAME##FreeFunc, telsx___##NAME##CompareFunc, \
                          telsx___##NAME##ToStringFunc )                                     \

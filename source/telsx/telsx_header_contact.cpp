@@ -54,7 +54,7 @@ static TELSX_HEADER_CONTACT decode( HeaderLines &lines )
         return decodeValues( hdr->values, lines, telsx___SkipContact, WithoutLines::isNull ) ? hdr.take()
                                                                                              : nullptr;
 
-    // Nothing may stand beside the star, neither on its line nor on another.
+    // Nothing may accompany the star, neither on its line nor on another.
     if ( first )
         return nullptr;
     while ( RT_STRING other = lines.next() )

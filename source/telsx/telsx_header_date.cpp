@@ -45,7 +45,7 @@ TELSX_MESSAGE_HEADER telsxHeaderDateEncode( TELSX_HEADER_DATE hdr )
                                               "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
     TELSX_ASSERT( hdr );
     RT_TIME time = hdr->time.get();
-    // Comes before the month: it aborts if there is no such month.
+    // Must come before the month is used: rtTimeWeekday aborts if there is no such month.
     const char *weekday = weekdays[rtTimeWeekday( time )];
     Ref<RT_STRING> line = adopt( rtStringCreateFromFormatCstr(
         "%~s, %02i %~s %04i %02i:%02i:%02i GMT", -1, rtStringCreateFromCstr( weekday, -1 ), rtTimeDay( time ),
@@ -54,7 +54,7 @@ TELSX_MESSAGE_HEADER telsxHeaderDateEncode( TELSX_HEADER_DATE hdr )
     return createHeader( literal<"Date">(), line );
 }
 
-// Takes exactly so many digits away; false if there are more or less, or the value is outside the bounds.
+// Takes exactly this many digits from the front; false if there are more or fewer, or if the value is out of bounds.
 static bool takeNumber( Text &rest, int64_t digits, int64_t least, int64_t most, int64_t &number )
 {
     Text run = rest.take( telsx___SkipDigits );
@@ -68,7 +68,7 @@ static bool takeLiteral( Text &rest, RT_STRING words )
         telsx___SkipChars( rest.chs, rest.length, rtStringBacking( words ), rtStringLength( words ) ) ) );
 }
 
-// Takes the name away; false if there is none.
+// Takes the name from the front; false if there is none.
 static bool takeName( Text &rest, int64_t ( *skip )( const RT_CHAR *, int64_t, int64_t * ), int64_t &number )
 {
     return bool( rest.take( skip( rest.chs, rest.length, &number ) ) );

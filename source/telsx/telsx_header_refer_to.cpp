@@ -48,7 +48,7 @@ static TELSX_HEADER_REFER_TO decode( HeaderLines &lines )
     if ( !takeAddress( rest, address ) )
         return nullptr;
 
-    // A bare address with more behind it than a list of parameters is read again, semicolons and all.
+    // If more than a list of parameters follows a bare address, the address is read again, semicolons and all.
     if ( !address.inBrackets && telsx___SkipGenericParams( rest.chs, rest.length ) != rest.length )
     {
         rest = textOf( line );

@@ -32,7 +32,7 @@ TELSX_DEFINE_NORMAL_FIELD( HeaderSubscriptionState, hdr, Reason, reason, telsxEv
 TELSX_DEFINE_OPTION( HeaderSubscriptionState, hdr, Reason, reason )
 TELSX_DEFINE_FIELD( HeaderSubscriptionState, hdr, GenericParams, genericParams, genericParams )
 
-// The numbers' setters call their argument by what it is.
+// The setters of the numbers name their argument by its meaning.
 
 TELSX_DEFINE_GETTER( HeaderSubscriptionState, hdr, Expires, expires )
 TELSX_DEFINE_OPTION( HeaderSubscriptionState, hdr, Expires, expires )

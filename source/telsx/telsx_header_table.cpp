@@ -55,7 +55,7 @@ HeaderEntry *findOtherHeader( HeaderTable *table, RT_STRING name )
     return isThere ? &table->entries[table->otherEntries[other]] : nullptr;
 }
 
-// An entry behind all others, of a name that has none. Known names are constants, and the others are held where they
+// Appends an entry for a name that has none. Known names are constants; others are held by the dictionary in which they
 // are found.
 static void append( HeaderTable *table, const HeaderEntry &entry )
 {
@@ -125,7 +125,7 @@ static Ref<TELSX_MESSAGE_HEADER> makeHeader( HeaderTable *table, const HeaderEnt
     return header;
 }
 
-// Several threads may ask at once; the header that comes first stays.
+// Several threads may ask at once; the first header to be stored stays.
 TELSX_MESSAGE_HEADER headerAt( HeaderTable *table, HeaderEntry &entry )
 {
     if ( TELSX_MESSAGE_HEADER header = knownHeader( entry ) )
@@ -181,7 +181,7 @@ bool haveLineEnds( HeaderTable *table )
                         { return entry.name && hasLineEnd( table, entry ); } );
 }
 
-// A table with the headers of another, without the gaps that taking out has left.
+// A table with the headers of another, without the gaps left by removed ones.
 static Ref<HeaderTable *> copyOf( HeaderTable *table )
 {
     Ref<HeaderTable *> copy =
@@ -191,7 +191,7 @@ static Ref<HeaderTable *> copyOf( HeaderTable *table )
     for ( HeaderEntry &entry : table->entries )
         if ( entry.name )
         {
-            // The header alone may be put there by another thread meanwhile.
+            // Only the header may be set by another thread meanwhile.
             Ref<TELSX_MESSAGE_HEADER> header = share( knownHeader( entry ) );
             append( copy.get(), { entry.name, header.take(), entry.first, entry.last, entry.number } );
         }
@@ -229,7 +229,7 @@ void delHeader( Ref<HeaderTable *> &table, HeaderName name )
     entry->name = nullptr;
     --table->length;
     auto oldHeader = adopt( std::exchange( entry->header, nullptr ) );
-    // As many gaps as pay for the copy, of the bytes too.
+    // Enough gaps to pay for the copy, including its bytes.
     if ( table->entries.length > 2 * table->length + 8 + table->size / 64 )
         table = copyOf( table.get() );
 }

@@ -1,5 +1,5 @@
-// The headers of a fragment, in the order in which their names came. A header that was decoded stays in the bytes
-// of its lines until somebody asks for it: most never are, and go out as they came in.
+// The headers of a fragment, in the order in which their names first appeared. A decoded header stays in the bytes of
+// its lines until somebody asks for it; most are never asked for, and go out as they came in.
 #pragma once
 
 #include <atomic>
@@ -15,7 +15,7 @@
 namespace telsx
 {
 
-// A span of bytes on their way in.
+// A span of incoming bytes.
 using Bytes = std::string_view;
 
 inline Bytes bytesOf( RT_BUFFER buffer )
@@ -29,7 +29,7 @@ inline Ref<RT_BUFFER> bufferOf( Bytes bytes )
     return adopt( rtBufferCreateFromBytesCopy( bytes.data(), lengthOf( bytes ) ) );
 }
 
-// The text of bytes that are known to be UTF-8, or even ASCII. A short one stands in the object.
+// The text of bytes that are known to be UTF-8, or even ASCII. A short text is stored in the object.
 class WideText
 {
 public:
@@ -52,7 +52,7 @@ private:
 
 constexpr Bytes lineEnd = "\r\n", headEnd = "\r\n\r\n";
 
-// A canonical name and its number among the known names, whose name is a constant then, or -1.
+// A canonical name and its number among the known names, or -1. The name of a known one is a constant.
 struct HeaderName
 {
     RT_STRING name;
@@ -69,7 +69,7 @@ inline HeaderName headerName( RT_STRING canonical )
     return { number == -1 ? canonical : const_cast<RT_STRING>( knownNames[number].name ), number };
 }
 
-// The number of a name that must be known.
+// The number of a name, which must be known.
 template <rt::Ascii NAME>
 consteval int64_t knownNumber()
 {
@@ -84,7 +84,7 @@ HeaderName headerName()
     return { literal<NAME>(), knownNumber<NAME>() };
 }
 
-// One line of a header, in the table's bytes; next is the header's following one in moreLines, or -1.
+// One line of a header, in the table's bytes; next is the header's next line in moreLines, or -1.
 struct HeaderLine
 {
     int64_t begin, length;
@@ -93,10 +93,10 @@ struct HeaderLine
 
 struct HeaderEntry
 {
-    RT_STRING name;              // null once it was taken out
+    RT_STRING name;              // null once removed
     TELSX_MESSAGE_HEADER header; // null until somebody asks
-    HeaderLine first;            // begin is -1 if the header was put in, and not decoded
-    int64_t last;                // the last of more than one line in moreLines, else -1
+    HeaderLine first;            // begin is -1 if the header was set instead of decoded
+    int64_t last;                // the last of several lines, in moreLines, else -1
     int64_t number;              // of the name
 };
 
@@ -105,17 +105,17 @@ struct HeaderTable
     RT_OBJECT object;
     int64_t size;      // of the bytes
     bool isAscii;      // all of them are
-    bool holdsHeaders; // an entry may have its header
+    bool holdsHeaders; // an entry may have a header object
     rt::Array<HeaderEntry> entries;
     rt::Array<HeaderLine> moreLines;
-    int64_t length;                  // headers that are there
+    int64_t length;                  // headers present
     std::bitset<knownCount> is;      // which known names have an entry,
-    int64_t known[knownCount];       // and which it is
-    Ref<RT_DICT> others;             // of other names the n-th has its entry in otherEntries; never null
-    rt::Array<int64_t> otherEntries; // -1 once it was taken out
-    HeaderEntry firstEntries[18];    // where entries begins
+    int64_t known[knownCount];       // and its index
+    Ref<RT_DICT> others;             // other names; otherEntries[n] belongs to the n-th; never null
+    rt::Array<int64_t> otherEntries; // -1 once removed
+    HeaderEntry firstEntries[18];    // the initial storage of entries
 
-    // Where the lines stand, folds undone, and rt::scanSlack more: behind this structure.
+    // The bytes that hold the lines, folds undone, and rt::scanSlack more: they follow this structure.
     char *bytes() { return reinterpret_cast<char *>( this + 1 ); }
     const char *bytes() const { return reinterpret_cast<const char *>( this + 1 ); }
 
@@ -126,10 +126,10 @@ struct HeaderTable
     Ref<RT_STRING> stringOf( const HeaderLine &line ) const;
 };
 
-// An empty table with a copy of bytes, in which its lines will stand.
+// An empty table with a copy of the bytes, in which its lines will be.
 Ref<HeaderTable *> createHeaderTable( Bytes bytes = {}, bool isAscii = true );
 
-// A line more of the header, while nobody else has the table. Most are the first of a known name.
+// Adds a line of the header, while nobody else has the table. Most lines are the first of a known name.
 void addAnyLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length );
 inline void addLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t length )
 {
@@ -163,7 +163,7 @@ RT_VECTOR headersVector( HeaderTable *table );
 // Whether a line of a header holds a CR or LF.
 bool haveLineEnds( HeaderTable *table );
 
-// Change the table, a private copy of it if somebody else has it too.
+// Change the table, or a private copy if somebody else has it too.
 void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header );
 void delHeader( Ref<HeaderTable *> &table, HeaderName name );
 

@@ -10,7 +10,7 @@ struct TELSX_HEADER_VIA_
 {
     RT_OBJECT object;
     Ref<RT_VECTOR> values;           // texts, never null
-    ReadValue<TELSX_VIA> firstValue; // the top Via, for which most readers ask
+    ReadValue<TELSX_VIA> firstValue; // the top Via, which most readers ask for
 
     static constexpr auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
     static auto order( auto &self ) { return std::tie( self.values ); }

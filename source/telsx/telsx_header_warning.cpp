@@ -11,7 +11,7 @@ struct TELSX_HEADER_WARNING_ : ValueList
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderWarning, HEADER_WARNING, hdr, "Warning" )
 
-// The list has its own word for a value that is missing.
+// In this list, the contract calls a missing value warning.
 static RT_STRING encode( TELSX_WARNING_VALUE warning )
 {
     TELSX_ASSERT( warning );

@@ -13,12 +13,12 @@
 
 using namespace telsx;
 
-// A label, or labels with single dots between them and perhaps one behind the last. A label ends with a letter, a
-// digit or an escape, and does not begin with a hyphen.
+// A label, or labels with single dots between them and perhaps one after the last. A label ends with a letter, a digit
+// or an escape, and does not begin with a hyphen.
 template <bool HAS_DOTS>
 static int64_t skipLabels( Text text )
 {
-    int64_t at = 0, label = 0, end = 0; // where the label begins, and where what was found ends
+    int64_t at = 0, label = 0, end = 0; // where the label begins, and where the part found so far ends
     for ( ;; )
     {
         while ( at < text.length && isIn( text.chs[at], classAlphanum ) )
@@ -71,7 +71,7 @@ int64_t telsx___SkipIpV6Reference( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipHost( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    // An IPv4 address is a hostname too.
+    // An IPv4 address is a hostname as well.
     int64_t name = skipLabels<true>( { chs, length } );
     return name ? name : telsx___SkipIpV6Reference( chs, length );
 }

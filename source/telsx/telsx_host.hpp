@@ -1,4 +1,4 @@
-// Hosts, for the units that have skipped one.
+// Hosts, for the units that have already skipped one.
 #pragma once
 
 #include "telsx/telsx_host.h"
@@ -7,7 +7,7 @@
 namespace telsx
 {
 
-// The host that the text, which telsx___SkipHost covers, stands for; null if it is no domain name.
+// The host that the text stands for, all of which telsx___SkipHost accepts; null if it is not a domain name.
 Ref<RT_STRING> hostOf( Text text );
 
 } // namespace telsx

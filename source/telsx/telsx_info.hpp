@@ -1,5 +1,4 @@
-// What Alert-Info, Error-Info and Call-Info values share: an address in angle brackets, without a display
-// name.
+// What Alert-Info, Error-Info and Call-Info values share: an address in angle brackets without a display name.
 #pragma once
 
 #include "telsx/telsx_value.hpp"
@@ -16,7 +15,7 @@ inline bool takeInfoAddress( Text &rest, Ref<RT_STRING> &iri )
     return taken;
 }
 
-// Alert-Info and Error-Info have one content.
+// Alert-Info and Error-Info have the same content.
 struct Info
 {
     RT_OBJECT object;

@@ -6,8 +6,8 @@
 namespace telsx
 {
 
-// Reads the items of all lines in order, on each line any number of them with separators between. An empty
-// line has no item, and is no fault.
+// Reads the items of all lines in order; a line has any number of them, with separators between. An empty line has no
+// items and is not an error.
 //
 //     ItemReader items( lines, telsx___SkipMethod, telsx___SkipComma );
 //     while ( items.next() )
@@ -22,7 +22,7 @@ public:
         lines.restart();
     }
 
-    // Whether there is another item. False at the end, and at bad text, which failed tells apart.
+    // Whether there is another item. False at the end and at bad text; failed() tells which.
     bool next()
     {
         if ( rest )
@@ -43,7 +43,7 @@ public:
     }
     bool failed() const { return bad; }
 
-    // Takes the item's text, once; it shares the line's where that saves a copy.
+    // Takes the item's text, once; it shares the line's text where that saves a copy.
     Ref<RT_STRING> takeItem()
     {
         Text all = textOf( line );
@@ -62,7 +62,7 @@ private:
     bool bad = false;
 };
 
-// A raw header with the items on one line, the separator between them, and without a line if there are none.
+// A raw header with the items on one line, the separator between them; no line if there are no items.
 TELSX_MESSAGE_HEADER createHeaderOfItems( RT_STRING name, const Ref<RT_VECTOR> &items, RT_CHAR separator );
 
 } // namespace telsx

@@ -1,4 +1,4 @@
-// The header names that messages usually have, as constants, found by their bytes without making a string.
+// The usual header names, as constants that are found by their bytes without making a string.
 #pragma once
 
 #include <array>
@@ -13,8 +13,8 @@
 namespace telsx
 {
 
-// One way to write a known name, in lower case, and the canonical name (telsxMessageHeaderNameNormalize), as a string and
-// in bytes.
+// One spelling of a known name, in lower case, and the canonical name (telsxMessageHeaderNameNormalize) as a string and
+// as bytes.
 struct KnownName
 {
     std::string_view spelling;
@@ -25,14 +25,14 @@ struct KnownName
 constexpr char lowerAscii( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
 constexpr char upperAscii( char ch ) { return ch >= 'a' && ch <= 'z' ? static_cast<char>( ch - 0x20 ) : ch; }
 
-// What stands at a place of a canonical name whose character there, in any case, is ch, after the character before: a
+// The character of a canonical name at a place where the name has ch, in any case, after the character before: a
 // capital at the start and after each hyphen.
 constexpr char canonicalAscii( char before, char ch )
 {
     return before == '-' ? upperAscii( ch ) : lowerAscii( ch );
 }
 
-// The bytes of a name and of its spelling in lower case, with slack.
+// The bytes of a name and of its lower-case spelling, with slack.
 template <rt::Ascii NAME>
 struct NameBytes
 {
@@ -60,7 +60,7 @@ constexpr KnownName known( std::string_view spelling = nameBytes<NAME>.lower.dat
     return { spelling, &rt::literalObject<NAME>, nameBytes<NAME>.canonical.data() };
 }
 
-// All long names, and after them the compact forms.
+// All long names, followed by the compact forms.
 inline constexpr KnownName knownNames[] = {
 #define TELSX_KIND( NAME, SORT, SIP_NAME ) known<SIP_NAME>(),
 #include "telsx/telsx_headers.def"
@@ -70,7 +70,7 @@ inline constexpr KnownName knownNames[] = {
 #include "telsx/telsx_header_names.def"
 };
 
-// How many names there are, whatever their forms.
+// How many names there are, not counting compact forms.
 inline constexpr std::size_t knownCount = []
 {
     std::size_t count = 0;
@@ -79,7 +79,7 @@ inline constexpr std::size_t knownCount = []
     return count;
 }();
 
-// The first eight characters of a name as bytes in small letters, the first one the lowest.
+// The first eight characters of a name, in lower case, as bytes; the first one is the lowest byte.
 template <class CHAR>
 constexpr uint64_t firstEightOf( const CHAR *name, std::size_t size )
 {
@@ -89,18 +89,18 @@ constexpr uint64_t firstEightOf( const CHAR *name, std::size_t size )
     return eight;
 }
 
-// What tells the known names apart: these, the last character and the length.
+// What distinguishes the known names: these eight, the last character and the length.
 template <class CHAR>
 constexpr uint64_t knownNameKey( uint64_t firstEight, const CHAR *name, std::size_t size )
 {
     return firstEight + size * 0x80 + ( static_cast<unsigned char>( name[size - 1] ) | 0x20 );
 }
 
-// Where a key stands in the table.
+// The slot of a key in the table.
 constexpr std::size_t knownNameSlots = 2048;
 constexpr std::size_t slotOf( uint64_t key, uint64_t factor ) { return key * factor >> 53; }
 
-// A factor that gives each known name a slot of its own. One in some ten does.
+// A factor that gives each known name a slot of its own, as about one factor in ten does.
 consteval uint64_t findFactor()
 {
     uint64_t factor = 0x9E3779B97F4A7C15;
@@ -118,7 +118,7 @@ consteval uint64_t findFactor()
         if ( at == std::size( knownNames ) )
             return factor;
     }
-    std::abort(); // two names have one key
+    std::abort(); // two names have the same key
 }
 inline constexpr uint64_t knownNameFactor = findFactor();
 
@@ -128,7 +128,7 @@ constexpr std::size_t knownNameSlot( const CHAR *name, std::size_t size )
     return slotOf( knownNameKey( firstEightOf( name, size ), name, size ), knownNameFactor );
 }
 
-// In each slot the size of the known name that belongs there, or 0, its place in knownNames, and its number. A compact
+// In each slot, the size of the known name that belongs there, or 0, its index in knownNames, and its number. A compact
 // form has the number of its long name.
 struct KnownNameSlot
 {
@@ -152,7 +152,7 @@ consteval std::array<KnownNameSlot, knownNameSlots> makeKnownNameTable()
 
 inline constexpr std::array<KnownNameSlot, knownNameSlots> knownNameTable = makeKnownNameTable();
 
-// The number of a known name in any spelling, its place in knownNames, or -1.
+// The number of a known name in any spelling, its index in knownNames, or -1.
 template <class CHAR>
 constexpr int64_t knownNameNumber( const CHAR *name, std::size_t size )
 {
@@ -169,7 +169,7 @@ constexpr int64_t knownNameNumber( const CHAR *name, std::size_t size )
     return slot.number;
 }
 
-// A spelling as blocks, and the bit that makes a capital small where it has a letter.
+// A spelling as blocks, and for each of its letters the bit that turns a capital into lower case.
 struct alignas( 16 ) SpellingBlocks
 {
     char bytes[32] = {}, small[32] = {};
@@ -196,7 +196,7 @@ inline uint64_t scanFirstEight( const char *name, std::size_t size )
     return ( eight | 0x2020202020202020 ) & ( size < 8 ? ( uint64_t( 1 ) << 8 * size ) - 1 : ~uint64_t( 0 ) );
 }
 
-// The same for bytes, behind which rt::scanSlack more can be read.
+// The same for bytes, with rt::scanSlack more readable after them.
 inline int64_t scanKnownNameNumber( const char *name, std::size_t size )
 {
     if ( size == 0 )

@@ -32,7 +32,7 @@ TELSX_MESSAGE telsxMessageTryDecode( RT_BUFFER buf )
     return create( std::move( fragment ) );
 }
 
-// Everything else is the fragment's. A new message holds the only reference to its fragment.
+// Everything else belongs to the fragment. A new message holds the only reference to its fragment.
 
 static TELSX_MESSAGE create( TELSX_MESSAGE_FRAGMENT fragment ) { return create( adopt( fragment ) ); }
 

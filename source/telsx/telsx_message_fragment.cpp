@@ -68,7 +68,7 @@ void telsxMessageFragmentSetNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT *f
     own->responseReasonPhrase = {};
 }
 
-// A new fragment with the start line that the setter gives it.
+// A new fragment with the start line that the setter puts there.
 template <class... ARG>
 static TELSX_MESSAGE_FRAGMENT createWith( void ( *set )( TELSX_MESSAGE_FRAGMENT *frag, ARG... ), ARG... args )
 {
@@ -112,7 +112,7 @@ RT_BOOL telsxMessageFragmentIsNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT 
     return !frag->version;
 }
 
-// Fields of the start line: a setter asks first that the kind has the field.
+// Fields of the start line: a setter first checks that the kind has the field.
 
 #define ASSERT_HAS( ... ) TELSX_CHECK( ( *frag )->__VA_ARGS__, nullptr, "(*frag)->" #__VA_ARGS__ )
 
@@ -223,7 +223,7 @@ RT_BOOL telsxMessageFragmentHasLoneLineEnds( TELSX_MESSAGE_FRAGMENT frag )
 TELSX_DEFINE_FIELD( MessageFragment, frag, Body, body, body )
 TELSX_DEFINE_OPTION( MessageFragment, frag, Body, body )
 
-// What takes a text, with the text as 8-bit and as wide characters
+// Functions that take a text, with the text as 8-bit and as wide characters
 
 #define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
     TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequest##SUFFIX(                                        \

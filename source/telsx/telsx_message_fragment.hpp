@@ -1,4 +1,4 @@
-// The inside of a fragment, for the units that carry it between bytes and objects.
+// The inside of a fragment, for the units that convert it between bytes and objects.
 #pragma once
 
 #include "telsx/telsx_header_table.hpp"
@@ -25,11 +25,11 @@ struct TELSX_MESSAGE_FRAGMENT_
 namespace telsx
 {
 
-// The fragment of a head without its blank line, or null; contentLength as in
+// The fragment decoded from a head without its blank line, or null; contentLength is as in
 // telsxMessageFragmentTryDecodeHeaders.
 Ref<TELSX_MESSAGE_FRAGMENT> tryDecodeHead( Bytes head, int64_t *contentLength );
 
-// Where the blank line behind a head begins, at that place or behind it, or npos.
+// Where the blank line after a head begins, at from or later, or npos.
 std::size_t findHeadEnd( Bytes bytes, std::size_t from );
 
 } // namespace telsx

@@ -1,5 +1,5 @@
-// From bytes to a fragment (RFC 3261, 7). The grammar of a head is all ASCII, so lines, names and values are
-// cut as bytes, and the lines of headers stay what they are.
+// From bytes to a fragment (RFC 3261, 7). The grammar of a head is all ASCII, so lines, names and values are cut as
+// bytes, and header lines are kept as they are.
 #include <algorithm>
 
 #include "rsc/rsc.h"
@@ -39,7 +39,7 @@ enum class StartLine
     bad
 };
 
-// Sets the start line if the first line is one. What looks like a start line must be a good one.
+// Sets the start line if the first line is one. What looks like a start line must be valid.
 static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
 {
     Text rest = line;
@@ -65,7 +65,7 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
         frag->requestMethod = std::move( method );
         return StartLine::good;
     }
-    // The slash in it makes a version no method.
+    // A version contains a slash, so it is never a method.
     frag->version = tryDecodeVersion( first );
     if ( !frag->version )
         return StartLine::none;
@@ -77,7 +77,7 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
     return StartLine::good;
 }
 
-// The name of a header that is not known, in canonical form, or null for what is no name.
+// The canonical form of a header name that is not known, or null if it is not a name.
 static Ref<RT_STRING> tryDecodeOtherName( Bytes bytes )
 {
     auto isInName = []( char ch ) { return isIn( static_cast<unsigned char>( ch ), classToken ); };
@@ -86,7 +86,7 @@ static Ref<RT_STRING> tryDecodeOtherName( Bytes bytes )
     return canonicalName( bytes.data(), lengthOf( bytes ) );
 }
 
-// One header line, trimmed and with its folds undone, becomes one line more of the header of its name.
+// Adds one header line, trimmed and with its folds undone, to the header of its name.
 static bool decodeHeader( HeaderTable *table, Bytes text )
 {
     const char *end = text.data() + text.size(), *colon = rt::findByte( text.data(), end, ':' );
@@ -116,7 +116,7 @@ static const char *findLineEnd( const char *at, const char *end )
     return at;
 }
 
-// Takes the line at the start away, and what ends it.
+// Takes the line at the start, and its line end.
 static inline Bytes takeLine( const char *&at, const char *end )
 {
     const char *begin = at, *behind = findLineEnd( at, end );
@@ -124,8 +124,8 @@ static inline Bytes takeLine( const char *&at, const char *end )
     return { begin, behind };
 }
 
-// All header lines, which stand there in the table's bytes. A line that begins with white space goes on with the
-// header before it, behind one blank; it is moved there.
+// Decodes all header lines, which are in the table's bytes. A line that begins with white space continues the header
+// before it, after one blank; it is moved there.
 static bool decodeHeaders( HeaderTable *table, const char *at, const char *end )
 {
     while ( at != end )
@@ -150,7 +150,7 @@ static bool decodeHeaders( HeaderTable *table, const char *at, const char *end )
     return true;
 }
 
-// The value of Content-Length, -1 if there is no such header; false if it is no number.
+// The value of Content-Length, or -1 if there is no such header; false if it is not a number.
 static bool decodeContentLength( HeaderTable *headers, int64_t *contentLength )
 {
     HeaderEntry *entry = findHeader( headers, headerName<"Content-Length">() );

@@ -29,13 +29,13 @@ static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
              adopt( telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) };
 }
 
-// Bytes behind which rt::scanSlack more can be read, as they can be written behind an encoded message.
+// Bytes with rt::scanSlack more readable after them; as many may be written after an encoded message.
 struct WithSlack
 {
     Bytes bytes;
 };
 
-// What the text is written to: once to learn its size, and then into a buffer of that size.
+// Outputs: the text is written once to learn its size, and then into a buffer of that size.
 struct Counter
 {
     std::size_t size = 0;
@@ -67,7 +67,7 @@ static void write( OUTPUT &to, const PIECE &...pieces )
     ( to.add( pieces ), ... );
 }
 
-// The lines of a header that was decoded and not replaced go out as they came, any other's as its object has them.
+// The lines of a header that was decoded and not replaced go out as they came; those of any other are its object's.
 template <class OUTPUT, class NAME>
 static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const HeaderEntry &entry )
 {
@@ -83,7 +83,7 @@ static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const
         write( to, name, colon, WithSlack{ table->lineOf( table->moreLines[next] ) }, lineEnd );
 }
 
-// The true length stands where the fragment has that header, else behind all others.
+// Content-Length, with the true length, goes where the fragment has that header, or after all others.
 template <class OUTPUT>
 static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, const StartLine &startLine, Bytes bodyLength )
 {

@@ -20,7 +20,7 @@ int64_t telsx___MessageHeaderCompFunc( RT_OBJ objA, RT_OBJ objB )
 
 // Names
 
-// From the compact forms in lower case to the long names.
+// Maps the lower-case compact forms to the long names.
 static constinit RT_DICT shortToLongDict = nullptr;
 
 void telsx___MessageHeaderStartup( void )
@@ -159,7 +159,7 @@ void telsxMessageHeaderAppendLine( TELSX_MESSAGE_HEADER *header, RT_STRING value
     rtVectorAppendString( TELSX_OWN( header )->lines.address(), value );
 }
 
-// The line that a format and the arguments behind LAST give.
+// The line that a format makes of the arguments after LAST.
 #define LINE_FROM_FORMAT( LINE, LAST, CREATE, ... )             \
     va_list args;                                               \
     va_start( args, LAST );                                     \
@@ -232,7 +232,7 @@ TELSX_MESSAGE_HEADER telsxMessageHeaderRestoreLines( RT_STRING name, RT_STORE st
     return header.take();
 }
 
-// What takes a text, with the text as 8-bit and as wide characters
+// Functions that take a text, with the text as 8-bit and as wide characters
 #define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
     TELSX_MESSAGE_HEADER telsxMessageHeaderCreate##SUFFIX( const CHAR *name, int64_t length )                \
     {                                                                                                        \

@@ -1,4 +1,4 @@
-// The inside of a raw header, for the units that carry it between bytes and objects.
+// The inside of a raw header, for the units that convert it between bytes and objects.
 #pragma once
 
 #include "telsx/telsx_frame.hpp"
@@ -17,7 +17,7 @@ struct TELSX_MESSAGE_HEADER_
 namespace telsx
 {
 
-// The canonical form of a name that has no compact form.
+// The canonical form of a name that is not a compact form.
 template <class CHAR>
 Ref<RT_STRING> canonicalName( const CHAR *name, int64_t length )
 {
@@ -30,12 +30,12 @@ Ref<RT_STRING> canonicalName( const CHAR *name, int64_t length )
     return canonical;
 }
 
-// New raw headers of a canonical name: without lines, with one, with those of a vector.
+// New raw headers with a canonical name: without lines, with one, with those of a vector.
 TELSX_MESSAGE_HEADER createHeader( RT_STRING name );
 TELSX_MESSAGE_HEADER createHeader( RT_STRING name, Ref<RT_STRING> line );
 TELSX_MESSAGE_HEADER createHeader( RT_STRING name, Ref<RT_VECTOR> lines );
 
-// Whether each text of the store is a line.
+// Whether each text of the store is a valid line.
 bool holdsLines( RT_STORE store );
 
 } // namespace telsx

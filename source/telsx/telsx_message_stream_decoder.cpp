@@ -10,9 +10,9 @@ struct TELSX_MESSAGE_STREAM_DECODER_
 {
     RT_OBJECT object;
     RT_BOOL error;
-    Ref<RT_BUFFER> buffer;             // what has come and is not yet delivered, never null
-    Ref<TELSX_MESSAGE> pendingMessage; // its head is decoded, its body not yet there; or null
-    int64_t scanOffset;    // where the search for the blank line goes on; of a pending message, its body
+    Ref<RT_BUFFER> buffer;             // what has arrived and is not yet delivered, never null
+    Ref<TELSX_MESSAGE> pendingMessage; // its head is decoded, its body is still to come; or null
+    int64_t scanOffset;    // where the search for the blank line continues; for a pending message, its body
     int64_t contentLength; // of the last head
 
     static constexpr auto fields( auto &self )
@@ -49,7 +49,7 @@ int64_t telsxMessageStreamDecoderSpace( TELSX_MESSAGE_STREAM_DECODER decoder )
     return rtBufferSpace( decoder->buffer.get() );
 }
 
-// Appends as the function does, unless the latch is set.
+// Appends as the function does, unless the error latch is set.
 template <class... ARG>
 static RT_BOOL write( TELSX_MESSAGE_STREAM_DECODER decoder, void ( *append )( RT_BUFFER *buffer, ARG... ),
                       ARG... args )
@@ -100,8 +100,8 @@ static void dropLeadingLineEnds( TELSX_MESSAGE_STREAM_DECODER decoder )
         rtBufferDelLeading( decoder->buffer.address(), dropped );
 }
 
-// Finds and decodes the next head, of which the pending message is made. False if it is not yet there, and if
-// it is bad, which sets the latch.
+// Finds and decodes the next head and makes the pending message of it. False if the head is not complete yet, and if it
+// is bad, which sets the latch.
 static bool readHead( TELSX_MESSAGE_STREAM_DECODER decoder )
 {
     if ( decoder->scanOffset == 0 )

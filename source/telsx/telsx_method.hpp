@@ -1,4 +1,4 @@
-// Methods that are usual, as constants.
+// The usual methods, as constants.
 #pragma once
 
 #include "telsx/telsx_method.h"

@@ -1,4 +1,4 @@
-// The module: what the library sets up before its first call, and takes down behind its last.
+// The module: what the library sets up before its first call, and takes down after its last.
 #include "telsx/telsx_module.h"
 
 #include "telsx/telsx_message_header.h"

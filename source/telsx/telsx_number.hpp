@@ -8,7 +8,7 @@ namespace telsx
 
 inline RT_STRING encodeNumber( int64_t number ) { return joined( Decimal( number ) ).take(); }
 
-// The value of the whole text if it is a number, and Ok if that is asked, else -1.
+// The value if the whole text is a number, and Ok where that is asked for, else -1.
 template <class CHAR>
 int64_t tryDecodeDigits( const CHAR *chs, int64_t length )
 {

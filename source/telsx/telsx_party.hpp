@@ -1,5 +1,5 @@
-// What the headers share that are an address with parameters, none of which has a field of its own: Refer-To,
-// Reply-To, P-Called-Party-Id and Remote-Party-Id.
+// What the headers share that are an address with parameters and have no fields for these: Refer-To, Reply-To,
+// P-Called-Party-Id and Remote-Party-Id.
 #pragma once
 
 #include "telsx/telsx_header.hpp"
@@ -30,7 +30,7 @@ inline Ref<RT_STRING> encodeParty( const Party &hdr )
     return line;
 }
 
-// Fills a new header from its address and the text behind, or from its line; false for bad text.
+// Fills a new header from its address and the text after it, or from its line; false for bad text.
 inline bool decodeParty( Party &hdr, Address address, Text behind )
 {
     hdr.iri = std::move( address.iri );

@@ -1,4 +1,4 @@
-// Elements that are a token or a quoted string on the wire and plain text in objects.
+// Elements that are a token or a quoted string on the wire, and plain text in objects.
 #pragma once
 
 #include "telsx/telsx_quotable_string.h"

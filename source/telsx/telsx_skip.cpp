@@ -226,7 +226,7 @@ int64_t telsx___SkipRdquot( const RT_CHAR *chs, int64_t length )
     return telsx___SkipCharSws( chs, length, '"' );
 }
 
-// Text with a structure
+// Structured text
 
 int64_t telsx___SkipDotAtom( const RT_CHAR *chs, int64_t length )
 {
@@ -235,7 +235,7 @@ int64_t telsx___SkipDotAtom( const RT_CHAR *chs, int64_t length )
 
 static bool isLineEnd( RT_CHAR ch ) { return ch == RT_CHAR_CARRIAGE_RETURN || ch == RT_CHAR_LINE_FEED; }
 
-// The backslash at the start and the code point that it takes along, else 0.
+// The length of the backslash at the start and the code point that it escapes, else 0.
 static int64_t skipQuotedPair( Text text ) { return text.length > 1 && !isLineEnd( text.chs[1] ) ? 2 : 0; }
 
 int64_t telsx___SkipQuotedString( const RT_CHAR *chs, int64_t length )
@@ -289,7 +289,7 @@ int64_t telsx___SkipComment( const RT_CHAR *chs, int64_t length )
     return depth ? 0 : at;
 }
 
-// Composites. A sequence takes all its parts or gives 0.
+// Composites. A sequence matches all its parts or returns 0.
 
 template <class... SKIPPER>
 static int64_t skipAll( Text text, SKIPPER... parts )
@@ -298,7 +298,7 @@ static int64_t skipAll( Text text, SKIPPER... parts )
     return ( rest.take( parts ) && ... ) ? text.length - rest.length : 0;
 }
 
-// The first that finds anything.
+// The first alternative that matches anything.
 template <class... SKIPPER>
 static int64_t skipAny( Text text, SKIPPER... alternatives )
 {
@@ -307,7 +307,7 @@ static int64_t skipAny( Text text, SKIPPER... alternatives )
     return found;
 }
 
-// Elements behind semicolons, up to a semicolon that none follows.
+// Elements after semicolons, up to a semicolon that no element follows.
 static int64_t skipParams( Text text, Skipper skipParam )
 {
     Text rest = text;
@@ -316,7 +316,7 @@ static int64_t skipParams( Text text, Skipper skipParam )
     return text.length - rest.length;
 }
 
-// A front that must be there and the generic parameters behind it.
+// A mandatory front and the generic parameters after it.
 static int64_t skipWithParams( Text text, int64_t front )
 {
     return front ? front + skipParams( text.behind( front ), telsx___SkipGenericParam ) : 0;
@@ -410,7 +410,7 @@ int64_t telsx___SkipAcceptEncoding( const RT_CHAR *chs, int64_t length )
     return skipWithParams( { chs, length }, telsx___SkipContentCoding( chs, length ) );
 }
 
-// The wildcard: a star that is no part of a longer token.
+// The wildcard: a star that is not part of a longer token.
 static int64_t skipStar( const RT_CHAR *chs, int64_t length )
 {
     return telsx___SkipToken( chs, length ) == 1 && chs[0] == '*';
@@ -508,7 +508,7 @@ int64_t telsx___SkipUserAgent( const RT_CHAR *chs, int64_t length )
     return telsx___SkipServer( chs, length );
 }
 
-// The names in order; the number of the one that the text begins with goes to index.
+// The names in order; index is set to the number of the one that the text begins with.
 static int64_t skipName( Text text, std::span<const std::string_view> names, int64_t firstIndex,
                          int64_t *index )
 {

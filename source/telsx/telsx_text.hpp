@@ -19,7 +19,7 @@ using rt::Skipper;
 using rt::Text;
 using rt::textOf;
 
-// The string of a Cstr or a Wcstr argument.
+// The string of a Cstr or Wcstr argument.
 inline Ref<RT_STRING> text( const char *chars, int64_t length )
 {
     return adopt( rtStringCreateFromCstr( chars, length ) );
@@ -44,7 +44,7 @@ private:
     int64_t size;
 };
 
-// The pieces that texts are put together from, as ASCII or as code points.
+// The pieces that texts are assembled from, as ASCII or as code points.
 template <std::size_t SIZE>
 std::string_view pieceOf( const char ( &literal )[SIZE] )
 {
@@ -64,7 +64,7 @@ inline RT_CHAR *copyTo( RT_CHAR *into, std::string_view piece )
 }
 inline RT_CHAR *copyTo( RT_CHAR *into, Text piece ) { return std::copy_n( piece.chs, piece.length, into ); }
 
-// Appends pieces, one behind the other: literals, characters, numbers and other strings.
+// Appends pieces, one after another: literals, characters, numbers and other strings.
 template <class... PIECE>
 void append( Ref<RT_STRING> &text, const PIECE &...pieces )
 {
@@ -73,7 +73,7 @@ void append( Ref<RT_STRING> &text, const PIECE &...pieces )
     ( ( into = copyTo( into, pieceOf( pieces ) ) ), ... );
 }
 
-// An empty text that grows to this length without moving.
+// An empty text that grows to this length without being moved.
 inline Ref<RT_STRING> textWithRoom( int64_t length )
 {
     Ref<RT_STRING> text;
@@ -92,7 +92,7 @@ Ref<RT_STRING> joined( const PIECE &...pieces )
     return text;
 }
 
-// The string in lower or upper case, a new reference; the string itself stays as it is.
+// The string in lower or upper case, a new reference; the string itself is unchanged.
 inline RT_STRING lowerCase( RT_STRING string )
 {
     Ref<RT_STRING> lower = share( string );
@@ -106,7 +106,7 @@ inline RT_STRING upperCase( RT_STRING string )
     return upper.take();
 }
 
-// Whether the text is the word, or begins with it in any case: for the latter the word is in lower case.
+// Whether the text is the word, or begins with it in any case; for the latter the word must be in lower case.
 template <rt::Ascii WORD, std::size_t... AT>
 bool isThere( const RT_CHAR *chs, std::index_sequence<AT...> )
 {
@@ -158,7 +158,7 @@ inline int64_t skipWordInAnyCase( Text text, RT_STRING word )
                                            rtStringLength( word ) );
 }
 
-// Elements with single dots between them; a dot that no element follows is left alone.
+// Elements with single dots between them; a dot that no element follows is not part of them.
 inline int64_t skipDotted( Text text, Skipper skipElement )
 {
     int64_t at = skipElement( text.chs, text.length );

@@ -13,7 +13,7 @@ RT_BOOL telsxTimestampValueOk( RT_STRING timestampValue )
     return covers( telsx___SkipTimestampValue, timestampValue );
 }
 
-// Any digits, then a dot with any digits behind it if there is one.
+// Any digits, then perhaps a dot and any digits after it.
 static int64_t skipDecimal( Text text )
 {
     Text rest = text;

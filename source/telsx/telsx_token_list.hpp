@@ -1,5 +1,5 @@
-// The headers that are a list of tokens: all of such a unit but the name and the element. A token may stand in the list more
-// than once. A header is written with all tokens on one line.
+// The headers that are a list of tokens: the whole of such a unit except the name and the element. A token may be in
+// the list more than once. A header is written with all tokens on one line.
 #pragma once
 
 #include "telsx/telsx_header.hpp"
@@ -23,7 +23,7 @@ bool decodeTokens( TokenList *list, HeaderLines &lines, Skipper skipToken,
 
 } // namespace telsx
 
-// The unit of the header NAME, a list of WORDs, after its frame line. ELEMENT is what functions call one of them.
+// The unit of the header NAME, a list of WORDs, after its frame line. ELEMENT is the name of one of them in functions.
 #define TELSX_DEFINE_TOKEN_LIST( NAME, SIP_NAME, WORD, ELEMENT )                                           \
     TELSX_DEFINE_GETTER( NAME, hdr, WORD##sVector, tokens )                                                \
     TELSX_HANDLE( NAME ) telsx##NAME##Create( void )                                                       \

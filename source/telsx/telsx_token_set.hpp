@@ -1,5 +1,5 @@
-// The headers that are a set of tokens: all of such a unit but the name, the element and the separator. The tokens are the
-// keys of a dictionary, each with itself as the value. A header is written with all tokens on one line.
+// The headers that are a set of tokens: the whole of such a unit except the name, the element and the separator. The
+// tokens are the keys of a dictionary, each its own value. A header is written with all tokens on one line.
 #pragma once
 
 #include "telsx/telsx_header.hpp"
@@ -17,7 +17,7 @@ struct TokenSet
 };
 static_assert( rt::listsAllFields<TokenSet>() );
 
-// What stands between two tokens.
+// The separator between two tokens.
 struct Separator
 {
     Skipper skip;
@@ -26,7 +26,7 @@ struct Separator
 inline constexpr Separator comma = { telsx___SkipComma, ',' };
 inline constexpr Separator semicolon = { telsx___SkipSemi, ';' };
 
-// The normal form of a token: a new reference. Tokens whose case counts are their own.
+// The normal form of a token, a new reference. Case-sensitive tokens are their own normal form.
 using Normalizer = RT_STRING ( * )( RT_STRING token );
 inline RT_STRING asItIs( RT_STRING token ) { return share( token ).take(); }
 
@@ -40,7 +40,7 @@ bool decodeTokens( TokenSet *set, HeaderLines &lines, Skipper skipToken, Normali
 
 TELSX_MESSAGE_HEADER encodeTokens( RT_STRING name, const TokenSet *set, RT_CHAR separator );
 
-// Sets the text of each element of the vector.
+// Adds the text of each element of the vector to the set.
 template <class T>
 void setEach( T **hdr, RT_VECTOR vec, void ( *set )( T **hdr, RT_STRING element ) )
 {

@@ -1,4 +1,4 @@
-// Transports as they are kept and as they are written. The usual ones are constants.
+// Transports as they are stored and as they are written. The usual ones are constants.
 #pragma once
 
 #include "telsx/telsx_text.hpp"

@@ -31,7 +31,7 @@ bool ParamReader::hasNoValue( int64_t nameLength )
     return !telsx___SkipEqual( behind.chs, behind.length );
 }
 
-// The parameter is taken: what follows begins behind its value.
+// The parameter is taken: the rest begins after its value.
 bool ParamReader::take()
 {
     rest = rest.behind( value.chs + value.length - rest.chs );

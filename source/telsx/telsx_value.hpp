@@ -1,4 +1,4 @@
-// What structured values share: an address in front, parameters behind it, on the way in and on the way out.
+// What structured values share, for reading and for writing: an address first, parameters after it.
 #pragma once
 
 #include "telsx/telsx_generic_params.hpp"
@@ -7,10 +7,10 @@
 namespace telsx
 {
 
-// Reads the parameters behind the front of a value, one a turn. Each if is a try; the first that stores
-// something has the parameter, and the others find nothing for the rest of the turn. Of parameters of one
-// name the last one stays. A parameter that no try takes, or text behind a value that is no semicolon, ends
-// the loop as failed.
+// Reads the parameters after the front of a value, one in each turn of the loop. Each if is an attempt; the first that
+// stores something takes the parameter, and the others find nothing for the rest of the turn. If several parameters
+// have one name, the last one stays. A parameter that no attempt takes, or text after the value that does not begin
+// with a semicolon, ends the loop as failed.
 //
 //     ParamReader param( rest );
 //     while ( param.next() )
@@ -24,16 +24,16 @@ class ParamReader
 public:
     explicit ParamReader( Text behindFront ) : rest( behindFront ) {}
 
-    // Whether there is another parameter. False at the end, and at bad text, which failed tells apart.
+    // Whether there is another parameter. False at the end and at bad text; failed() tells which.
     bool next();
     bool failed() const { return bad; }
 
-    // Whether text is left that no semicolon opens; some headers stop there instead of failing.
+    // Whether text is left that does not begin with a semicolon; some headers stop there instead of failing.
     bool stopped() const { return bad && !open && !behindSemi; }
     Text behind() const { return rest; }
 
-    // Whether the parameter has this name, in any case, and a value that begins as the skipper wants. The
-    // value, as far as the skipper goes, is then in value.
+    // Whether the parameter has this name, in any case, and a value that begins as the skipper requires. The member
+    // value is then as much of it as the skipper matches.
     template <rt::Ascii NAME>
     bool is( Skipper skipValue )
     {
@@ -41,14 +41,14 @@ public:
     }
     Text value;
 
-    // Whether the parameter begins with this name, in any case, and no equal sign follows.
+    // Whether the parameter begins with this name, in any case, without an equal sign after it.
     template <rt::Ascii NAME>
     bool isBare()
     {
         return open && beginsInAnyCase<NAME>( rest ) && hasNoValue( std::ssize( NAME.chs ) - 1 );
     }
 
-    // Stores what the value decoded to, unless that is null or -1; whether it did.
+    // Stores the decoded value unless it is null or -1; returns whether it did.
     template <class HANDLE>
     bool store( Ref<HANDLE> &field, Ref<HANDLE> decoded )
     {
@@ -75,12 +75,12 @@ private:
     bool take();
 
     Text rest;               // from the parameter's name on
-    bool open = false;       // the parameter waits for somebody to take it
+    bool open = false;       // nothing has taken the parameter yet
     bool bad = false;        // the loop has failed
-    bool behindSemi = false; // the last semicolon was there
+    bool behindSemi = false; // the last semicolon was found
 };
 
-// The element in double quotes, without white space; and the element of such a value.
+// The element in double quotes, without white space; and the element in such a value.
 template <Skipper SKIP>
 int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
 {
@@ -94,8 +94,8 @@ inline Ref<RT_STRING> copyInQuotes( Text quoted )
     return quoted.first( quoted.length - 1 ).behind( 1 ).copy();
 }
 
-// The front of a value or header that is an address (RFC 3261, 25.1): name-addr, or addr-spec, whose
-// semicolons belong to the value and not to the address.
+// The front of a value or header that is an address (RFC 3261, 25.1): name-addr, or addr-spec, in which semicolons
+// belong to the value and not to the address.
 struct Address
 {
     Ref<RT_STRING> iri;
@@ -103,7 +103,7 @@ struct Address
     bool inBrackets = false;
 };
 
-// Takes the address at the start; false for bad text. The bare form ends before that character.
+// Takes the address at the start; false for bad text. The bare form ends before the given character.
 bool takeAddress( Text &rest, Address &address, RT_CHAR endOfBare = ';' );
 
 // Appends the display name if there is one, and the address in angle brackets.

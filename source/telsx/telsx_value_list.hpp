@@ -1,5 +1,5 @@
-// The headers that are a list of values: all of such a unit but the name and the value. The values are kept as text and read
-// one by one when a caller asks. A header is written with one line for each value.
+// The headers that are a list of values: the whole of such a unit except the name and the value. The values are kept as
+// text and read one by one when a caller asks. A header is written with one line for each value.
 #pragma once
 
 #include <atomic>
@@ -10,8 +10,8 @@
 namespace telsx
 {
 
-// A value that was read before anybody asked. Who asks first gets it, so that everybody has an object of his own, and a
-// copy of the header has none.
+// A value that was read before anybody asked for it. The first caller gets it, so every caller has an object of its
+// own; a copy of the header has none.
 template <class VALUE>
 class ReadValue
 {
@@ -23,10 +23,10 @@ public:
         return *this;
     }
 
-    // Several threads may ask at once. Null if it is gone.
+    // Several threads may call this at once. Null if the value is gone.
     VALUE take() const { return std::atomic_ref( value ).exchange( nullptr, std::memory_order_acq_rel ); }
 
-    // While the header is the caller's alone.
+    // Only while nobody else has the header.
     void put( Ref<VALUE> read )
     {
         clear( *this );
@@ -38,7 +38,7 @@ private:
     mutable VALUE value = nullptr;
 };
 
-// The list of a kind that has nothing else. A kind that has more, beside values, declares the same functions.
+// The list of a kind that has nothing else. A kind that has more than values declares the same functions.
 struct ValueList
 {
     RT_OBJECT object;
@@ -46,10 +46,10 @@ struct ValueList
 
     static constexpr auto fields( auto &self ) { return std::tie( self.values ); }
 
-    // Drops what doesn't hold any more when the list changes.
+    // Drops what is no longer true when the list changes.
     void beforeChange() {}
 
-    // The value at the index if it has been read before, a new reference, or null.
+    // The value at the index, a new reference, if it has already been read, else null.
     template <class VALUE>
     static VALUE takeRead( int64_t )
     {
@@ -74,7 +74,7 @@ enum class WithoutLines
     isEmpty
 };
 
-// Fills a new list with the texts that the skipper cuts out of the raw header; false for bad text.
+// Fills a new list with the texts that the skipper cuts from the raw header; false for bad text.
 template <class SKIP>
 bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, WithoutLines withoutLines )
 {
@@ -96,7 +96,7 @@ RT_VECTOR *valuesToChange( T *hdr )
     return hdr->values.address();
 }
 
-// Puts a value in at the index, or with -1 after all others.
+// Inserts a value at the index, or with -1 after all others.
 template <class T>
 void insertValue( T *hdr, int64_t index, Ref<RT_STRING> text )
 {
@@ -114,7 +114,7 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
 
 } // namespace telsx
 
-// The eight operations of the header NAME on its list of VALUEs, called WORD in the functions' names.
+// The eight operations of the header NAME on its list of VALUEs, which are called WORD in the functions' names.
 #define TELSX_DEFINE_VALUE_LIST( NAME, WORD, VALUE, ENCODE, CLEAR )                                          \
     void telsx##NAME##CLEAR( TELSX_HANDLE( NAME ) * hdr )                                                    \
     {                                                                                                        \

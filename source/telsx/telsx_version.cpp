@@ -28,7 +28,7 @@ TELSX_DEFINE_NORMAL_FIELD( Version, version, ProtocolName, protocolName, telsxPr
 TELSX_DEFINE_NORMAL_FIELD( Version, version, ProtocolVersion, protocolVersion,
                            telsxProtocolVersionOk( protocolVersion ), telsxProtocolVersionNormalize )
 
-// The one SIP/2.0, set at start-up to a constant. It has the shape of the type without its Refs.
+// The one SIP/2.0 object, set to a constant at start-up. It has the layout of the type without its Refs.
 static constexpr struct
 {
     RT_OBJECT object;

@@ -1,4 +1,4 @@
-// Versions that are part of something else.
+// Versions inside other elements.
 #pragma once
 
 #include "telsx/telsx_text.hpp"
@@ -7,7 +7,7 @@
 namespace telsx
 {
 
-// What telsx___VersionTryDecode makes of the text, but the shared SIP/2.0 where it is that.
+// What telsx___VersionTryDecode makes of the text, or the shared object if it is SIP/2.0.
 Ref<TELSX_VERSION> tryDecodeVersion( Text text );
 
 } // namespace telsx

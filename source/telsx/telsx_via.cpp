@@ -23,7 +23,7 @@ struct TELSX_VIA_
     Ref<RT_STRING> maddr;
     Ref<NET_ADDRESS> received;
     RT_BOOL rportEmpty;   // rport without a value
-    int64_t rportNumeric; // rport with one; never both
+    int64_t rportNumeric; // rport with a value; never both
     Ref<RT_STRING> branch;
     Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 

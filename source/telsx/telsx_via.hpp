@@ -1,4 +1,4 @@
-// Via values, for the header that cuts them out of its lines.
+// Via values, for the header that cuts them from its lines.
 #pragma once
 
 #include "telsx/telsx_text.hpp"
@@ -7,8 +7,8 @@
 namespace telsx
 {
 
-// Takes the value at the start away; null for bad text. What is left may be part of what telsx___SkipVia takes,
-// unless a comma opens it.
+// Takes the value at the start; null for bad text. The rest may still be part of what telsx___SkipVia matches, unless
+// it begins with a comma.
 Ref<TELSX_VIA> takeVia( Text &rest );
 
 } // namespace telsx

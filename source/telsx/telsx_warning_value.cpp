@@ -69,7 +69,7 @@ RT_STRING telsx___WarningValueEncode( TELSX_WARNING_VALUE wv )
         .take();
 }
 
-// What stands behind the text is not looked at: whoever cuts a value out of a list has judged it.
+// Text after the warn-text is ignored: the code that cut the value from a list has checked it.
 TELSX_WARNING_VALUE telsx___WarningValueTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );

@@ -1,4 +1,4 @@
-// Text of words with white space between them. A word is of all code points above the blank but U+007F.
+// Text of words with white space between them. A word consists of all code points above the blank except U+007F.
 #pragma once
 
 #include "telsx/telsx_skip.h"
@@ -15,7 +15,7 @@ inline int64_t skipWord( const RT_CHAR *chs, int64_t length )
     return at;
 }
 
-// Words up to the end of the last; white space behind it isn't counted.
+// Words up to the end of the last one, without the white space after it.
 inline int64_t skipWords( Text text )
 {
     Text rest = text;
@@ -28,7 +28,7 @@ inline int64_t skipWords( Text text )
     return end;
 }
 
-// Whether the text is words, or none, with any white space around them.
+// Whether the text consists of words, or is empty, with any white space around them.
 inline bool isWords( Text text )
 {
     text.take( telsx___SkipLws );

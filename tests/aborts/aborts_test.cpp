@@ -1,5 +1,5 @@
-// A program with an abort of its own, which sees the breaches of contracts in all libraries and goes on after them: what is
-// told of them, and where they are said to be.
+// A program with its own abort function, which sees breaches of contract in all libraries and continues after them:
+// what it is told about them, and which unit they are said to be in.
 #include <csetjmp>
 
 #include "../../fuzz/elements.hpp"
@@ -31,7 +31,7 @@ void rt___Abort( const char *message, const char *file, int64_t, const char *exp
     throw last;
 }
 
-// The call must abort there, or anywhere, and the program goes on, whichever way it leaves.
+// The call must abort in that unit; the program continues whether it leaves by a jump or by an exception.
 template <class CALL>
 static void expectAbort( CALL call, const std::string &unit, const char *expression,
                          const char *message = nullptr )
@@ -80,7 +80,7 @@ static std::string unitOf( const std::string &element )
 
 TEST( Aborts, OfElementsStandInTheirUnits )
 {
-    // The others stand in their own, or in telsx_skip if they have no predicate.
+    // Elements not listed here have their own unit, or are in telsx_skip if they have no predicate.
     const std::pair<const char *, const char *> others[] = {
         { "telsx/telsx_skip",
           " Token TokenNodot Method ProtocolName ProtocolVersion QuotableString DisplayName WarnAgent "

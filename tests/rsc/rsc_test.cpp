@@ -34,14 +34,14 @@ TEST( RscIri, TheLongestIriIsMeasured )
                  "tel:+1-2;x=[]| |1a:x |+:x |:x |sip |s_p:x |ä:x | sip:a|\tb sip:a|\"b sip:a|\\ "
                  "sip:a|%4 sip:a|%4g sip:a|% sip:a%4fb| x:a#b|#c x:a#b?c?d| x:ä€𐀀| x:|\u0080 "
                  "x:|\uFDD0 x:|\uFFFE x:|\U0001FFFE x:|\U000E0001" );
-    // Private characters stand in the query only.
+    // Private characters are allowed only in the query.
     expectStops( rsc___SkipIri, "x:|\uE000 x:?\uE000\U00100000?\uF8FF#|\uE000 x:#?|\uE000 x:?|\U0010FFFE" );
-    // Or up to a character.
+    // Up to a given character.
     expectStops( []( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIriUntil( chs, length, ',' ); },
                  "sip:a;b|,c sip:a-|,-,b x:ä|, x:|, |,x:" );
     expectStops( []( const RT_CHAR *chs, int64_t length ) { return rsc___SkipIriUntil( chs, length, ';' ); },
                  "sip:a,b|;c sip:a-|,;-,b sip:a,si|;p:b" );
-    // A comma ends an IRI where an address of these schemes follows it, or nothing of the IRI.
+    // A comma ends an IRI if an address with one of these schemes follows it, or nothing of the IRI.
     expectStops(
         rsc___SkipIri,
         "sip:a@b|,sip:c@d sip:a|,SiPs:b x:|,TEL: sip:a,si:b sip:a,sipss:b sip:a,tel sip:a,,x,tel|,,tel:1 "
@@ -75,14 +75,15 @@ TEST( RscIri, UrisAndIrisConvert )
         { "sip://xn--4ca/%C3%A4", "sip://xn--4ca/ä" },
         { "sip:[2001:db8::1]:5060;%C3%A4", "sip:[2001:db8::1]:5060;ä" },
         { "sip:[xn--4ca]", "sip:[xn--4ca]" },
-        // ASCII stays escaped, and so does what is no UTF-8, what no IRI may hold there and bidi controls.
+        // ASCII stays escaped, as do bytes that are not UTF-8, characters that an IRI may not have there, and bidi
+        // controls.
         { "sip:%41%20%2F%25%40@a", "sip:%41%20%2F%25%40@a" },
         { "x:%C3%C3%A4%A4%C3", "x:%C3ä%A4%C3" },
         { "x:%C0%AF%E0%82%A0%ED%A0%80%F4%90%80%80%F8%88%80%80%80",
           "x:%C0%AF%E0%82%A0%ED%A0%80%F4%90%80%80%F8%88%80%80%80" },
         { "x:%C2%80%EF%BF%BE%EE%80%80?%EE%80%80#%EE%80%80", "x:%C2%80%EF%BF%BE%EE%80%80?\uE000#%EE%80%80" },
         { "x:%E2%80%8E%E2%80%8F%E2%80%AA%E2%80%AE%E2%80%AF", "x:%E2%80%8E%E2%80%8F%E2%80%AA%E2%80%AE\u202F" },
-        // A host in ASCII keeps its escapes; what is no host is text.
+        // An ASCII host keeps its escapes; what is not a host is text.
         { "sip:m%C3%BCnchen.de", "sip:m%C3%BCnchen.de" },
         { "sip:xn--4ca.%C3%A4;%C3%A4", "sip:ä.%C3%A4;ä" },
         { "sip:_%C3%A4.xn--4ca", "sip:_ä.xn--4ca" },
@@ -147,7 +148,7 @@ TEST( RscIri, EveryTextKeepsTheLaws )
         ASSERT_TRUE( back && isAscii( utf8( back ) ) ) << text << "\n" << utf8( iri );
         ASSERT_EQ( utf8( iri ), utf8( fromUri( back ) ) ) << text;
 
-        // And the way through an IRI changes no more of a URI than the case of letters.
+        // Converting it to an IRI and back changes nothing else in a URI than the case of letters.
         Ref<RT_STRING> once = toUri( fromUri( uri ) );
         rtStringToLower( uri.address() );
         rtStringToLower( once.address() );

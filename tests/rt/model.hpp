@@ -1,4 +1,4 @@
-// Random operations on a type beside a model of it, on two handles that share one object now and then.
+// Random operations on a type and on a model of it, through two handles that sometimes share one object.
 #pragma once
 
 #include <functional>
@@ -16,14 +16,14 @@ using support::Ref;
 class Random
 {
 public:
-    // From 0 to below the limit.
+    // From 0 to limit - 1.
     int64_t below( int64_t limit )
     {
         return static_cast<int64_t>( engine() % static_cast<uint64_t>( limit ) );
     }
-    // From 0 to the most.
+    // From 0 to the maximum.
     int64_t upTo( std::size_t most ) { return below( static_cast<int64_t>( most ) + 1 ); }
-    // One of the actions, whichever.
+    // One of the actions, at random.
     template <std::size_t SIZE>
     void act( const std::function<void()> ( &actions )[SIZE] )
     {
@@ -41,7 +41,7 @@ struct Side
     MODEL model{};
 };
 
-// STEP changes the first side and may read the second, which is the first at times; SAME compares.
+// STEP changes the first side and may read the second, which is sometimes the first; SAME compares.
 template <class MODEL, class HANDLE, class STEP, class SAME>
 void run( Ref<HANDLE> empty, int steps, STEP step, SAME same )
 {
@@ -59,7 +59,7 @@ void run( Ref<HANDLE> empty, int steps, STEP step, SAME same )
     }
 }
 
-// Each object equals a second one that is made alike, and comes before those that follow.
+// Each object equals a second one made the same way, and sorts before those that follow.
 template <class MAKE, class... FROM>
 void expectAscending( MAKE make, const FROM &...from )
 {

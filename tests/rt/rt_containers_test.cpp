@@ -66,7 +66,7 @@ TEST( RtVector, KnowsWhatItContains )
     EXPECT_TRUE( rtVectorContainsOnly( vector.get(), rtStringSort() ) );
     rtVectorAppendString( vector.address(), str( "a" ).get() );
     EXPECT_TRUE( rtVectorContainsOnly( vector.get(), rtStringSort() ) );
-    // What is appended is the vector as it was, so that nothing contains itself.
+    // The vector is appended as it was before, so nothing contains itself.
     rtVectorAppend( vector.address(), rtVectorObj( vector.get() ) );
     EXPECT_FALSE( rtVectorContainsOnly( vector.get(), rtStringSort() ) );
     EXPECT_EQ( "a, a", utf8( rtVectorToString( vector.get() ) ) );
@@ -75,7 +75,7 @@ TEST( RtVector, KnowsWhatItContains )
     EXPECT_ABORT( rtVectorDelAt( vector.address(), -1 ), "index >= 0 && index < rtVectorLength( *handle )" );
 }
 
-// A dictionary as it should be: the keys in order, and their values.
+// A model of a dictionary: the sorted keys, and their values.
 struct DictModel
 {
     Strings keys;
@@ -93,7 +93,7 @@ TEST( RtDict, ActsLikeItsModel )
     auto change = [&step]( model::Side<RT_DICT, DictModel> &side, auto &, Random &random )
     {
         auto &[real, model] = side;
-        // Times of few keys and times of many, with more deletions the more there are.
+        // Phases with few keys alternate with phases with many; the more keys, the more deletions.
         int64_t many = ++step / 2000 % 2 ? 8 : 200;
         std::string key = "key" + std::to_string( random.below( many ) ), value = std::to_string( step );
         if ( random.below( 1000 ) == 0 )
@@ -155,7 +155,7 @@ TEST( RtDict, TellsItsEntriesInOrder )
 
 TEST( RtDict, ComparesAsAMap )
 {
-    // Every other one is made in the reverse order, and with an entry that doesn't stay.
+    // Every other one is made in reverse order, and with an entry that is deleted again.
     bool isReverse = false;
     auto make = [&isReverse]( Map entries )
     {
@@ -192,7 +192,7 @@ TEST( RtStore, KeepsValuesAndStoresInOrder )
     EXPECT_EQ( nullptr, rtStoreStoreCstr( store.get(), "name", -1 ) );
     EXPECT_EQ( nullptr, rtStoreStoreCstr( store.get(), "none", -1 ) );
 
-    // The store that was put in doesn't change with the one at hand, also not where it is put into itself.
+    // The store that was put in doesn't change with the original, even when a store is put into itself.
     rtStoreSetValueCstr( lines.address(), "1", -1, str( "another line" ).get() );
     EXPECT_EQ( 1, rtStoreLength( adopt( rtStoreStoreCstr( store.get(), "lines", -1 ) ).get() ) );
     rtStoreSetStoreCstr( lines.address(), "before", -1, lines.get() );

@@ -136,7 +136,7 @@ TEST( RtTime, OrdersTheEarlierFirst )
 TEST( RtMemory, WhatNoMemoryHoldsAborts )
 {
     auto expectAbort = []( auto create ) { EXPECT_DEATH( create(), ": out of memory: " ); };
-    str( "a" ); // whose block, freed, makes later ones look for one of their size
+    str( "a" ); // its block, once freed, makes later allocations look for one of their size
     Ref<RT_STRING> string = str( "a" );
     Ref<RT_BUFFER> bytes = buffer( "a" );
     for ( int64_t length : { INT64_MAX, INT64_MAX / 4, INT64_MAX / 4 - 16 } )

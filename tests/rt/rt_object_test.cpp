@@ -14,7 +14,7 @@ Ref<HANDLE> filled( HANDLE created, void ( *fill )( HANDLE *object ) )
     return object;
 }
 
-// A type, the text of its sample, how that is filled and how it is changed.
+// A type, the text of its sample, and how the sample is filled and changed.
 #define TYPE( NAME, HANDLE, TEXT, FILL, CHANGE )                                  \
     {                                                                             \
         OBJECT_TYPE( rt##NAME, HANDLE,                                            \
@@ -70,12 +70,12 @@ TEST( RtObject, AbortsInOneLine )
                  "^source/x/x_unit:7: why: a == b\n$" );
     EXPECT_EXIT( rt___Abort( nullptr, "source/x/x_unit", 7, "a" ), testing::KilledBySignal( SIGABRT ),
                  "^source/x/x_unit:7: a\n$" );
-    // The unit is told without the folders in front of it and without its ending.
+    // The unit is given without its leading folders and its extension.
     EXPECT_EXIT( rtObjSort( nullptr ), testing::KilledBySignal( SIGABRT ),
                  "^source/rt/rt_object:[0-9]+: obj\n$" );
 }
 
-// Counts how often it was started and stopped.
+// Counts how often it is started and stopped.
 static int starts, stops;
 static RT_BOOL answer;
 

@@ -1,4 +1,4 @@
-// Looking at many characters at a time finds what looking at one after the other finds.
+// Scanning many characters at a time finds what scanning one by one finds.
 #include "rt/rt_scan.hpp"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ uint32_t below( uint32_t limit )
     return std::uniform_int_distribution<uint32_t>( 0, limit - 1 )( random_ );
 }
 
-// Mostly members of the set, in a block of exactly that size.
+// Mostly members of the set, in a block of exactly this size.
 std::vector<RT_CHAR> textFor( const rt::CharSet &set, std::size_t length )
 {
     static constexpr RT_CHAR strange[] = { 0,      0x7F,   0x80,    0xFF,       0x141,

@@ -43,7 +43,7 @@ TEST( RtString, PartsShareTheTextWhereThatIsCheap )
     EXPECT_EQ( "some", utf8( small ) );
     EXPECT_EQ( whole.get(), inner( whole, 0, -1 ).get() );
 
-    // The parts outlive the whole, and a change of one leaves the others alone.
+    // The parts outlive the whole, and changing one leaves the others alone.
     Ref<RT_STRING> other = ofLarge;
     rtStringSetCharAt( large.address(), 0, 'x' );
     rtStringAppendChar( ofLarge.address(), 'y' );
@@ -196,7 +196,7 @@ TEST( RtString, FormatsAndDelimits )
                                    int64_t{ 100 }, int64_t{ 99 } ) );
     EXPECT_EQ( "<€>", format( "<%s>", text.get() ) );
     EXPECT_EQ( "x€7", utf8( rtStringCreateFromFormatCstr( "x%~s%i", -1, text.retained(), int64_t{ 7 } ) ) );
-    // The string may be among its arguments.
+    // The string may be one of its own arguments.
     rtStringAppendFormatCstr( text.address(), "+%s%s!", -1, text.get(), text.get() );
     EXPECT_EQ( "€+€€!", utf8( text ) );
     rtStringDelimitedAppendCharDelimiter( text.address(), text.get(), ',' );

@@ -1,5 +1,5 @@
-// What holds for the objects of every type, of whichever library. Who includes this has a table of the types and hands it
-// to INSTANTIATE_TEST_SUITE_P.
+// What holds for the objects of every type in every library. A test that includes this has a table of the types and
+// passes it to INSTANTIATE_TEST_SUITE_P.
 #pragma once
 
 #include "../../fuzz/erased.hpp"
@@ -8,19 +8,19 @@
 namespace support
 {
 
-// The functions of a type, for objects of any.
+// The functions of a type, for objects of any type.
 struct ObjectType
 {
     std::string sortName;
     RT_SORT ( *sort )();
-    RT_OBJ ( *sample )(); // each time one that is equal
+    RT_OBJ ( *sample )(); // a new, equal one each time
     void ( *retain )( RT_OBJ obj );
     void ( *release )( RT_OBJ obj );
     RT_OBJ ( *toAndFro )( RT_OBJ obj ); // From, then Obj
     RT_STRING ( *toString )( RT_OBJ obj );
     int64_t ( *compare )( RT_OBJ a, RT_OBJ b );
     RT_BOOL ( *equals )( RT_OBJ a, RT_OBJ b );
-    RT_OBJ ( *copy )( RT_OBJ obj ) = nullptr;     // of a type that is copied
+    RT_OBJ ( *copy )( RT_OBJ obj ) = nullptr;     // if the type is copied
     void ( *change )( RT_OBJ *handle ) = nullptr; // to an object that isn't equal
     const char *text = nullptr;                   // of the sample; null for any, or its name if it has none
 

@@ -1,4 +1,4 @@
-// What the tests of all layers share: text to strings and back, aborts with their text, leaks.
+// What the tests of all layers share: conversion of text to strings and back, aborts with their text, leaks.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -58,7 +58,7 @@ inline std::vector<RT_CHAR> codePoints( std::string_view text )
     return { chs, chs + rtStringLength( string.get() ) };
 }
 
-// What a skipper or a decoder makes of such a text.
+// What a skipper or a decoder makes of the text, in such a block.
 template <class FUNCTION>
 auto applied( FUNCTION *function, std::string_view text )
 {
@@ -66,7 +66,7 @@ auto applied( FUNCTION *function, std::string_view text )
     return function( exact.data(), std::ssize( exact ) );
 }
 
-// What stands between single blanks.
+// The words between single blanks.
 inline std::vector<std::string> words( const std::string &text )
 {
     std::vector<std::string> found;
@@ -76,14 +76,14 @@ inline std::vector<std::string> words( const std::string &text )
     return found;
 }
 
-// What stands in front of the first equals sign, and behind it.
+// The parts before and after the first equals sign.
 inline std::pair<std::string, std::string> halves( const std::string &text )
 {
     std::size_t at = text.find( '=' );
     return { text.substr( 0, at ), text.substr( at + 1 ) };
 }
 
-// The skipper must stop at the bar, or without one at the end.
+// The skipper must stop at the bar, or at the end if there is none.
 inline void expectStop( rt::Skipper skip, std::string_view marked )
 {
     std::string text( marked.substr( 0, marked.find( '|' ) ) );

@@ -1,5 +1,5 @@
-// docs/accepts.md tells the truth: the library makes of what stands in the first column of its tables what stands in
-// the second. \n stands for CR LF there, \t for a tab, \xHH for a byte.
+// docs/accepts.md is true: from the first column of its tables the library makes what the second column has. \n stands
+// for CR LF there, \t for a tab, \xHH for a byte.
 #include <fstream>
 #include <set>
 
@@ -37,7 +37,7 @@ std::string ofDatagram( std::string_view datagram )
     return msg ? bytes( adopt( telsxMessageEncode( msg.get() ) ) ) : "null";
 }
 
-// All messages, then what the decoder is left with.
+// All messages, then what is left in the decoder.
 std::string ofStream( std::string_view stream )
 {
     auto decoder = adopt( telsxMessageStreamDecoderCreate() );
@@ -50,7 +50,7 @@ std::string ofStream( std::string_view stream )
     return result + ( telsxMessageStreamDecoderLength( decoder.get() ) ? "..." : "" );
 }
 
-// The lines of a typed header. A list is given back what each of its values decodes to.
+// The lines of a typed header. In a list, each value is set again to what it decodes to.
 std::string linesOf( const headers::Kind &kind, Ref<RT_OBJ> header )
 {
     std::set<int64_t> bad;

@@ -69,7 +69,7 @@ TEST( WarnCode, HasTextAndDigits )
 
 TEST( ReasonPhrase, IsEscapedOnTheWire )
 {
-    // The characters of ASCII that need no escape; all others do, and only they.
+    // The ASCII characters that need no escape; all other characters need one.
     const std::string plain =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789;/?:@&=+$,-_.!~*'() \t";
     for ( RT_CHAR ch = 0; ch < 0x180; ++ch )

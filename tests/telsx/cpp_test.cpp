@@ -1,4 +1,4 @@
-// The owning handle of telsx.hpp and its conversions; that every object is released, the leak check sees.
+// The owning handle of telsx.hpp and its conversions; the leak check sees that every object is released.
 #include "support/support.hpp"
 #include "telsx/telsx.hpp"
 

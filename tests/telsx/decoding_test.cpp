@@ -13,7 +13,7 @@ struct Case
 
 } // namespace
 
-// Decodes from a block of exactly the size of the text.
+// Decodes from a block of exactly the text's size.
 static std::string decoded( std::string_view wire ) { return dump( fragment( wire ).get() ); }
 
 TEST( Decoding, TellsTheStartLine )
@@ -40,7 +40,7 @@ TEST( Decoding, TellsTheStartLine )
     };
     for ( auto &[wire, expected] : cases )
         EXPECT_EQ( expected, decoded( wire ) ) << wire;
-    // What looks like a start line must be a good one; what doesn't must be a header.
+    // What looks like a start line must be valid; anything else must be a header.
     for ( std::string_view wire :
           list( "A\tb:c SIP/2.0\r\n\r\n", "no header\r\n\r\n", "SIP/2.0 1000 Odd\r\n\r\n",
                 "SIP/2.0 abc\r\n\r\n", "SIP/2.0 200x OK\r\n\r\n", "SIP/2.0 +200 OK\r\n\r\n",
@@ -56,7 +56,7 @@ TEST( Decoding, TellsTheStartLine )
 TEST( Decoding, FilesHeadersUnderTheirNames )
 {
     const Case cases[] = {
-        // behind a start line, in front of a blank line
+        // after a start line, before a blank line
         { "G: \t ", "G: <>" },
         { "C~eq:a", "C~eq: <a>" },
         { "G \t:\t a b \t", "G: <a b>" },
@@ -99,7 +99,7 @@ TEST( Decoding, CutsTheBody )
     };
     for ( auto &[wire, expected] : cases )
         EXPECT_EQ( "A b:c D/1" + expected, decoded( "A b:c D/1\r\n" + wire ) ) << wire;
-    // Without a blank line all is head, and must be text.
+    // Without a blank line everything is head, and must be text.
     EXPECT_EQ( "(null)", decoded( "A b:c D/1\r\nG: a\r\n\xFF" ) );
     EXPECT_EQ( "- | body <a>", decoded( "\r\n\r\na" ) );
     for ( std::string bad :
@@ -124,7 +124,7 @@ TEST( Decoding, OfAHeadAloneTellsContentLength )
         { "l: 7\r\nl: 0\r\n", "- | Content-Length: <7> <0>", 0, "- | Content-Length: <7> <0>" },
         { "l: x\r\n", "(null)", -1, "- | Content-Length: <x>" },
         { "l: 7\r\nbad", "(null)", -1, "(null)" },
-        // No blank line ends a head.
+        // A blank line does not end a head that is decoded by itself.
         { "G: a\r\n\r\n\r\nH: b\r\n", "- | G: <a> | H: <b>", -1, "- | G: <a> | H: <b>" },
         { "G: a\r\n\r\n h: c\r\n", "- | G: <a> | H: <c>", -1, "- | G: <a> | H: <c>" },
     };
@@ -153,7 +153,7 @@ TEST( Decoding, KeepsLoneLineEndsAndTellsOfThem )
     for ( auto &[head, expected] : rows )
         EXPECT_EQ( expected, telsxMessageFragmentHasLoneLineEnds( fragment( head ).get() ) != 0 ) << head;
 
-    // What counts is what would be written.
+    // What counts is the text that would be written.
     Ref<TELSX_MESSAGE> msg = message( "A b:c D/1\r\nV: a\r\nv: b\nc\r\n\r\n" );
     auto hasThem = [&msg] { return telsxMessageHasLoneLineEnds( msg.get() ) != 0; };
     adopt( telsxMessageHeaderCstr( msg.get(), "V", -1 ) );
@@ -168,7 +168,7 @@ TEST( Decoding, KeepsLoneLineEndsAndTellsOfThem )
     EXPECT_ABORT( telsxMessageFragmentHasLoneLineEnds( nullptr ), "frag" );
 }
 
-// Lines are read in place up to some length, and as a string beyond.
+// Up to some length lines are read in place, longer ones as strings.
 TEST( Decoding, ReadsTypedHeadersOfAnyLength )
 {
     for ( int64_t length : { 1, 15, 16, 17, 230, 240, 241, 242, 256, 257, 5000 } )

@@ -1,5 +1,5 @@
-// The elements of the grammar: normal forms, forms in objects and on the wire, ranges. What the skippers measure stands
-// in skip_test.cpp; that a predicate is true exactly where the skipper takes the whole text is shown for all elements by
+// The elements of the grammar: normal forms, forms in objects and on the wire, ranges. What the skippers match is in
+// skip_test.cpp; that a predicate is true exactly if the skipper matches the whole text is shown for all elements by
 // fuzz/elements.cpp, whose inputs every build replays.
 #include <limits>
 
@@ -61,7 +61,7 @@ TEST( Elements, AreReadInOtherFormsToo )
 {
     const struct
     {
-        const char *names, *wire, *plain; // null where it is none
+        const char *names, *wire, *plain; // null if it is not one
     } rows[] = {
         { "DiversionPrivacy DiversionReason DiversionScreen", " \"Do not\"", "Do not" },
         { "QuotableString", " \t\"a\"", "a" },
@@ -155,7 +155,7 @@ TEST( Elements, Qvalue )
         EXPECT_EQ( number, applied( telsx___QvalueTryDecode, text ) ) << text;
 }
 
-// What converts how is tested with the library that converts.
+// The conversion itself is tested with the library that does it.
 TEST( Host, GoesOutInAsciiAndComesInInUnicode )
 {
     for ( auto [host, wire, again] : { std::tuple( "Example.COM", "Example.COM", "Example.COM" ),

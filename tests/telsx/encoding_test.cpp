@@ -10,7 +10,7 @@ TEST( Encoding, WritesTheNormalForm )
         { "\r\n\r\nabc", "Content-Length: 3\r\n\r\nabc" },
         { "SIP/2.0 00100 A \"b\" 5%25%0D%0A%41\xC3\xA4\r\n\r\n",
           "SIP/2.0 100 A %22b%22 5%25%0D%0AA\xC3\xA4\r\nContent-Length: 0\r\n\r\n" },
-        // Lines of one name stand together; Content-Length keeps its place and tells the truth.
+        // Lines of one name are together; Content-Length keeps its place and gets the true value.
         { "v: a\r\nG:\r\nl: 99\r\nl: 2\r\nVIA:  b\r\n c \r\n\r\nabcd",
           "Via: a\r\nVia: b c\r\nG: \r\nContent-Length: 2\r\n\r\nab" },
         { "G: a\r\r\n\r\n\xFF", "G: a\r\r\nContent-Length: 1\r\n\r\n\xFF" },
@@ -40,7 +40,7 @@ TEST( Encoding, WritesWhatCallersSet )
     telsxMessageFragmentSetResponse( frag.address(), version.get(), 799 );
     telsxMessageFragmentSetBody( frag.address(), buffer( "" ).get() );
     EXPECT_EQ( "SIP/2.0 799 Unknown reason %22799%22\r\nContent-Length: 0\r\n\r\n", encoded( frag.get() ) );
-    // What is no character comes out as U+FFFD.
+    // What is not a character becomes U+FFFD.
     RT_CHAR surrogate = 0xD800;
     Ref<RT_STRING> odd = adopt( rtStringCreateFromCharsCopy( &surrogate, 1 ) );
     telsxMessageFragmentSetResponseReasonPhrase( frag.address(), odd.get() );

@@ -1,4 +1,4 @@
-// Starts the module before the first test and stops it behind the last.
+// Starts the module before the first test and stops it after the last.
 #include "support/support.hpp"
 #include "telsx/telsx_module.h"
 

@@ -8,17 +8,17 @@ using namespace support;
 namespace
 {
 
-// A field, for objects of any type. A null text stands for no value at all.
+// A field, for objects of any type. A null text means no value at all.
 struct Field
 {
     std::string word, element;
     void ( *set )( RT_OBJ *object, const char *text );
     std::string ( *get )( RT_OBJ object );
-    RT_BOOL ( *has )( RT_OBJ object ) = nullptr; // a field that may be absent has these
+    RT_BOOL ( *has )( RT_OBJ object ) = nullptr; // only for a field that may be absent
     void ( *del )( RT_OBJ *object ) = nullptr;
 };
 
-// A value, or with a name on the wire a header.
+// A value, or, with a name on the wire, a header.
 struct Type
 {
     std::string name, wireName;
@@ -114,7 +114,7 @@ std::string lower( std::string word )
     return word;
 }
 
-// What functions call the object and a value, where that isn't the usual name.
+// The names that functions give the object and a value, where they are not the usual ones.
 std::string argument( const Type &type, const std::string &word, const std::string &usual )
 {
     static const std::map<std::string, std::string> others = {
@@ -163,8 +163,8 @@ std::string lettersOf( std::string_view word )
     return letters;
 }
 
-// A field that is written as a parameter has the parameter's name, and hides one of that name in the set, which is there
-// again without the field.
+// A field that is written as a parameter has the parameter's name, and hides a parameter of that name in the set;
+// without the field the parameter is there again.
 void expectHides( const Type &type, const Field &field, Ref<RT_OBJ> object, const Sample &sample )
 {
     auto params = std::ranges::find( type.fields, "GenericParams", &Field::word );
@@ -301,7 +301,7 @@ TEST( Fields, MustBeGoodInNewObjects )
 #undef EXPECT_BAD
 }
 
-// What there are other functions for than for most fields.
+// Fields that have other functions than most.
 
 TEST( Fields, OfCseqAndEventAreSetInThreeForms )
 {
@@ -353,7 +353,7 @@ TEST( Fields, OfPriorityHaveNamedValues )
     EXPECT_ABORT( telsxHeaderPrioritySetUrgent( nullptr ), "hdr" );
 }
 
-// Of one form at a time, and no part of comparison
+// In one form at a time, and not part of comparison
 TEST( Fields, RportOfVia )
 {
     const auto without = adopt( applied( telsx___ViaTryDecode, "SIP/2.0/UDP h" ) );
@@ -398,7 +398,7 @@ TEST( Fields, WarnCodeBringsItsText )
     EXPECT_EQ( 399, telsxWarningValueWarnCode( original.get() ) );
     telsxWarningValueSetWarnCode( wv.address(), 307, -1 );
     EXPECT_EQ( "307 h \"Session description parameter not understood\"", text() );
-    // A code of less than three digits is written so, and nobody reads it.
+    // A code of fewer than three digits is written as it is, and nothing reads it.
     telsxWarningValueSetWarnCode( wv.address(), 7, 1 );
     EXPECT_EQ( "7 h \"Warning \\\"007\\\"\"", text() );
     EXPECT_FALSE( adopt( applied( telsx___WarningValueTryDecode, text() ) ) );
@@ -464,7 +464,7 @@ TEST( Fields, FromAndToAreMadeFromEachOther )
     EXPECT_ABORT( telsxHeaderToCreateFromHeaderFrom( nullptr ), "hdrFrom" );
 }
 
-// Decoders keep, beside a field, the parameters of its name that don't suit it.
+// Decoders keep, besides a field, the parameters of its name that are not valid for it.
 TEST( Fields, KeepHiddenParametersThatAreRead )
 {
     auto via = adopt( applied( telsx___ViaTryDecode, "SIP/2.0/UDP h;ttl=1;ttl=300" ) );
@@ -479,7 +479,7 @@ TEST( Fields, KeepHiddenParametersThatAreRead )
     telsxContactDelRc( contact.address() );
     telsxContactDelQvalue( contact.address() );
     EXPECT_EQ( "<sip:a>;expires=1;q=x;rc;y", utf8( telsxContactToString( contact.get() ) ) );
-    // The index is hidden always, for it is never absent.
+    // The index always hides one, since it is never absent.
     auto hi = adopt( telsxHistoryInfoCreate( str( "sip:a" ).get(), str( "1" ).get() ) );
     telsxHistoryInfoSetGenericParams( hi.address(), params( ";index=2;rc" ).get() );
     EXPECT_EQ( "<sip:a>;index=1;rc", utf8( telsx___HistoryInfoEncode( hi.get() ) ) );

@@ -1,4 +1,4 @@
-// Fragments and messages as callers make, read and change them. What both have runs for both.
+// Fragments and messages as callers make, read and change them. Tests of what both have run for both.
 #include "telsx_support.hpp"
 
 using namespace support;
@@ -148,7 +148,7 @@ TYPED_TEST( FragmentAndMessage, KeepsOneHeaderOfAName )
     EXPECT_TRUE( API::HasHeaderWcstr( object.get(), L"ix", 1 ) );
     EXPECT_FALSE( API::HasHeaderCstr( object.get(), "g", -1 ) );
 
-    // What is done to a header that was taken out comes back by SetHeader only.
+    // A header that was taken out and changed comes back only by SetHeader.
     telsxMessageHeaderAppendLineCstr( via.address(), "e", -1 );
     EXPECT_EQ( "Via: <d>", dump( adopt( API::HeaderCstr( object.get(), "v", -1 ) ).get() ) );
     API::SetHeader( object.address(), via.get() );
@@ -190,7 +190,7 @@ TYPED_TEST( FragmentAndMessage, AbortsForBrokenContracts )
     EXPECT_ABORT( API::SetResponse( request.address(), sip20, 1000 ), "telsxStatusCodeOk( sc )" );
     EXPECT_ABORT( API::SetHeader( request.address(), nullptr ), "header" );
     EXPECT_ABORT( API::HasHeaderCstr( request.get(), "a:", -1 ), "telsxMessageHeaderNameOk( name )" );
-    // A field that the kind doesn't have can't be set.
+    // A field that the kind does not have can't be set.
     EXPECT_ABORT( API::SetRequestMethod( response.address(), method.get() ), "(*frag)->requestMethod" );
     EXPECT_ABORT( API::SetResponseStatusCode( request.address(), 200, 0 ),
                   "(*frag)->responseStatusCode != TELSX_STATUS_CODE_INVALID" );
@@ -237,7 +237,7 @@ TEST( Message, IsAFragmentWithAStartLine )
     EXPECT_EQ( "A b:c D/1 | body <y>", dump( msg.get() ) );
 }
 
-// Of known and of other names, taken out and put in again, while others hold what was before.
+// Known and other names, removed and set again, while others hold the previous state.
 TEST( Fragment, HeadersKeepTheirOrderThroughDeletions )
 {
     std::string wire = "BYE sip:a SIP/2.0\r\n", expected = "BYE sip:a SIP/2.0";

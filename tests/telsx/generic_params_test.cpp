@@ -1,5 +1,4 @@
-// Generic parameters and sets of them, as callers make and change them. What they read and write stands in
-// values_test.cpp.
+// Generic parameters and sets of them, as callers make and change them. What they read and write is in values_test.cpp.
 #include "telsx/object_tables.hpp"
 
 using namespace support;
@@ -52,7 +51,7 @@ TEST( GenericParams, ValuesOfAParameter )
         EXPECT_EQ( normal, utf8( telsxGenericParamValueNormalized( made.get() ) ) );
         EXPECT_EQ( written, text( made ) );
 
-        // The normal form is equal, and another holder keeps the value as it was set.
+        // The normal form compares equal, and another holder keeps the value as it was set.
         Param normalized = made;
         telsxGenericParamNormalizeValue( normalized.address() );
         EXPECT_EQ( normal, utf8( telsxGenericParamValueNonNormalized( normalized.get() ) ) );
@@ -66,7 +65,7 @@ TEST( GenericParams, ValuesOfAParameter )
         EXPECT_FALSE( telsxGenericParamValueOk( type, str( value ).get() ) ) << type << " " << value;
 }
 
-// What is decoded: an address in dots and a host name are tokens.
+// Decoded values: an address in dots and a host name are tokens.
 TEST( GenericParams, TypesOfDecodedValues )
 {
     for ( auto [type, wire] :
@@ -93,7 +92,7 @@ TEST( GenericParams, ChangesOfAParameterAreForOneHolder )
     }
     EXPECT_EQ( "a=B", text( original ) );
 
-    // Without a value there is nothing to normalise, and no copy.
+    // Without a value there is nothing to normalise, so no copy is made.
     Param held = changed;
     telsxGenericParamNormalizeValue( changed.address() );
     EXPECT_EQ( held.get(), changed.get() );
@@ -113,7 +112,7 @@ TEST( GenericParams, AreLookedUpInAnyCase )
     EXPECT_EQ( "B", utf8( telsxGenericParamsParamValueNonNormalizedCstr( set.get(), "Q", -1 ) ) );
     EXPECT_TRUE( telsxGenericParamsHasParamWcstr( set.get(), L"q", -1 ) );
 
-    // Only Has tells a parameter without a value from none.
+    // Only Has distinguishes a parameter without a value from a missing one.
     for ( auto [absent, isThere] : { std::pair( "X", true ), std::pair( "z", false ) } )
     {
         EXPECT_EQ( isThere, bool( telsxGenericParamsHasParamCstr( set.get(), absent, -1 ) ) );

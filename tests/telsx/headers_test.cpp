@@ -29,7 +29,7 @@ TEST( Headers, AbortForNullAndForOtherNames )
     }
 }
 
-// Entries that are no lines do no harm; a line that is none does.
+// Entries other than lines do no harm; an invalid line does.
 TEST( Headers, AreRestoredFromDamagedStores )
 {
     for ( const headers::Kind &kind : headers::all )

@@ -34,7 +34,7 @@ TEST( Kinds, ContentEncodingIsAList )
     telsxHeaderContentEncodingInsertContentCoding( hdr.address(), 3, str( "gzip" ).get() );
     EXPECT_EQ( "a,b,gzip,gzip", text( hdr ) );
     EXPECT_EQ( "", text( original ) );
-    // The header's own vector, given back to it
+    // The header's own vector, passed back to it
     Ref<RT_VECTOR> own = adopt( telsxHeaderContentEncodingContentCodingsVector( hdr.get() ) );
     telsxHeaderContentEncodingDelContentCodingAt( hdr.address(), 2 );
     EXPECT_EQ( "a,b,gzip", text( hdr ) );
@@ -71,7 +71,7 @@ TEST( Kinds, DatesHoldTimes )
     EXPECT_LE( now, after );
     EXPECT_TRUE( date( utf8( telsxHeaderDateToString( hdr.get() ) ) ) );
 
-    // A time that is none is written as it stands, unless it has no month.
+    // An invalid time is written as it is, unless it has no month.
     Ref<RT_TIME> time = adopt( rtTimeCreate() );
     rtTimeSetHour( time.address(), 99 );
     telsxHeaderDateSetTime( hdr.address(), time.get() );

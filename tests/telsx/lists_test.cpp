@@ -1,4 +1,4 @@
-// Lists and sets as they change, what they share with the raw header, and the star.
+// Changes to lists and sets, what they share with the raw header, and the star.
 #include "rt/model.hpp"
 #include "telsx/samples.hpp"
 
@@ -27,8 +27,8 @@ struct List : headers::Kind
             all.push_back( text( adopt( at( hdr.get(), i ) ) ) );
         return all;
     }
-    // Values of the rows of their type, that come back from what they are written as; texts, of the rows of the header,
-    // in other cases too.
+    // Values from the rows of their type that are read back from what they are written as; texts from the rows of the
+    // header, in other cases too.
     std::vector<Ref<RT_OBJ>> samples() const
     {
         std::vector<Ref<RT_OBJ>> found;
@@ -119,7 +119,7 @@ void changeSet( const List &set, const Ref<RT_OBJ> &item, Side &side, model::Ran
 
 } // namespace
 
-// A header that was read keeps more than one that was made: so it is read anew now and then.
+// A header that was read keeps more than one that was made, so it is read anew now and then.
 TEST( Lists, ActLikeTheirModels )
 {
     for ( const List &list : lists )
@@ -190,7 +190,7 @@ TEST( Lists, AbortForBrokenContracts )
     }
 }
 
-// Whatever has a text can stand in the vector of a set, and strings alone in that of a list.
+// The vector of a set may hold anything that has a text, that of a list only strings.
 TEST( Kinds, Sets )
 {
     Ref<RT_VECTOR> vector = adopt( rtVectorCreate() ), texts = vector;
@@ -221,8 +221,8 @@ TEST( Kinds, Sets )
                read( named( headers::all, "Allow" ), "b\na" ) );
 }
 
-// A value that passes in the list may be none for its decoder; the others stand, and all go out as they came, until
-// one is set: that of an object is in its normal form.
+// A value that passes in the list may be bad for its decoder. The others remain, and all go out as they came until one
+// is set: one set from an object is in its normal form.
 TEST( Lists, KeepTextsAndNotObjects )
 {
     auto hdr =
@@ -248,7 +248,7 @@ TEST( Lists, OfViaAndWarningAreRestoredWithoutLines )
         }
 }
 
-// A line of one value is kept as it is, longer ones share their text, and a change leaves the lines alone.
+// A line with one value is kept as it is, values of longer lines share its text, and a change leaves the lines alone.
 TEST( Lists, ShareTheTextOfTheLines )
 {
     auto lineAt = []( const headers::Raw &raw, int64_t index )
@@ -296,7 +296,7 @@ TEST( Lists, ContactIsAStarOrAList )
     EXPECT_TRUE( telsxHeaderContactIsStarForm( adopt( telsxHeaderContactCreateFrom( hdr.get() ) ).get() ) );
     EXPECT_DEATH( telsxHeaderContactDelContactAt( hdr.address(), 0 ), "index" );
 
-    // A value takes the place of the star, and the star that of the values.
+    // A value replaces the star, and the star replaces the values.
     for ( auto *add : { telsxHeaderContactAppendContact, telsxHeaderContactPrependContact,
                         +[]( TELSX_HEADER_CONTACT *to, TELSX_CONTACT value )
                         { telsxHeaderContactInsertContact( to, 0, value ); } } )
@@ -319,8 +319,8 @@ TEST( Lists, ContactIsAStarOrAList )
     EXPECT_ABORT( telsxHeaderContactSetStarForm( &none, 1 ), "*hdr" );
 }
 
-// A Via header keeps its first value decoded. It must be what the value's text is decoded to, also where a decoder
-// that looks for names stops inside of what a skipper takes for a value.
+// A Via header keeps its first value decoded. It must be what the value's text decodes to, even if a decoder that looks
+// for names stops inside what a skipper takes for a value.
 TEST( ViaList, KeepsItsFirstValueAsItsTextIsDecoded )
 {
     struct

@@ -1,4 +1,4 @@
-// What messages and their headers hold of memory, and the end of a process that has no more.
+// How much memory messages and their headers hold, and the end of a process that runs out of it.
 #include <sys/wait.h>
 
 #include "../../bench/heap.hpp"
@@ -79,7 +79,7 @@ TEST( Memory, OfWhatIsDeletedIsUsedAgain )
     EXPECT_GE( heap::allocationsLeft.exchange( INT64_MAX ), 99'900 );
 }
 
-// The message behind a way on which everything allocates.
+// The message after a trip through everything that allocates.
 static Ref<RT_BUFFER> travel( std::string_view wire )
 {
     headers::Message message = decoded( wire );
@@ -90,7 +90,7 @@ static Ref<RT_BUFFER> travel( std::string_view wire )
     return adopt( telsxMessageEncode( message.get() ) );
 }
 
-// In a thread of its own, which has no blocks left from before.
+// In a thread of its own, which has no blocks left over.
 static void travelWith( int64_t allocations, std::string_view wire, const Ref<RT_BUFFER> &expected )
 {
     auto inThread = [&]
@@ -104,8 +104,8 @@ static void travelWith( int64_t allocations, std::string_view wire, const Ref<RT
     std::thread( inThread ).join();
 }
 
-// Each allocation on the way is once the first that fails. One is glibc's own, which remembers what is to be
-// done at the end of a thread.
+// Each allocation on the trip is once the first to fail. One is glibc's own, which remembers what to do at the end of a
+// thread.
 TEST( Memory, WhoRunsOutOfItAborts )
 {
     if ( !heap::isMeasured )

@@ -12,8 +12,8 @@ static std::string canonical( std::string_view name )
 
 TEST( MessageHeaderName, HasOneCanonicalForm )
 {
-    // Capitals stand at the start and behind each hyphen, whatever the RFC writes; a single letter that is no
-    // compact form is a name like others.
+    // Capitals are at the start and after each hyphen, whatever the RFC writes; a single letter that is not a compact
+    // form is an ordinary name.
     for ( const std::string &pair : words(
               "CSeq=Cseq CSEQ=Cseq call-ID=Call-Id Min-SE=Min-Se RAck=Rack WWW-Authenticate=Www-Authenticate "
               "P-Asserted-Identity=P-Asserted-Identity x-a_b.c=X-A_b.c -abc=-Abc a--b=A--B a-=A- -=- "
@@ -33,7 +33,7 @@ TEST( MessageHeaderName, HasOneCanonicalForm )
     }
 }
 
-// The canonical form of a known name, empty for another one; both ways to find it must agree.
+// The canonical form of a known name, empty for any other; both ways to find it must agree.
 static std::string knownForm( std::string name )
 {
     int64_t number = telsx::knownNameNumber( name.data(), name.size() );
@@ -42,7 +42,7 @@ static std::string knownForm( std::string name )
     return std::string( number == -1 ? "" : telsx::knownNames[number].bytes );
 }
 
-// The table of constants gives what the rules give, for each name in it and in any case.
+// The table of constants agrees with the rules, for each name in it and in any case.
 TEST( MessageHeaderName, IsAConstantIfKnown )
 {
     for ( const telsx::KnownName &known : telsx::knownNames )
@@ -160,7 +160,7 @@ TEST( MessageHeaderStore, RestoresTheSameHeader )
     EXPECT_EQ( headers[3], adopt( telsxMessageHeaderRestoreLinesWcstr( L"v", -1, lines.get() ) ) );
 }
 
-// Words key=value; a key that begins with "lines." is one of the store of lines, and {} an empty store.
+// Words key=value; a key that begins with "lines." belongs to the store of lines, and {} is an empty store.
 static Ref<RT_STORE> storeOf( const std::string &entries )
 {
     Ref<RT_STORE> store = adopt( rtStoreCreate() ), lines = store;

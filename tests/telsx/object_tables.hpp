@@ -1,5 +1,4 @@
-// Tables for objects that are read from text and written as text: what they read, how they sort, what their
-// setters do.
+// Tables for objects that are read from text and written as text: what they read, how they sort, what their setters do.
 #pragma once
 
 #include <functional>
@@ -18,10 +17,10 @@ inline bool isAmong( std::string_view name, const char *names )
     return std::find( all.begin(), all.end(), name ) != all.end();
 }
 
-// Texts of the types named, blanks between the names: those that are written as they are read, those that are written
-// otherwise, and bad ones. The front stands before each of them. Of headers, @lists and @sets are all of that shape, @ with
-// the name of a value or element is all lists and sets of it, and those with an exclamation mark are left out; their lines
-// stand with line feeds between them; null is no lines, and so is an empty text that is written.
+// Texts of the types named, with blanks between the names: those that are written as they are read, those that are
+// written differently, and bad ones. Each text is preceded by the front. For headers, @lists and @sets are all of that
+// shape, @ with the name of a value or element is all lists and sets of it, and those with an exclamation mark are left
+// out. The lines of a header have line feeds between them; null means no lines, as does an empty text that is written.
 struct Texts
 {
     const char *names, *front;
@@ -40,7 +39,7 @@ struct Texts
 };
 extern const std::vector<Texts> valueTexts, headerTexts;
 
-// A good text of the elements named, its normal form and a bad text.
+// A good text for the elements named, its normal form and a bad text.
 struct Sample
 {
     const char *names, *good, *normal, *bad;
@@ -104,7 +103,7 @@ inline std::string write( const headers::Kind &kind, const Ref<RT_OBJ> &hdr )
     return linesOf( adopt( kind.encode( hdr.get() ) ) );
 }
 
-// A property that doesn't hold of the text, or of one that it begins with.
+// A property that does not hold for the text, or for a text that it begins with.
 inline const char *broken( const values::Type &type, const OptionalText &text )
 {
     Ref<RT_STRING> whole = str( *text );
@@ -118,7 +117,7 @@ inline const char *broken( const headers::Kind &kind, const OptionalText &lines 
     return headers::broken( kind, rawHeader( kind.name, lines ) );
 }
 
-// Calls the test with each text and what is expected to be written, if it is good.
+// Calls the test with each text and, if it is good, with what should be written.
 template <class TEST>
 void forEach( const Texts &texts, TEST test )
 {
@@ -141,8 +140,7 @@ inline std::string firstText( const std::vector<Texts> &tables, const std::strin
     return {};
 }
 
-// Each type of the list must have good texts and bad ones. No text does harm to a type that it isn't meant
-// for.
+// Each type of the list must have good and bad texts. No text does harm to a type that it is not meant for.
 template <class LIST>
 void expectTexts( const LIST &list, const std::vector<Texts> &tables, const char *file )
 {
@@ -168,7 +166,7 @@ void expectTexts( const LIST &list, const std::vector<Texts> &tables, const char
     }
 }
 
-// The texts in ascending order: each makes an object that comes before those of all texts behind it.
+// The texts in ascending order: each makes an object that sorts before those of all texts after it.
 template <class TYPE>
 void expectAscending( const TYPE &type, const std::vector<const char *> &texts )
 {

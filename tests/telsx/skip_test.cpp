@@ -1,4 +1,4 @@
-// Character classes, and what the skippers measure.
+// Character classes, and what the skippers match.
 #include "../../fuzz/elements.hpp"
 #include "telsx/telsx_support.hpp"
 
@@ -81,7 +81,7 @@ TEST( Skip, NestsCommentsWithoutLimit )
     EXPECT_EQ( 0, applied( telsx___SkipComment, open + close.substr( 1 ) ) );
 }
 
-// Only letters of ASCII have two cases.
+// Only ASCII letters have two cases.
 TEST( Skip, FoldsLetters )
 {
     for ( auto [text, skipped, length] : { std::tuple( "vIa:", "ViA", 3 ),
@@ -117,7 +117,7 @@ TEST( Skip, NamesOfDates )
     expectNames( telsx___SkipWkday, 0, "Mon Tue Wed Thu Fri Sat Sun" );
 }
 
-// What all of them ask of their text is shown in tests/aborts.
+// What all of them require of their text is tested in tests/aborts.
 TEST( Skip, AbortsForBrokenContracts )
 {
     RT_CHAR ch = 'a';

@@ -1,4 +1,4 @@
-// Messages out of a byte stream.
+// Messages from a byte stream.
 #include "telsx_support.hpp"
 
 using namespace support;
@@ -6,7 +6,7 @@ using namespace support;
 namespace
 {
 
-// Writes pieces, reads what comes, and notes behind how many bytes it came.
+// Writes pieces, reads what comes, and notes after how many bytes it came.
 struct Reader
 {
     Ref<TELSX_MESSAGE_STREAM_DECODER> decoder = adopt( telsxMessageStreamDecoderCreate() );
@@ -66,7 +66,7 @@ TEST( Stream, GivesTheSameMessagesHoweverItIsCut )
           "A b:c D/1 | Content-Length: <1> | body <x>\nA b:c D/1 | Content-Length: <1> | body <y>\n11",
           { 20, 40 } },
         { "A b:c D/1\r\nl: 9\r\n v: 9\r\n\r\n", "latch", {} },
-        // A head must be good, have Content-Length, and begin with a start line.
+        // A head must be valid, have Content-Length, and begin with a start line.
         { "A b:c D/1\r\n\r\n", "latch", {} },
         { "A b:c D/1\r\nl: 0\r\n\r\nA b:c D/1\r\nl: -1\r\n\r\nA b:c D/1\r\nl: 0\r\n\r\n",
           "A b:c D/1 | Content-Length: <0> | body <>\nlatch",

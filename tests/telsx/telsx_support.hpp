@@ -34,7 +34,7 @@ inline std::string dump( TELSX_MESSAGE_HEADER header )
     return text;
 }
 
-// The start line, "-" for none, then headers and body, each behind a bar.
+// The start line, "-" for none, then headers and body, each after a bar.
 inline std::string dump( TELSX_MESSAGE_FRAGMENT frag )
 {
     if ( !frag )
@@ -65,7 +65,7 @@ inline std::string dump( TELSX_MESSAGE msg )
     return msg ? dump( adopt( telsxMessageFragment( msg ) ).get() ) : "(null)";
 }
 
-// A fragment or a message of wire text.
+// A fragment or a message made from wire text.
 inline Ref<TELSX_MESSAGE_FRAGMENT> fragment( std::string_view wire )
 {
     return adopt( telsxMessageFragmentTryDecode( buffer( wire ).get() ) );

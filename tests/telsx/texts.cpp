@@ -1,4 +1,4 @@
-// The tables of texts, once for all tests.
+// The tables of texts, compiled once for all tests.
 #include "telsx/object_tables.hpp"
 
 const std::vector<support::Texts> support::valueTexts = {

@@ -17,7 +17,7 @@ TEST( Values, AbortForNullText )
     }
 }
 
-// Neighbours differ in one field and against it in those behind it.
+// Neighbours differ in one field, and in the opposite direction in the fields after it.
 TEST( Values, SortByTheirFields )
 {
     struct

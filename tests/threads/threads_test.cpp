@@ -1,4 +1,4 @@
-// Threads that share objects without a lock: each reads them, and changes copies of its own.
+// Threads that share objects without a lock: each reads them, and changes its own copies.
 #include <thread>
 
 #include "telsx/object_tables.hpp"
@@ -6,7 +6,7 @@
 
 using namespace support;
 
-// Calls the test with the number of the thread in each of eight.
+// Calls the test in each of eight threads with the thread's number.
 template <class TEST>
 static void inThreads( TEST test )
 {
@@ -43,7 +43,7 @@ TEST( Threads, ShareHeadersOfAllKinds )
         } );
 }
 
-// Each thread puts a text of its own into copies of the object.
+// Each thread puts its own text into copies of the object.
 template <class HANDLE, class TEXT, class CHANGE>
 static void shareObject( const Ref<HANDLE> &shared, TEXT textOf, CHANGE change )
 {
@@ -68,7 +68,7 @@ static void shareObject( const Ref<HANDLE> &shared, TEXT textOf, CHANGE change )
 TEST( Threads, ChangeCopiesOfWhatTheyShare )
 {
     auto textOf = []( auto object ) { return utf8( rtObjToString( rt::asObj( object ) ) ); };
-    // A dictionary out of which something was deleted keeps account of where a reader is.
+    // A dictionary from which something was deleted records the position of a reader.
     auto params = adopt( applied( telsx___GenericParamsTryDecode, ";a;b=c;d" ) );
     telsxGenericParamsDelParamCstr( params.address(), "a", -1 );
     shareObject( params, textOf,
@@ -125,6 +125,6 @@ TEST( Threads, ChangeCopiesOfAMessage )
                                     + "> | From: <d> | body <body>",
                                 dump( *msg ) );
                  } );
-    // None of them changed the version that all share.
+    // None of them changed the version that they all share.
     EXPECT_EQ( "SIP/2.0", utf8( telsxVersionToString( adopt( telsxVersionCreateSip20() ).get() ) ) );
 }
