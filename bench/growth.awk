@@ -47,7 +47,7 @@ END {
     if ( failed || !families ) { print failed >"/dev/stderr"; exit 1 }
 }
 
-# The picture: five panels on log-log paper, a line for each family with its name at the end.
+# The picture: five panels with logarithmic axes, a line for each family with its name at the end.
 
 function put( text ) { print text >svg }
 
@@ -74,7 +74,7 @@ function range( p,    f, n, value )
     high = 10 ^ ( int( log( high ) / log( 10 ) - 1e-9 ) + 1 )
 }
 
-# The families in the order of their last points, and where each name stands: not nearer than a line to the next.
+# The families in the order of their last points, and where each name goes: at least one line from the next.
 function placeNames( p,    f, g, swap )
 {
     for ( f = 1; f <= families; ++f ) order[f] = f

@@ -1,4 +1,4 @@
-# How everything of the project is compiled, and the function that makes one of its libraries and installs it.
+# How everything in the project is compiled, and the function that makes and installs one of its libraries.
 
 include( GNUInstallDirs )
 
@@ -24,8 +24,8 @@ set( CMAKE_BUILD_RPATH_USE_ORIGIN ON )
 set( unoptimised "$<BOOL:$<TARGET_PROPERTY:CORVANE_UNOPTIMISED>>" )
 target_compile_options( corvane-flags INTERFACE "$<${unoptimised}:-O0>" )
 
-# What hardens a build that is optimised. Where all functions of other libraries are looked up on load, calls need not go
-# through a table of stubs, which makes up for most of the cost. The sanitizers bring their own versions of what is checked.
+# Hardening of optimised builds. Since all functions of other libraries are looked up on load, calls need not go through
+# a table of stubs, which makes up for most of the cost. The sanitizers bring their own versions of what is checked.
 set( optimised "$<AND:$<CONFIG:Release,RelWithDebInfo,MinSizeRel>,$<NOT:${unoptimised}>>" )
 if( NOT CORVANE_SANITIZE )
     target_compile_options( corvane-flags INTERFACE
@@ -44,7 +44,7 @@ if( CORVANE_SANITIZE )
     target_link_options( corvane-flags INTERFACE "-fsanitize=${CORVANE_SANITIZE}" )
 endif()
 
-# Headers stand below a folder of ours, because <net/...> is the system's too.
+# Headers are below our own folder, because <net/...> is also the system's.
 set( CORVANE_INCLUDE "${CMAKE_INSTALL_INCLUDEDIR}/corvane" )
 
 # corvane_library( rt OUTPUT name SUMMARY text NEEDS ... PRIVATE_NEEDS ... ) makes the shared library of source/rt, which
@@ -57,8 +57,8 @@ function( corvane_library NAME )
     target_include_directories( ${NAME} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>" )
     target_link_libraries( ${NAME} PUBLIC ${ARG_NEEDS}
         PRIVATE "$<BUILD_INTERFACE:corvane-flags>" ${ARG_PRIVATE_NEEDS} )
-    # Nobody replaces functions of the libraries, so that they may be bound and inlined inside. The one exception is
-    # rt___Abort; a program's own may throw, which takes the tables for unwinding.
+    # Nobody replaces functions of the libraries, so they may be bound and inlined inside. The one exception is
+    # rt___Abort; a program's own may throw, which needs the unwind tables.
     target_compile_options( ${NAME} PRIVATE -fno-exceptions -fno-rtti -fno-semantic-interposition
         -fasynchronous-unwind-tables )
     target_link_options( ${NAME} PRIVATE -Wl,-Bsymbolic-functions )

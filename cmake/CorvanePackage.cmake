@@ -4,7 +4,7 @@ include( CMakePackageConfigHelpers )
 
 set( package "${CMAKE_INSTALL_LIBDIR}/cmake/telsx" )
 install( EXPORT telsx NAMESPACE corvane:: FILE telsxConfig.cmake DESTINATION "${package}" COMPONENT development )
-# As the sonames have it, releases of one major version fit each other.
+# Like the sonames: releases of one major version are compatible.
 write_basic_package_version_file( "${PROJECT_BINARY_DIR}/telsxConfigVersion.cmake" COMPATIBILITY SameMajorVersion )
 install( FILES "${PROJECT_BINARY_DIR}/telsxConfigVersion.cmake" DESTINATION "${package}" COMPONENT development )
 
@@ -12,7 +12,7 @@ if( NOT CORVANE_PACKAGES )
     return()
 endif()
 
-# cpack itself complains only after the build, or leaves the dependencies out.
+# cpack itself complains only after the build, or omits the dependencies.
 foreach( program IN ITEMS dpkg-shlibdeps file gzip )
     find_program( path "${program}" NO_CACHE )
     if( NOT path )
@@ -70,7 +70,7 @@ pkg-config need." )
 set( CPACK_DEB_COMPONENT_INSTALL ON )
 set( CPACK_DEBIAN_FILE_NAME DEB-DEFAULT )
 set( CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON )
-# Programs that were built with an older version of the same soname go on working.
+# Programs that were built with an older version of the same soname keep working.
 set( CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=" )
 set( CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "${runtime}" )
 set( CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs )
@@ -78,7 +78,7 @@ set( CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON )
 set( CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtelsx-dev )
 set( CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel )
 set( CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} (= ${PROJECT_VERSION})" )
-# The loader's cache is renewed by a trigger, so the scripts that cpack writes for it are taken out again.
+# A trigger renews the loader's cache, so the scripts that cpack writes for it are removed again.
 file( WRITE "${documents}/triggers" "activate-noawait ldconfig\n" )
 set( CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${documents}/triggers" )
 set( CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_STRICT_PERMISSION ON )

@@ -1,4 +1,4 @@
-# Takes the maintainer scripts out of the Debian packages that cpack has made.
+# Removes the maintainer scripts from the Debian packages that cpack has made.
 foreach( package IN LISTS CPACK_PACKAGE_FILES )
     set( folder "${CPACK_TEMPORARY_DIRECTORY}/repacked" )
     file( REMOVE_RECURSE "${folder}" )

@@ -1,5 +1,5 @@
-# What the module record says of the build. The time is SOURCE_DATE_EPOCH where that is set, else the time of the
-# last commit, so that two builds of one tree are the same byte for byte; without either it is the current time.
+# What the module record says about the build. The time is SOURCE_DATE_EPOCH if that is set, else the time of the last
+# commit, so that two builds of one tree are identical byte for byte; without either it is the current time.
 
 set( TELSX_VENDOR "the telsx project" CACHE STRING "The vendor's name in the module record" )
 set( TELSX_LEGAL_NOTICE "Copyright the telsx project" CACHE STRING "The legal notice in the module record" )

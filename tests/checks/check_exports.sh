@@ -4,8 +4,8 @@
 set -euo pipefail
 export LC_ALL=C # which is how the lists are sorted
 
-# The functions and variables that the headers of a library declare. The compiler takes out comments, macros and
-# attributes; of what is left, declarations end in semicolons, and a name stands in front of the first parenthesis.
+# The functions and variables that the headers of a library declare. The compiler removes comments, macros and
+# attributes; in the rest, declarations end with semicolons, and a name is before the first parenthesis.
 declared()
 {
     ( cd "$source" && printf '#include "%s"\n' "$1"/*.h ) |

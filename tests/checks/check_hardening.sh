@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # The libraries are hardened as they are built: nothing that the loader fills stays writable, no stack is executable,
-# stack and buffers are guarded. No code runs on load, and no variable is there that isn't named here.
+# stack and buffers are guarded. No code runs on load, and there is no variable that isn't named here.
 # usage: check_hardening.sh LIBRARY=FILE...     such as rt=build/release/lib/libcorvane-rt.so
 set -euo pipefail
 
-# All that a library may write to and that outlives a call.
+# Everything that a library may write to and that outlives a call.
 declare -A variables=(
     # The free blocks of each thread, the modules that run and their lock, the seed of the dictionaries, and whether the
     # processor has vectors.
@@ -24,7 +24,7 @@ shortToLongDict
 telsx___VersionSip20"
 )
 
-# What a library calls where the compiler put guards in: rt prints, and all work on arrays on the stack.
+# What a library calls where the compiler added guards: rt prints, and all work on arrays on the stack.
 declare -A guards=( [rt]="__fprintf_chk __stack_chk_fail" [net]=__stack_chk_fail [rsc]=__stack_chk_fail
     [telsx]=__stack_chk_fail )
 

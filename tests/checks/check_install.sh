@@ -25,7 +25,7 @@ libraries=$( dirname "$( find "$PWD" -name libtelsx.so )" )
 for library in "$libraries"/*.so; do
     ! readelf -d "$library" | grep -E 'R(UN)?PATH' | grep -vF '[$ORIGIN]' || fail "$library searches elsewhere"
 done
-# The dynamic linker finds those of a package by itself, once they are below /usr; others find each other.
+# The dynamic linker finds the libraries of a package by itself once they are below /usr; others find each other.
 case $3 in *.deb) export LD_LIBRARY_PATH=$libraries ;; esac
 
 export PKG_CONFIG_PATH=$libraries/pkgconfig

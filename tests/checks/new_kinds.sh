@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A set, a list and a value with its header are added to a copy of the tree in the steps of CONTRIBUTING.md, and in no
-# others; the tests of the copy must pass, and the new units must be as short as they are told to be.
+# others; the tests of the copy must pass, and the new units must be as short as promised.
 # usage: new_kinds.sh ROOT
 set -euo pipefail
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The documents tell the truth: their C code compiles, prints what stands behind it and leaves no object behind; the
-# functions that they name are there; docs/headers.md has all kinds of headers and values with all their fields.
+# The documents are true: their C code compiles, prints the text that follows it and leaves no object behind; the
+# functions that they name exist; docs/headers.md has all kinds of headers and values with all their fields.
 # usage: run_documents.sh CC ROOT LIBRARY...
 set -euo pipefail
 
@@ -9,7 +9,7 @@ scratch=$( mktemp -d )
 trap 'rm -rf "$scratch"' EXIT
 cd "$root"
 
-# The n-th block of C code in a document becomes <document>-<n>.c, the block of text behind it <document>-<n>.text.
+# The n-th block of C code in a document becomes <document>-<n>.c, the block of text after it <document>-<n>.text.
 for document in README.md docs/cookbook.md docs/accepts.md; do
     awk -v to="$scratch/$( basename "$document" .md )" '
         /^```c$/    { base = sprintf( "%s-%02d", to, ++n ); file = base ".c"; printf "" >file; next }
@@ -18,7 +18,7 @@ for document in README.md docs/cookbook.md docs/accepts.md; do
         file        { print >file }' "$document"
 done
 
-# A block that is no whole program stands in the place of the comment in the first one of the cookbook.
+# A block that is not a whole program replaces the comment in the first program of the cookbook.
 frame=$scratch/cookbook-01.c
 cat >"$scratch/leaks.c" <<'END'
 #include <stdio.h>
@@ -49,7 +49,7 @@ for code in "$scratch"/*-*.c; do
             diff -u --label "the text behind it" "$base.text" --label "printed by ${base##*/}" - || failed=1
 done
 
-# What the documents name, which may be the beginning of a name, is there.
+# What the documents name, which may be the beginning of a name, exists.
 nm -D --defined-only "${libraries[@]}" | awk '/ T / { print $NF }' >"$scratch/exported"
 grep -ohE '\b(telsx|rt|net|rsc)[A-Z][A-Za-z0-9]*' README.md docs/*.md | sort -u | while read -r name; do
     grep -q "^$name" "$scratch/exported" || { echo "the documents name $name, which is not there"; exit 1; }

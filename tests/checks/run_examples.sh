@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The examples do what they say, on good input and on bad.
+# The examples do what they promise, on good and bad input.
 # usage: run_examples.sh DECODE STREAM HOP CALL KINDS     where KINDS is telsx_headers.def
 set -euo pipefail
 
@@ -17,7 +17,7 @@ expect()
 fail() { echo "$1"; cat "$scratch/out" "$scratch/err"; exit 1; }
 prints() { grep -qxF -- "$1" "$scratch/out" || fail "nothing prints: $1"; }
 prints_nothing_like() { ! grep -q -- "$1" "$scratch/out" || fail "something prints: $1"; }
-# The lines of the text stand in this order, each as often as here, whatever is between them.
+# The lines of the text occur in this order, each as often as here, whatever is between them.
 prints_in_order() { diff <( grep -xF -- "$1" "$scratch/out" ) - <<<"$1" || fail "the lines above differ"; }
 one_complaint() { [ "$( wc -l <"$scratch/err" )" = 1 ] && [ ! -s "$scratch/out" ] || fail "that is not one line of error"; }
 
@@ -137,7 +137,7 @@ cp "$scratch/bytes" "$scratch/twice"
 "$hop" 2>/dev/null | "$hop" --host '[2001:db8::1]' --source 2001:db8::2 5060 - 2>/dev/null | diff "$scratch/twice" - ||
     fail "the same request does not make the same"
 
-# Routes: loose ones, a strict router before the proxy, one behind it.
+# Routes: loose ones, a strict router before the proxy, one after it.
 hops 'INVITE sip:b@b' 'Route: <sip:PROXY.example.com:5070;x=1;lr?y=2>'
 prints "INVITE sip:b@b SIP/2.0"
 prints "Max-Forwards: 70"
@@ -155,7 +155,7 @@ prints_in_order "\
 Route: <sip:d;lr>
 Route: <sip:b@b>"
 
-# What the proxy writes itself: its Via goes by the next address, and nobody tells it where a request came from.
+# What the proxy writes itself: its Via depends on the next address, and nobody tells it where a request came from.
 hops 'REGISTER sip:b' 'Route: <sip:proxy.example.com;lr>, <sip:c;transport=TCP;lr>'
 grep -q '^Via: SIP/2.0/TCP proxy' "$scratch/out" || fail "the Via is not for the next address"
 prints_nothing_like '^Record-Route'

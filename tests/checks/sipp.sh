@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# SIPp calls the example answer: many calls by UDP and TCP, calls that are given up, OPTIONS, REGISTER. Then come bytes
-# that are no SIP, and answer still answers.
+# SIPp calls the example answer: many calls by UDP and TCP, abandoned calls, OPTIONS, REGISTER. Then come bytes that are
+# not SIP, and answer still answers.
 # usage: sipp.sh ANSWER ROOT      exits with 77 where there is no sipp
 set -euo pipefail
 
@@ -26,7 +26,7 @@ start()
     fail "answer doesn't start"
 }
 
-# It ends well: nothing has stopped it, and a sanitizer has nothing to say.
+# It ends well: nothing has stopped it, and a sanitizer has nothing to report.
 stop()
 {
     kill "$pid"
@@ -35,7 +35,7 @@ stop()
     [ ! -s answer.err ] || fail "answer complains"
 }
 
-# use NAME TRANSPORT ARGUMENT...: sipp does what the arguments say and counts in NAME.csv; all its calls are good.
+# use NAME TRANSPORT ARGUMENT...: sipp does what the arguments say and counts in NAME.csv; all its calls succeed.
 use()
 {
     sipp "127.0.0.1:$port" -i 127.0.0.1 -t "$2" -nostdin -rtcheck loose -timeout 90 -timeout_error "${@:3}" \
@@ -82,7 +82,7 @@ expect()
 # bound NUMBER HEADER...: the contacts that are bound when the REGISTER with these headers has been answered.
 bound() { ask 'REGISTER sip:b SIP/2.0' "CSeq: $1 REGISTER" "${@:2}" | sed -n 's/^Contact: \(<.*>\).*/\1/p' | tr -d '\n'; }
 
-# send udp|tcp FILE: a datagram or a connection with these bytes, whether the other side reads all of them or not.
+# send udp|tcp FILE: a datagram or a connection with these bytes, whether or not the other side reads all of them.
 send() { cat "$2" >"/dev/$1/127.0.0.1/$port" || true; } 2>/dev/null
 
 broken_messages()
