@@ -84,6 +84,9 @@ RT_API void rtStringSetCharAt( RT_STRING *string, int64_t index, RT_CHAR ch );
 RT_API void rtStringToLower( RT_STRING *string );
 RT_API void rtStringToUpper( RT_STRING *string );
 
+/* The upper case of a character: 1 and the code point in mapping, or 0 if it has none of its own. */
+RT_API int64_t rt___UnicodeUpperCaseDbLookup( RT_CHAR ch, RT_CHAR *mapping );
+
 /* The pieces between the delimiters, as a new vector of strings: at most maxParts, of which the last keeps
  * all further delimiters; -1 for no limit. The empty text is one empty piece, and a delimiter at the end
  * leaves an empty piece behind it. An empty delimiter and a maxParts of 0 abort. */

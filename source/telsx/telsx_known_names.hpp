@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
 
@@ -22,14 +23,11 @@ struct KnownName
     std::string_view bytes;
 };
 
-constexpr char lowerAscii( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
-constexpr char upperAscii( char ch ) { return ch >= 'a' && ch <= 'z' ? static_cast<char>( ch - 0x20 ) : ch; }
-
 // What stands at a place of a canonical name whose character there, in any case, is ch, after the character before: a
 // capital at the start and after each hyphen.
 constexpr char canonicalAscii( char before, char ch )
 {
-    return before == '-' ? upperAscii( ch ) : lowerAscii( ch );
+    return before == '-' ? rt::upperAscii( ch ) : rt::lowerAscii( ch );
 }
 
 // The bytes of a name and of its spelling in lower case, with slack.
@@ -47,7 +45,7 @@ struct NameBytes
             if ( ch != canonicalAscii( before, ch ) )
                 std::abort(); // the name is not canonical
             canonical[i] = before = ch;
-            lower[i] = lowerAscii( ch );
+            lower[i] = rt::lowerAscii( ch );
         }
     }
 };

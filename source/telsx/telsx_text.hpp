@@ -5,6 +5,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx_frame.hpp"
@@ -115,8 +116,7 @@ bool isThere( const RT_CHAR *chs, std::index_sequence<AT...> )
 template <rt::Ascii WORD, std::size_t... AT>
 bool isThereInAnyCase( const RT_CHAR *chs, std::index_sequence<AT...> )
 {
-    auto isLetter = []( RT_CHAR ch ) { return ch >= 'a' && ch <= 'z'; };
-    return ( ( ( isLetter( WORD.chs[AT] ) ? chs[AT] | 0x20 : chs[AT] ) == WORD.chs[AT] ) && ... );
+    return ( ( ( rt::isLetter( WORD.chs[AT] ) ? chs[AT] | 0x20 : chs[AT] ) == WORD.chs[AT] ) && ... );
 }
 template <rt::Ascii WORD>
 bool equals( Text text )
