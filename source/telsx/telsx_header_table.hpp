@@ -6,6 +6,7 @@
 #include <bitset>
 #include <string_view>
 
+#include "telsx/telsx_bytes.hpp"
 #include "rt/rt_memory.hpp"
 #include "telsx/telsx_frame.hpp"
 #include "telsx/telsx_known_names.hpp"
@@ -14,43 +15,6 @@
 
 namespace telsx
 {
-
-// A span of bytes on their way in.
-using Bytes = std::string_view;
-
-inline Bytes bytesOf( RT_BUFFER buffer )
-{
-    return { static_cast<const char *>( rtBufferBacking( buffer ) ),
-             static_cast<std::size_t>( rtBufferLength( buffer ) ) };
-}
-
-inline Ref<RT_BUFFER> bufferOf( Bytes bytes )
-{
-    return adopt( rtBufferCreateFromBytesCopy( bytes.data(), lengthOf( bytes ) ) );
-}
-
-// The text of bytes that are known to be UTF-8, or even ASCII. A short one stands in the object.
-class WideText
-{
-public:
-    Text read( Bytes bytes, bool isAscii )
-    {
-        if ( !isAscii || lengthOf( bytes ) > mostChars )
-            return readOther( bytes );
-        rt::widen( bytes.data(), lengthOf( bytes ), chs );
-        return { chs, lengthOf( bytes ) };
-    }
-
-private:
-    static constexpr int64_t mostChars = 256;
-
-    Text readOther( Bytes bytes );
-
-    Ref<RT_STRING> string;
-    RT_CHAR chs[mostChars + rt::scanSlack];
-};
-
-constexpr Bytes lineEnd = "\r\n", headEnd = "\r\n\r\n";
 
 // A canonical name and its number among the known names, whose name is a constant then, or -1.
 struct HeaderName

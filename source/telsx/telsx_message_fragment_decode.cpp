@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "rsc/rsc.h"
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
