@@ -8,6 +8,7 @@
 #include "telsx/telsx_generic_params.hpp"
 #include "telsx/telsx_text.hpp"
 
+#include "telsx/telsx_text_forms.hpp"
 using namespace telsx;
 
 TELSX_DEFINE_OBJECT( GenericParams, GENERIC_PARAMS, telsx___GenericParamsFreeFunc,
@@ -169,41 +170,10 @@ void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS para
 
 // What takes a name, with the name as 8-bit and as wide characters
 
-#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
-    TELSX_GENERIC_PARAM telsxGenericParamsParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,      \
-                                                         int64_t length )                                    \
-    {                                                                                                        \
-        return telsxGenericParamsParam( params, text( name, length ).get() );                                \
-    }                                                                                                        \
-    RT_BOOL telsxGenericParamsHasParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,               \
-                                                int64_t length )                                             \
-    {                                                                                                        \
-        return telsxGenericParamsHasParam( params, text( name, length ).get() );                             \
-    }                                                                                                        \
-    void telsxGenericParamsDelParam##SUFFIX( TELSX_GENERIC_PARAMS *params, const CHAR *name,                 \
-                                             int64_t length )                                                \
-    {                                                                                                        \
-        telsxGenericParamsDelParam( params, text( name, length ).get() );                                    \
-    }                                                                                                        \
-    int64_t telsxGenericParamsParamValueType##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,         \
-                                                      int64_t length )                                       \
-    {                                                                                                        \
-        return telsxGenericParamsParamValueType( params, text( name, length ).get() );                       \
-    }                                                                                                        \
-    RT_STRING telsxGenericParamsParamValueNormalized##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name, \
-                                                              int64_t length )                               \
-    {                                                                                                        \
-        return telsxGenericParamsParamValueNormalized( params, text( name, length ).get() );                 \
-    }                                                                                                        \
-    RT_STRING telsxGenericParamsParamValueNonNormalized##SUFFIX( TELSX_GENERIC_PARAMS params,                \
-                                                                 const CHAR *name, int64_t length )          \
-    {                                                                                                        \
-        return telsxGenericParamsParamValueNonNormalized( params, text( name, length ).get() );              \
-    }                                                                                                        \
-    void telsxGenericParamsSetParamValue##SUFFIX( TELSX_GENERIC_PARAMS *params, const CHAR *name,            \
-                                                  int64_t length, int64_t type, RT_STRING value )            \
-    {                                                                                                        \
-        telsxGenericParamsSetParamValue( params, text( name, length ).get(), type, value );                  \
-    }
-TEXT_VARIANTS( Cstr, char )
-TEXT_VARIANTS( Wcstr, wchar_t )
+TELSX_DEFINE_TEXT_FORMS( TELSX_GENERIC_PARAM, GenericParamsParam, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_BOOL, GenericParamsHasParam, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( void, GenericParamsDelParam, (TELSX_GENERIC_PARAMS *), () )
+TELSX_DEFINE_TEXT_FORMS( int64_t, GenericParamsParamValueType, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_STRING, GenericParamsParamValueNormalized, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_STRING, GenericParamsParamValueNonNormalized, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( void, GenericParamsSetParamValue, (TELSX_GENERIC_PARAMS *), ( int64_t, RT_STRING ) )
