@@ -5,9 +5,10 @@
 #include "telsx/telsx_generic_param_name.h"
 #include "telsx/telsx_host.h"
 #include "telsx/telsx_quotable_string.h"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
-
 #include "telsx/telsx_text_forms.hpp"
+
 using namespace telsx;
 
 TELSX_DEFINE_OBJECT( GenericParam, GENERIC_PARAM, telsx___GenericParamFreeFunc,

@@ -6,9 +6,10 @@
 #include "telsx/telsx_generic_param.hpp"
 #include "telsx/telsx_generic_param_name.h"
 #include "telsx/telsx_generic_params.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
-
 #include "telsx/telsx_text_forms.hpp"
+
 using namespace telsx;
 
 TELSX_DEFINE_OBJECT( GenericParams, GENERIC_PARAMS, telsx___GenericParamsFreeFunc,

@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <bitset>
-#include <string_view>
 
 #include "telsx/telsx_bytes.hpp"
 #include "rt/rt_memory.hpp"

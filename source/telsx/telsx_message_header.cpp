@@ -2,9 +2,10 @@
 #include "telsx/telsx_message_header.h"
 
 #include "telsx/telsx_message_header.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
-
 #include "telsx/telsx_text_forms.hpp"
+
 using namespace telsx;
 
 TELSX_DEFINE_OBJECT( MessageHeader, MESSAGE_HEADER, telsx___MessageHeaderFreeFunc,

@@ -17,7 +17,6 @@
 #include "telsx/telsx_reason_protocol.h"
 #include "telsx/telsx_text.hpp"
 #include "telsx/telsx_transport.h"
-#include "telsx/telsx_warn_agent.h"
 
 using namespace telsx;
 
@@ -474,7 +473,7 @@ int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipWarnAgent( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return skipAny( { chs, length }, telsx___SkipHostPort, telsx___SkipPseudonym );
+    return skipAny( { chs, length }, telsx___SkipHostPort, telsx___SkipToken );
 }
 
 int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length )

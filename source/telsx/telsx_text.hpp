@@ -9,7 +9,6 @@
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx_frame.hpp"
-#include "telsx/telsx_skip.h"
 
 namespace telsx
 {
@@ -149,13 +148,6 @@ RT_STRING findWordInAnyCase( Text text )
               && ( found = literal<WORD>() ) )
             || ... );
     return found;
-}
-
-// The length of the word if the text begins with it, its letters in any case, else 0.
-inline int64_t skipWordInAnyCase( Text text, RT_STRING word )
-{
-    return telsx___SkipCharsAsciiCaseFold( text.chs, text.length, rtStringBacking( word ),
-                                           rtStringLength( word ) );
 }
 
 // Elements with single dots between them; a dot that no element follows is left alone.
