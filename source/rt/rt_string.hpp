@@ -92,7 +92,7 @@ inline constexpr RT_STRING_ literalObject = {
 };
 
 template <Ascii TEXT>
-RT_STRING literal()
+constexpr RT_STRING literal()
 {
     return const_cast<RT_STRING>( &literalObject<TEXT> );
 }

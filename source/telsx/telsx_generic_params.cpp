@@ -18,8 +18,8 @@ TELSX_DEFINE_FREE_FUNC( GenericParams, params )
 TELSX_DEFINE_COMPARE_FUNC( GenericParams, params )
 TELSX_DEFINE_TO_STRING_FUNC( GenericParams, params )
 
-constinit const EmptyGenericParams telsx::emptyGenericParams = {
-    { &telsx___sort_TELSX_GENERIC_PARAMS, RT_COUNT_IMMORTAL, 0 }, &rt___emptyDict
+constexpr TELSX_GENERIC_PARAMS_ telsx::emptyGenericParams = {
+    RT_STATIC_OBJECT( &telsx___sort_TELSX_GENERIC_PARAMS ), adopt( const_cast<RT_DICT>( &rt___emptyDict ) )
 };
 
 TELSX_GENERIC_PARAMS telsxGenericParamsCreate( void ) { return rt::createFrom( noGenericParams().get() ); }

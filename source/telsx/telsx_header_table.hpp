@@ -5,8 +5,8 @@
 #include <atomic>
 #include <bitset>
 
-#include "telsx/telsx_bytes.hpp"
 #include "rt/rt_memory.hpp"
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_frame.hpp"
 #include "telsx/telsx_known_names.hpp"
 #include "telsx/telsx_message_header.h"
@@ -29,7 +29,7 @@ inline HeaderName headerName( RT_STRING canonical )
     int64_t number = knownNameTable[knownNameSlot( text.chs, size )].number;
     if ( knownNames[number].name != canonical )
         number = knownNameNumber( text.chs, size );
-    return { number == -1 ? canonical : const_cast<RT_STRING>( knownNames[number].name ), number };
+    return { number == -1 ? canonical : knownNames[number].name, number };
 }
 
 // The number of a name that must be known.

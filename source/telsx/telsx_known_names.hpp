@@ -19,7 +19,7 @@ namespace telsx
 struct KnownName
 {
     std::string_view spelling;
-    const RT_STRING_ *name;
+    RT_STRING name;
     std::string_view bytes;
 };
 
@@ -55,7 +55,7 @@ inline constexpr NameBytes<NAME> nameBytes;
 template <rt::Ascii NAME>
 constexpr KnownName known( std::string_view spelling = nameBytes<NAME>.lower.data() )
 {
-    return { spelling, &rt::literalObject<NAME>, nameBytes<NAME>.canonical.data() };
+    return { spelling, rt::literal<NAME>(), nameBytes<NAME>.canonical.data() };
 }
 
 // All long names, and after them the compact forms.

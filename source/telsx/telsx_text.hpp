@@ -74,13 +74,7 @@ void append( Ref<RT_STRING> &text, const PIECE &...pieces )
 }
 
 // An empty text that grows to this length without moving.
-inline Ref<RT_STRING> textWithRoom( int64_t length )
-{
-    Ref<RT_STRING> text;
-    rt::newString( length, text.address() );
-    text.get()->length = 0;
-    return text;
-}
+inline Ref<RT_STRING> textWithRoom( int64_t length ) { return adopt( rt::newStringWithRoom( length ) ); }
 
 // The string of such pieces.
 template <class... PIECE>
