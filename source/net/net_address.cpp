@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdio>
 
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_text.hpp"
 
 using rt::Text;
@@ -52,8 +53,6 @@ static bool takeChars( Text *text, std::string_view chars )
     return true;
 }
 
-static bool isDigit( RT_CHAR ch ) { return ch >= '0' && ch <= '9'; }
-
 static bool takeNumber( Text *text, int64_t length, int64_t radix, int64_t *value )
 {
     int64_t digits;
@@ -72,11 +71,11 @@ static Found findIpV4( Text text )
     {
         if ( i > 0 && !takeChars( &rest, "." ) )
             return {};
-        if ( !rest || !isDigit( rest.chs[0] ) )
+        if ( !rest || !rt::isDigit( rest.chs[0] ) )
             return {};
         bool isZero = rest.chs[0] == '0';
         RT_CHAR value = rest.take( 1 ).chs[0] - '0';
-        for ( ; rest && isDigit( rest.chs[0] ); rest.take( 1 ) )
+        for ( ; rest && rt::isDigit( rest.chs[0] ); rest.take( 1 ) )
         {
             value = value * 10 + rest.chs[0] - '0';
             if ( isZero || value > 255 )

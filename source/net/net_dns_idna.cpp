@@ -12,6 +12,7 @@
 #include <array>
 
 #include "net/net_address.h"
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_text.hpp"
 
 using rt::adopt;
@@ -31,13 +32,7 @@ static bool isDomainSized( Text name )
            || ( name.length == DOMAIN_MAX_LENGTH + 1 && name.chs[DOMAIN_MAX_LENGTH] == '.' );
 }
 
-static bool isDigit( RT_CHAR ch ) { return ch >= '0' && ch <= '9'; }
-static bool isLetter( RT_CHAR ch, char last )
-{
-    return ch < 0x80 && ( ch | 0x20 ) >= 'a' && ( ch | 0x20 ) <= RT_CHAR( last );
-}
-static bool isAlphanum( RT_CHAR ch ) { return isDigit( ch ) || isLetter( ch, 'z' ); }
-static bool isHexdig( RT_CHAR ch ) { return isDigit( ch ) || isLetter( ch, 'f' ); }
+static bool isAlphanum( RT_CHAR ch ) { return rt::isDigit( ch ) || rt::isLetter( ch ); }
 
 static int64_t skipLabel( const RT_CHAR *chs, int64_t length )
 {
@@ -47,7 +42,8 @@ static int64_t skipLabel( const RT_CHAR *chs, int64_t length )
             end = ++at;
         else if ( chs[at] == '-' && at > 0 )
             ++at;
-        else if ( chs[at] == '%' && length - at > 2 && isHexdig( chs[at + 1] ) && isHexdig( chs[at + 2] ) )
+        else if ( chs[at] == '%' && length - at > 2 && rt::isHexdig( chs[at + 1] )
+                  && rt::isHexdig( chs[at + 2] ) )
             end = at += 3;
         else
             break;
@@ -107,8 +103,7 @@ static Ref<RT_STRING> tryConvertToUnicode( Text label )
     if ( label.length < std::ssize( prefix ) || label.length > IDN2_LABEL_MAX_LENGTH )
         return {};
     std::array<uint32_t, IDN2_LABEL_MAX_LENGTH + 1> input{};
-    std::transform( label.chs, label.chs + label.length, input.begin(),
-                    []( RT_CHAR ch ) { return isLetter( ch, 'z' ) ? ch | 0x20 : ch; } );
+    std::transform( label.chs, label.chs + label.length, input.begin(), rt::lowerAscii<RT_CHAR> );
     uint32_t *output = nullptr;
     if ( !std::equal( prefix.begin(), prefix.end(), input.begin() )
          || !hasConverted( idn2_to_unicode_4z4z( input.data(), &output, 0 ) ) )

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "net/net.h"
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_scan.hpp"
 #include "rt/rt_text.hpp"
 
@@ -17,12 +18,6 @@ using rt::share;
 using rt::Text;
 using rt::textOf;
 
-static bool isDigit( RT_CHAR ch ) { return ch >= '0' && ch <= '9'; }
-static bool isLetter( RT_CHAR ch, char last )
-{
-    return ch < 0x80 && ( ch | 0x20 ) >= 'a' && ( ch | 0x20 ) <= RT_CHAR( last );
-}
-static bool isHexdig( RT_CHAR ch ) { return isDigit( ch ) || isLetter( ch, 'f' ); }
 static bool isAmong( RT_CHAR ch, std::string_view chars )
 {
     return ch < 0x80 && chars.find( static_cast<char>( ch ) ) != chars.npos;
@@ -101,10 +96,10 @@ struct Found
 static int64_t skipScheme( Text text )
 {
     int64_t length = 0;
-    while (
-        length < text.length
-        && ( isLetter( text.chs[length], 'z' )
-             || ( length > 0 && ( isDigit( text.chs[length] ) || isAmong( text.chs[length], "+-." ) ) ) ) )
+    while ( length < text.length
+            && ( rt::isLetter( text.chs[length] )
+                 || ( length > 0
+                      && ( rt::isDigit( text.chs[length] ) || isAmong( text.chs[length], "+-." ) ) ) ) )
         ++length;
     return length;
 }
@@ -115,8 +110,7 @@ static bool beginsAddress( Text text )
     for ( std::string_view scheme : { "sip:", "sips:", "tel:" } )
         if ( text.length >= std::ssize( scheme )
              && std::equal( scheme.begin(), scheme.end(), text.chs,
-                            []( char a, RT_CHAR b )
-                            { return RT_CHAR( a ) == ( isLetter( b, 'z' ) ? b | 0x20 : b ); } ) )
+                            []( char a, RT_CHAR b ) { return RT_CHAR( a ) == rt::lowerAscii( b ); } ) )
             return true;
     return false;
 }
@@ -143,7 +137,7 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
         RT_CHAR ch = rest.chs[0];
         if ( ch == '%' )
         {
-            if ( rest.length < 3 || !isHexdig( rest.chs[1] ) || !isHexdig( rest.chs[2] ) )
+            if ( rest.length < 3 || !rt::isHexdig( rest.chs[1] ) || !rt::isHexdig( rest.chs[2] ) )
                 break;
             found.convertible |= rest.chs[1] >= '8';
             rest.take( 2 );
@@ -346,5 +340,5 @@ int64_t rsc___SkipPort( const RT_CHAR *chs, int64_t length )
 {
     RT_ASSERT( length >= 0 );
     RT_ASSERT( chs || length == 0 );
-    return std::find_if_not( chs, chs + length, isDigit ) - chs;
+    return std::find_if_not( chs, chs + length, rt::isDigit ) - chs;
 }

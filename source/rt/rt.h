@@ -8,6 +8,7 @@
 #include "rt/rt_format.h"
 #include "rt/rt_module.h"
 #include "rt/rt_object.h"
+#include "rt/rt_scan.h"
 #include "rt/rt_store.h"
 #include "rt/rt_string.h"
 #include "rt/rt_time.h"

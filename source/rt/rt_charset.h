@@ -23,11 +23,7 @@ RT_API RT_BUFFER rtCharsetStringToBuffer( int64_t charset, RT_STRING string );
 RT_API RT_STRING rtStringTryCreateFromUtf8( const char *bytes, int64_t length );
 RT_API void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string );
 
-/* For the libraries above: how many code points at the start are in a set of ASCII characters. The set is sixteen
- * bytes: character 16 * i + j is a member if bit i of byte j is set. NUL is never a member. */
-RT_API int64_t rt___RunOf( const uint8_t *set, const RT_CHAR *chs, int64_t length );
-
-/* For the libraries above: whether plain bytes are ASCII; a new string of bytes that are. */
+/* For the libraries above, of plain bytes: whether they are ASCII; a string of bytes that are. */
 RT_API RT_BOOL rt___AsciiOk( const char *bytes, int64_t length );
 RT_API RT_STRING rt___StringCreateFromAscii( const char *bytes, int64_t length );
 

@@ -1,4 +1,4 @@
-/* Numbers and single characters. */
+/* Numbers. */
 #ifndef RT_RT_FORMAT_H
 #define RT_RT_FORMAT_H
 
@@ -15,10 +15,6 @@ RT_API RT_BOOL rtFormatTryDecodeIntChars( const RT_CHAR *chs, int64_t length, in
 /* The smaller and the larger of two numbers. */
 RT_API int64_t rtIntMin( int64_t a, int64_t b );
 RT_API int64_t rtIntMax( int64_t a, int64_t b );
-
-/* The upper case of a character: returns 1 and puts the code point into mapping, or returns 0 if the character has no
- * upper case of its own. */
-RT_API int64_t rt___UnicodeUpperCaseDbLookup( RT_CHAR ch, RT_CHAR *mapping );
 
 RT_END
 

@@ -117,10 +117,11 @@ public:
         if ( handle )
             retain( asObj( handle ) );
     }
-    Ref( Ref &&other ) noexcept : handle( other.take() ) {}
+    constexpr Ref( Ref &&other ) noexcept : handle( other.take() ) {}
+    // A constant refers to constants, which nobody counts.
     constexpr ~Ref()
     {
-        if ( handle )
+        if ( !std::is_constant_evaluated() && handle )
             releaseHandle( handle );
     }
 
@@ -131,7 +132,7 @@ public:
         return *this;
     }
 
-    static Ref adopt( HANDLE given )
+    static constexpr Ref adopt( HANDLE given )
     {
         Ref ref;
         ref.handle = given;
@@ -151,7 +152,7 @@ public:
     HANDLE get() const { return handle; }
     HANDLE operator->() const { return handle; }
     HANDLE retained() const { return Ref( *this ).take(); }
-    HANDLE take() { return std::exchange( handle, nullptr ); }
+    constexpr HANDLE take() { return std::exchange( handle, nullptr ); }
     HANDLE *address() { return &handle; }
 
 private:
@@ -160,7 +161,7 @@ private:
 
 // A Ref that takes over the caller's reference, and one that takes a reference of its own.
 template <class HANDLE>
-Ref<HANDLE> adopt( HANDLE handle )
+constexpr Ref<HANDLE> adopt( HANDLE handle )
 {
     return Ref<HANDLE>::adopt( handle );
 }

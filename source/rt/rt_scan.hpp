@@ -5,7 +5,7 @@
 #include <bit>
 #include <functional>
 
-#include "rt/rt_charset.h"
+#include "rt/rt_scan.h"
 
 // A test defines RT_SCAN_PLAIN to check that the results are the same without vectors.
 #if defined( __SSE2__ ) && !defined( RT_SCAN_PLAIN )

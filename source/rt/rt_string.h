@@ -84,9 +84,12 @@ RT_API void rtStringSetCharAt( RT_STRING *string, int64_t index, RT_CHAR ch );
 RT_API void rtStringToLower( RT_STRING *string );
 RT_API void rtStringToUpper( RT_STRING *string );
 
-/* The pieces between the delimiters, as a new vector of strings. There are at most maxParts pieces, the last of which
- * keeps all further delimiters; -1 means no limit. An empty text is one empty piece, and a delimiter at the end leaves
- * an empty piece after it. Both abort for an empty delimiter and for a maxParts of 0. */
+/* The upper case of a character: 1 and the code point in mapping, or 0 if it has none of its own. */
+RT_API int64_t rt___UnicodeUpperCaseDbLookup( RT_CHAR ch, RT_CHAR *mapping );
+
+/* The pieces between the delimiters, as a new vector of strings: at most maxParts, of which the last keeps
+ * all further delimiters; -1 for no limit. The empty text is one empty piece, and a delimiter at the end
+ * leaves an empty piece after it. An empty delimiter and a maxParts of 0 abort. */
 RT_API struct RT_VECTOR_ *rtStringSplitChar( RT_STRING string, RT_CHAR ch, int64_t maxParts );
 RT_API struct RT_VECTOR_ *rtStringSplitChars( RT_STRING string, const RT_CHAR *chs, int64_t length,
                                               int64_t maxParts );

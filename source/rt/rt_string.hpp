@@ -43,6 +43,36 @@ inline RT_CHAR *newString( int64_t length, RT_STRING *string )
     return made->inner();
 }
 
+// An empty string that grows to that length without moving, a new reference.
+inline RT_STRING newStringWithRoom( int64_t length )
+{
+    RT_STRING string;
+    newString( length, &string );
+    string->length = 0;
+    return string;
+}
+
+// The length of a text argument, whose -1 means up to the zero.
+template <class CHAR>
+int64_t lengthOf( const CHAR *chars, int64_t length )
+{
+    RT_ASSERT( length >= -1 );
+    RT_ASSERT( chars || length == 0 );
+    if ( length != -1 )
+        return length;
+    if constexpr ( std::is_same_v<CHAR, char> )
+        return static_cast<int64_t>( std::strlen( chars ) );
+    while ( chars[++length] )
+        ;
+    return length;
+}
+
+template <class CHAR>
+RT_CHAR widened( CHAR ch )
+{
+    return static_cast<std::make_unsigned_t<CHAR>>( ch );
+}
+
 // ASCII text as a constant of code points, for the parameter of a template.
 template <std::size_t SIZE>
 struct Ascii
@@ -63,7 +93,7 @@ inline constexpr RT_STRING_ literalObject = {
 };
 
 template <Ascii TEXT>
-RT_STRING literal()
+constexpr RT_STRING literal()
 {
     return const_cast<RT_STRING>( &literalObject<TEXT> );
 }

@@ -4,6 +4,7 @@
 #include "telsx/telsx_media_subtype.h"
 #include "telsx/telsx_media_type.h"
 #include "telsx/telsx_qvalue.h"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_value.hpp"
 
 using namespace telsx;

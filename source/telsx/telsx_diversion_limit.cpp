@@ -3,7 +3,6 @@
 
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_number.hpp"
-#include "telsx/telsx_skip.h"
 
 using namespace telsx;
 

@@ -1,6 +1,7 @@
 // Event type (RFC 6665, 8.4).
 #include "telsx/telsx_event_type.h"
 
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 #include "telsx/telsx_token_nodot.h"
 

@@ -5,7 +5,9 @@
 #include "telsx/telsx_generic_param_name.h"
 #include "telsx/telsx_host.h"
 #include "telsx/telsx_quotable_string.h"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_text_forms.hpp"
 
 using namespace telsx;
 
@@ -132,19 +134,6 @@ TELSX_GENERIC_PARAM telsx___GenericParamTryDecode( const RT_CHAR *chs, int64_t l
 
 // Functions that take a name, with the name as 8-bit and as wide characters
 
-#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                     \
-    TELSX_GENERIC_PARAM telsxGenericParamCreate##SUFFIX( const CHAR *name, int64_t length )               \
-    {                                                                                                     \
-        return telsxGenericParamCreate( text( name, length ).get() );                                     \
-    }                                                                                                     \
-    TELSX_GENERIC_PARAM telsxGenericParamCreateWithValue##SUFFIX( const CHAR *name, int64_t length,       \
-                                                                  int64_t type, RT_STRING value )         \
-    {                                                                                                     \
-        return telsxGenericParamCreateWithValue( text( name, length ).get(), type, value );               \
-    }                                                                                                     \
-    void telsxGenericParamSetName##SUFFIX( TELSX_GENERIC_PARAM *param, const CHAR *name, int64_t length ) \
-    {                                                                                                     \
-        telsxGenericParamSetName( param, text( name, length ).get() );                                    \
-    }
-TEXT_VARIANTS( Cstr, char )
-TEXT_VARIANTS( Wcstr, wchar_t )
+TELSX_DEFINE_TEXT_FORMS( TELSX_GENERIC_PARAM, GenericParamCreate, (), () )
+TELSX_DEFINE_TEXT_FORMS( TELSX_GENERIC_PARAM, GenericParamCreateWithValue, (), ( int64_t, RT_STRING ) )
+TELSX_DEFINE_TEXT_FORMS( void, GenericParamSetName, (TELSX_GENERIC_PARAM *), () )

@@ -6,7 +6,9 @@
 #include "telsx/telsx_generic_param.hpp"
 #include "telsx/telsx_generic_param_name.h"
 #include "telsx/telsx_generic_params.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_text_forms.hpp"
 
 using namespace telsx;
 
@@ -16,8 +18,8 @@ TELSX_DEFINE_FREE_FUNC( GenericParams, params )
 TELSX_DEFINE_COMPARE_FUNC( GenericParams, params )
 TELSX_DEFINE_TO_STRING_FUNC( GenericParams, params )
 
-constinit const EmptyGenericParams telsx::emptyGenericParams = {
-    { &telsx___sort_TELSX_GENERIC_PARAMS, RT_COUNT_IMMORTAL, 0 }, &rt___emptyDict
+constexpr TELSX_GENERIC_PARAMS_ telsx::emptyGenericParams = {
+    RT_STATIC_OBJECT( &telsx___sort_TELSX_GENERIC_PARAMS ), adopt( const_cast<RT_DICT>( &rt___emptyDict ) )
 };
 
 TELSX_GENERIC_PARAMS telsxGenericParamsCreate( void ) { return rt::createFrom( noGenericParams().get() ); }
@@ -169,41 +171,10 @@ void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS para
 
 // Functions that take a name, with the name as 8-bit and as wide characters
 
-#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
-    TELSX_GENERIC_PARAM telsxGenericParamsParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,      \
-                                                         int64_t length )                                    \
-    {                                                                                                        \
-        return telsxGenericParamsParam( params, text( name, length ).get() );                                \
-    }                                                                                                        \
-    RT_BOOL telsxGenericParamsHasParam##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,               \
-                                                int64_t length )                                             \
-    {                                                                                                        \
-        return telsxGenericParamsHasParam( params, text( name, length ).get() );                             \
-    }                                                                                                        \
-    void telsxGenericParamsDelParam##SUFFIX( TELSX_GENERIC_PARAMS *params, const CHAR *name,                 \
-                                             int64_t length )                                                \
-    {                                                                                                        \
-        telsxGenericParamsDelParam( params, text( name, length ).get() );                                    \
-    }                                                                                                        \
-    int64_t telsxGenericParamsParamValueType##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name,         \
-                                                      int64_t length )                                       \
-    {                                                                                                        \
-        return telsxGenericParamsParamValueType( params, text( name, length ).get() );                       \
-    }                                                                                                        \
-    RT_STRING telsxGenericParamsParamValueNormalized##SUFFIX( TELSX_GENERIC_PARAMS params, const CHAR *name, \
-                                                              int64_t length )                               \
-    {                                                                                                        \
-        return telsxGenericParamsParamValueNormalized( params, text( name, length ).get() );                 \
-    }                                                                                                        \
-    RT_STRING telsxGenericParamsParamValueNonNormalized##SUFFIX( TELSX_GENERIC_PARAMS params,                \
-                                                                 const CHAR *name, int64_t length )          \
-    {                                                                                                        \
-        return telsxGenericParamsParamValueNonNormalized( params, text( name, length ).get() );              \
-    }                                                                                                        \
-    void telsxGenericParamsSetParamValue##SUFFIX( TELSX_GENERIC_PARAMS *params, const CHAR *name,            \
-                                                  int64_t length, int64_t type, RT_STRING value )            \
-    {                                                                                                        \
-        telsxGenericParamsSetParamValue( params, text( name, length ).get(), type, value );                  \
-    }
-TEXT_VARIANTS( Cstr, char )
-TEXT_VARIANTS( Wcstr, wchar_t )
+TELSX_DEFINE_TEXT_FORMS( TELSX_GENERIC_PARAM, GenericParamsParam, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_BOOL, GenericParamsHasParam, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( void, GenericParamsDelParam, (TELSX_GENERIC_PARAMS *), () )
+TELSX_DEFINE_TEXT_FORMS( int64_t, GenericParamsParamValueType, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_STRING, GenericParamsParamValueNormalized, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_STRING, GenericParamsParamValueNonNormalized, ( TELSX_GENERIC_PARAMS ), () )
+TELSX_DEFINE_TEXT_FORMS( void, GenericParamsSetParamValue, (TELSX_GENERIC_PARAMS *), ( int64_t, RT_STRING ) )

@@ -18,20 +18,12 @@ struct TELSX_GENERIC_PARAMS_
 namespace telsx
 {
 
-// One empty set serves all values without parameters; the first change makes a new one. It has the layout of the type
-// without its Ref.
-struct EmptyGenericParams
-{
-    RT_OBJECT object;
-    const RT_DICT_ *params;
-};
-static_assert( sizeof( EmptyGenericParams ) == sizeof( TELSX_GENERIC_PARAMS_ ) );
-extern const EmptyGenericParams emptyGenericParams;
+// One empty set serves all values without parameters; the first change makes another.
+extern const TELSX_GENERIC_PARAMS_ emptyGenericParams;
 
 inline Ref<TELSX_GENERIC_PARAMS> noGenericParams()
 {
-    return adopt( const_cast<TELSX_GENERIC_PARAMS>(
-        reinterpret_cast<const TELSX_GENERIC_PARAMS_ *>( &emptyGenericParams ) ) );
+    return adopt( const_cast<TELSX_GENERIC_PARAMS>( &emptyGenericParams ) );
 }
 
 // Appends the parameters, each after a semicolon, except those with one of these lower-case names.

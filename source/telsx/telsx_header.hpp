@@ -3,6 +3,7 @@
 // look one up.
 #pragma once
 
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_header.h"
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message.hpp"

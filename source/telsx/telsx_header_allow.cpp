@@ -12,5 +12,4 @@ struct TELSX_HEADER_ALLOW_ : TokenSet
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderAllow, HEADER_ALLOW, hdr, "Allow" )
 TELSX_DEFINE_TOKEN_SET( HeaderAllow, "Allow", Method, asItIs, comma )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderAllow, Method, Cstr, char )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderAllow, Method, Wcstr, wchar_t )
+TELSX_DEFINE_TOKEN_SET_CHARS( HeaderAllow, Method )

@@ -1,6 +1,7 @@
 // Contact header (RFC 3261, 20.10).
 #include "telsx/telsx_header_contact.h"
 
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_value_list.hpp"
 
 using namespace telsx;

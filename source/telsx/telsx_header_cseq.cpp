@@ -5,6 +5,8 @@
 #include "telsx/telsx_header.hpp"
 #include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
+#include "telsx/telsx_skip.h"
+#include "telsx/telsx_text_forms.hpp"
 
 using namespace telsx;
 
@@ -66,12 +68,4 @@ static TELSX_HEADER_CSEQ decode( HeaderLines &lines )
     return method ? create( cseq, std::move( method ) ) : nullptr;
 }
 
-void telsxHeaderCseqSetMethodCstr( TELSX_HEADER_CSEQ *hdr, const char *chars, int64_t length )
-{
-    telsxHeaderCseqSetMethod( hdr, text( chars, length ).get() );
-}
-
-void telsxHeaderCseqSetMethodWcstr( TELSX_HEADER_CSEQ *hdr, const wchar_t *chars, int64_t length )
-{
-    telsxHeaderCseqSetMethod( hdr, text( chars, length ).get() );
-}
+TELSX_DEFINE_TEXT_FORMS( void, HeaderCseqSetMethod, (TELSX_HEADER_CSEQ *), () )

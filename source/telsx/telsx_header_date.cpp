@@ -1,6 +1,7 @@
 // Date header (RFC 3261, 20.17).
 #include "telsx/telsx_header_date.h"
 
+#include "telsx/telsx_date.hpp"
 #include "telsx/telsx_header.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_skip.h"
@@ -40,17 +41,14 @@ TELSX_HEADER_DATE telsxHeaderDateCreateFromCurrentTime( void )
 
 TELSX_MESSAGE_HEADER telsxHeaderDateEncode( TELSX_HEADER_DATE hdr )
 {
-    static constexpr const char *weekdays[] = { "Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun" };
-    static constexpr const char *months[] = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                              "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
     TELSX_ASSERT( hdr );
     RT_TIME time = hdr->time.get();
     // Must come before the month is used: rtTimeWeekday aborts if there is no such month.
-    const char *weekday = weekdays[rtTimeWeekday( time )];
+    const char *weekday = weekdayNames[rtTimeWeekday( time )].data();
     Ref<RT_STRING> line = adopt( rtStringCreateFromFormatCstr(
         "%~s, %02i %~s %04i %02i:%02i:%02i GMT", -1, rtStringCreateFromCstr( weekday, -1 ), rtTimeDay( time ),
-        rtStringCreateFromCstr( months[rtTimeMonth( time ) - 1], -1 ), rtTimeYear( time ), rtTimeHour( time ),
-        rtTimeMinute( time ), rtTimeSecond( time ) ) );
+        rtStringCreateFromCstr( monthNames[rtTimeMonth( time ) - 1].data(), -1 ), rtTimeYear( time ),
+        rtTimeHour( time ), rtTimeMinute( time ), rtTimeSecond( time ) ) );
     return createHeader( literal<"Date">(), line );
 }
 

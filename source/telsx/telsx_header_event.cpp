@@ -3,6 +3,8 @@
 
 #include "telsx/telsx_event_type.h"
 #include "telsx/telsx_header.hpp"
+#include "telsx/telsx_skip.h"
+#include "telsx/telsx_text_forms.hpp"
 #include "telsx/telsx_token.h"
 #include "telsx/telsx_value.hpp"
 
@@ -72,14 +74,5 @@ static TELSX_HEADER_EVENT decode( HeaderLines &lines )
     return param.failed() ? nullptr : hdr.take();
 }
 
-#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                       \
-    TELSX_HEADER_EVENT telsxHeaderEventCreate##SUFFIX( const CHAR *chars, int64_t length )                  \
-    {                                                                                                       \
-        return telsxHeaderEventCreate( text( chars, length ).get() );                                       \
-    }                                                                                                       \
-    void telsxHeaderEventSetEventType##SUFFIX( TELSX_HEADER_EVENT *hdr, const CHAR *chars, int64_t length ) \
-    {                                                                                                       \
-        telsxHeaderEventSetEventType( hdr, text( chars, length ).get() );                                   \
-    }
-TEXT_VARIANTS( Cstr, char )
-TEXT_VARIANTS( Wcstr, wchar_t )
+TELSX_DEFINE_TEXT_FORMS( TELSX_HEADER_EVENT, HeaderEventCreate, (), () )
+TELSX_DEFINE_TEXT_FORMS( void, HeaderEventSetEventType, (TELSX_HEADER_EVENT *), () )

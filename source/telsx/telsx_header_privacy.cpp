@@ -12,5 +12,4 @@ struct TELSX_HEADER_PRIVACY_ : TokenSet
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderPrivacy, HEADER_PRIVACY, hdr, "Privacy" )
 TELSX_DEFINE_TOKEN_SET( HeaderPrivacy, "Privacy", PrivValue, telsxPrivValueNormalize, semicolon )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderPrivacy, PrivValue, Cstr, char )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderPrivacy, PrivValue, Wcstr, wchar_t )
+TELSX_DEFINE_TOKEN_SET_CHARS( HeaderPrivacy, PrivValue )

@@ -6,6 +6,7 @@
 #include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_response_num.h"
+#include "telsx/telsx_skip.h"
 
 using namespace telsx;
 

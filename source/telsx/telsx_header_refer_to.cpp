@@ -4,6 +4,7 @@
 #include "telsx/telsx_display_name.h"
 #include "telsx/telsx_iri.h"
 #include "telsx/telsx_party.hpp"
+#include "telsx/telsx_skip.h"
 
 using namespace telsx;
 

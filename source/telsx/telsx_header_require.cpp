@@ -12,5 +12,4 @@ struct TELSX_HEADER_REQUIRE_ : TokenSet
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderRequire, HEADER_REQUIRE, hdr, "Require" )
 TELSX_DEFINE_TOKEN_SET( HeaderRequire, "Require", OptionTag, telsxOptionTagNormalize, comma )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderRequire, OptionTag, Cstr, char )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderRequire, OptionTag, Wcstr, wchar_t )
+TELSX_DEFINE_TOKEN_SET_CHARS( HeaderRequire, OptionTag )

@@ -3,6 +3,7 @@
 
 #include "telsx/telsx_delta_seconds.h"
 #include "telsx/telsx_header.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_value.hpp"
 
 using namespace telsx;

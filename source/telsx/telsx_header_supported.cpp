@@ -12,5 +12,4 @@ struct TELSX_HEADER_SUPPORTED_ : TokenSet
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderSupported, HEADER_SUPPORTED, hdr, "Supported" )
 TELSX_DEFINE_TOKEN_SET( HeaderSupported, "Supported", OptionTag, telsxOptionTagNormalize, comma )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderSupported, OptionTag, Cstr, char )
-TELSX_DEFINE_TOKEN_SET_CHARS( HeaderSupported, OptionTag, Wcstr, wchar_t )
+TELSX_DEFINE_TOKEN_SET_CHARS( HeaderSupported, OptionTag )

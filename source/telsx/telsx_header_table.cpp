@@ -97,17 +97,6 @@ Ref<RT_STRING> HeaderTable::stringOf( const HeaderLine &line ) const
                           : rtStringTryCreateFromUtf8( bytes() + line.begin, line.length ) );
 }
 
-Text WideText::readOther( Bytes bytes )
-{
-    if ( lengthOf( bytes ) > mostChars )
-    {
-        string = adopt( rtStringTryCreateFromUtf8( bytes.data(), lengthOf( bytes ) ) );
-        return textOf( string );
-    }
-    return { chs, rt___Utf8Decode( reinterpret_cast<const unsigned char *>( bytes.data() ), lengthOf( bytes ),
-                                   chs ) };
-}
-
 Bytes lastLineOf( HeaderTable *table, const HeaderEntry &entry )
 {
     return table->lineOf( entry.last == -1 ? entry.first : table->moreLines[entry.last] );

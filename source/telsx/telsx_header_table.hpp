@@ -4,9 +4,9 @@
 
 #include <atomic>
 #include <bitset>
-#include <string_view>
 
 #include "rt/rt_memory.hpp"
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_frame.hpp"
 #include "telsx/telsx_known_names.hpp"
 #include "telsx/telsx_message_header.h"
@@ -14,43 +14,6 @@
 
 namespace telsx
 {
-
-// A span of incoming bytes.
-using Bytes = std::string_view;
-
-inline Bytes bytesOf( RT_BUFFER buffer )
-{
-    return { static_cast<const char *>( rtBufferBacking( buffer ) ),
-             static_cast<std::size_t>( rtBufferLength( buffer ) ) };
-}
-
-inline Ref<RT_BUFFER> bufferOf( Bytes bytes )
-{
-    return adopt( rtBufferCreateFromBytesCopy( bytes.data(), lengthOf( bytes ) ) );
-}
-
-// The text of bytes that are known to be UTF-8, or even ASCII. A short text is stored in the object.
-class WideText
-{
-public:
-    Text read( Bytes bytes, bool isAscii )
-    {
-        if ( !isAscii || lengthOf( bytes ) > mostChars )
-            return readOther( bytes );
-        rt::widen( bytes.data(), lengthOf( bytes ), chs );
-        return { chs, lengthOf( bytes ) };
-    }
-
-private:
-    static constexpr int64_t mostChars = 256;
-
-    Text readOther( Bytes bytes );
-
-    Ref<RT_STRING> string;
-    RT_CHAR chs[mostChars + rt::scanSlack];
-};
-
-constexpr Bytes lineEnd = "\r\n", headEnd = "\r\n\r\n";
 
 // A canonical name and its number among the known names, or -1. The name of a known one is a constant.
 struct HeaderName
@@ -66,7 +29,7 @@ inline HeaderName headerName( RT_STRING canonical )
     int64_t number = knownNameTable[knownNameSlot( text.chs, size )].number;
     if ( knownNames[number].name != canonical )
         number = knownNameNumber( text.chs, size );
-    return { number == -1 ? canonical : const_cast<RT_STRING>( knownNames[number].name ), number };
+    return { number == -1 ? canonical : knownNames[number].name, number };
 }
 
 // The number of a name, which must be known.

@@ -1,6 +1,7 @@
 // Via header (RFC 3261, 20.42).
 #include "telsx/telsx_header_via.h"
 
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_value_list.hpp"
 #include "telsx/telsx_via.hpp"
 

@@ -1,6 +1,7 @@
 // Warning header (RFC 3261, 20.43).
 #include "telsx/telsx_header_warning.h"
 
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_value_list.hpp"
 
 using namespace telsx;

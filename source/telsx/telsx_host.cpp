@@ -8,7 +8,6 @@
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_host.hpp"
 #include "telsx/telsx_port.h"
-#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;
@@ -63,9 +62,9 @@ int64_t telsx___SkipIpV6Reference( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
-    if ( !rest.take( telsx___SkipChar( chs, length, '[' ) ) || !rest.take( telsx___SkipIpV6Address ) )
+    if ( !rest || rest.take( 1 ).chs[0] != '[' || !rest.take( telsx___SkipIpV6Address ) )
         return 0;
-    return rest.take( telsx___SkipChar( rest.chs, rest.length, ']' ) ) ? length - rest.length : 0;
+    return rest && rest.take( 1 ).chs[0] == ']' ? length - rest.length : 0;
 }
 
 int64_t telsx___SkipHost( const RT_CHAR *chs, int64_t length )

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
 
@@ -18,18 +19,15 @@ namespace telsx
 struct KnownName
 {
     std::string_view spelling;
-    const RT_STRING_ *name;
+    RT_STRING name;
     std::string_view bytes;
 };
-
-constexpr char lowerAscii( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
-constexpr char upperAscii( char ch ) { return ch >= 'a' && ch <= 'z' ? static_cast<char>( ch - 0x20 ) : ch; }
 
 // The character of a canonical name at a place where the name has ch, in any case, after the character before: a
 // capital at the start and after each hyphen.
 constexpr char canonicalAscii( char before, char ch )
 {
-    return before == '-' ? upperAscii( ch ) : lowerAscii( ch );
+    return before == '-' ? rt::upperAscii( ch ) : rt::lowerAscii( ch );
 }
 
 // The bytes of a name and of its lower-case spelling, with slack.
@@ -47,7 +45,7 @@ struct NameBytes
             if ( ch != canonicalAscii( before, ch ) )
                 std::abort(); // the name is not canonical
             canonical[i] = before = ch;
-            lower[i] = lowerAscii( ch );
+            lower[i] = rt::lowerAscii( ch );
         }
     }
 };
@@ -57,7 +55,7 @@ inline constexpr NameBytes<NAME> nameBytes;
 template <rt::Ascii NAME>
 constexpr KnownName known( std::string_view spelling = nameBytes<NAME>.lower.data() )
 {
-    return { spelling, &rt::literalObject<NAME>, nameBytes<NAME>.canonical.data() };
+    return { spelling, rt::literal<NAME>(), nameBytes<NAME>.canonical.data() };
 }
 
 // All long names, followed by the compact forms.

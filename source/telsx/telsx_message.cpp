@@ -3,6 +3,7 @@
 
 #include "telsx/telsx_message.hpp"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_text_forms.hpp"
 
 using namespace telsx;
 
@@ -53,18 +54,6 @@ TELSX_MESSAGE telsxMessageCreateRequest( TELSX_VERSION version, RT_STRING method
     return create( telsxMessageFragmentCreateRequest( version, method, iri ) );
 }
 
-TELSX_MESSAGE telsxMessageCreateRequestCstr( TELSX_VERSION version, const char *method, int64_t length,
-                                             RT_STRING iri )
-{
-    return create( telsxMessageFragmentCreateRequestCstr( version, method, length, iri ) );
-}
-
-TELSX_MESSAGE telsxMessageCreateRequestWcstr( TELSX_VERSION version, const wchar_t *method, int64_t length,
-                                              RT_STRING iri )
-{
-    return create( telsxMessageFragmentCreateRequestWcstr( version, method, length, iri ) );
-}
-
 TELSX_MESSAGE telsxMessageCreateResponse( TELSX_VERSION version, int64_t sc )
 {
     return create( telsxMessageFragmentCreateResponse( version, sc ) );
@@ -74,20 +63,6 @@ TELSX_MESSAGE telsxMessageCreateResponseWithReasonPhrase( TELSX_VERSION version,
                                                           RT_STRING reasonPhrase )
 {
     return create( telsxMessageFragmentCreateResponseWithReasonPhrase( version, sc, reasonPhrase ) );
-}
-
-TELSX_MESSAGE telsxMessageCreateResponseWithReasonPhraseCstr( TELSX_VERSION version, int64_t sc,
-                                                              const char *reasonPhrase, int64_t length )
-{
-    return create(
-        telsxMessageFragmentCreateResponseWithReasonPhraseCstr( version, sc, reasonPhrase, length ) );
-}
-
-TELSX_MESSAGE telsxMessageCreateResponseWithReasonPhraseWcstr( TELSX_VERSION version, int64_t sc,
-                                                               const wchar_t *reasonPhrase, int64_t length )
-{
-    return create(
-        telsxMessageFragmentCreateResponseWithReasonPhraseWcstr( version, sc, reasonPhrase, length ) );
 }
 
 RT_BOOL telsxMessageIsRequest( TELSX_MESSAGE msg ) { return telsxMessageFragmentIsRequest( read( msg ) ); }
@@ -126,29 +101,9 @@ TELSX_MESSAGE_HEADER telsxMessageHeader( TELSX_MESSAGE msg, RT_STRING name )
     return telsxMessageFragmentHeader( read( msg ), name );
 }
 
-TELSX_MESSAGE_HEADER telsxMessageHeaderCstr( TELSX_MESSAGE msg, const char *name, int64_t length )
-{
-    return telsxMessageFragmentHeaderCstr( read( msg ), name, length );
-}
-
-TELSX_MESSAGE_HEADER telsxMessageHeaderWcstr( TELSX_MESSAGE msg, const wchar_t *name, int64_t length )
-{
-    return telsxMessageFragmentHeaderWcstr( read( msg ), name, length );
-}
-
 RT_BOOL telsxMessageHasHeader( TELSX_MESSAGE msg, RT_STRING name )
 {
     return telsxMessageFragmentHasHeader( read( msg ), name );
-}
-
-RT_BOOL telsxMessageHasHeaderCstr( TELSX_MESSAGE msg, const char *name, int64_t length )
-{
-    return telsxMessageFragmentHasHeaderCstr( read( msg ), name, length );
-}
-
-RT_BOOL telsxMessageHasHeaderWcstr( TELSX_MESSAGE msg, const wchar_t *name, int64_t length )
-{
-    return telsxMessageFragmentHasHeaderWcstr( read( msg ), name, length );
 }
 
 RT_BOOL telsxMessageHasLoneLineEnds( TELSX_MESSAGE msg )
@@ -167,18 +122,6 @@ void telsxMessageSetRequest( TELSX_MESSAGE *msg, TELSX_VERSION version, RT_STRIN
     telsxMessageFragmentSetRequest( change( msg ), version, method, iri );
 }
 
-void telsxMessageSetRequestCstr( TELSX_MESSAGE *msg, TELSX_VERSION version, const char *method,
-                                 int64_t length, RT_STRING iri )
-{
-    telsxMessageFragmentSetRequestCstr( change( msg ), version, method, length, iri );
-}
-
-void telsxMessageSetRequestWcstr( TELSX_MESSAGE *msg, TELSX_VERSION version, const wchar_t *method,
-                                  int64_t length, RT_STRING iri )
-{
-    telsxMessageFragmentSetRequestWcstr( change( msg ), version, method, length, iri );
-}
-
 void telsxMessageSetResponse( TELSX_MESSAGE *msg, TELSX_VERSION version, int64_t sc )
 {
     telsxMessageFragmentSetResponse( change( msg ), version, sc );
@@ -190,46 +133,14 @@ void telsxMessageSetResponseWithReasonPhrase( TELSX_MESSAGE *msg, TELSX_VERSION 
     telsxMessageFragmentSetResponseWithReasonPhrase( change( msg ), version, sc, reasonPhrase );
 }
 
-void telsxMessageSetResponseWithReasonPhraseCstr( TELSX_MESSAGE *msg, TELSX_VERSION version, int64_t sc,
-                                                  const char *reasonPhrase, int64_t length )
-{
-    telsxMessageFragmentSetResponseWithReasonPhraseCstr( change( msg ), version, sc, reasonPhrase, length );
-}
-
-void telsxMessageSetResponseWithReasonPhraseWcstr( TELSX_MESSAGE *msg, TELSX_VERSION version, int64_t sc,
-                                                   const wchar_t *reasonPhrase, int64_t length )
-{
-    telsxMessageFragmentSetResponseWithReasonPhraseWcstr( change( msg ), version, sc, reasonPhrase, length );
-}
-
 void telsxMessageSetRequestMethod( TELSX_MESSAGE *msg, RT_STRING method )
 {
     telsxMessageFragmentSetRequestMethod( change( msg ), method );
 }
 
-void telsxMessageSetRequestMethodCstr( TELSX_MESSAGE *msg, const char *method, int64_t length )
-{
-    telsxMessageFragmentSetRequestMethodCstr( change( msg ), method, length );
-}
-
-void telsxMessageSetRequestMethodWcstr( TELSX_MESSAGE *msg, const wchar_t *method, int64_t length )
-{
-    telsxMessageFragmentSetRequestMethodWcstr( change( msg ), method, length );
-}
-
 void telsxMessageSetRequestIri( TELSX_MESSAGE *msg, RT_STRING iri )
 {
     telsxMessageFragmentSetRequestIri( change( msg ), iri );
-}
-
-void telsxMessageSetRequestIriCstr( TELSX_MESSAGE *msg, const char *iri, int64_t length )
-{
-    telsxMessageFragmentSetRequestIriCstr( change( msg ), iri, length );
-}
-
-void telsxMessageSetRequestIriWcstr( TELSX_MESSAGE *msg, const wchar_t *iri, int64_t length )
-{
-    telsxMessageFragmentSetRequestIriWcstr( change( msg ), iri, length );
 }
 
 void telsxMessageSetResponseStatusCode( TELSX_MESSAGE *msg, int64_t sc, RT_BOOL updateReasonPhrase )
@@ -240,17 +151,6 @@ void telsxMessageSetResponseStatusCode( TELSX_MESSAGE *msg, int64_t sc, RT_BOOL 
 void telsxMessageSetResponseReasonPhrase( TELSX_MESSAGE *msg, RT_STRING reasonPhrase )
 {
     telsxMessageFragmentSetResponseReasonPhrase( change( msg ), reasonPhrase );
-}
-
-void telsxMessageSetResponseReasonPhraseCstr( TELSX_MESSAGE *msg, const char *reasonPhrase, int64_t length )
-{
-    telsxMessageFragmentSetResponseReasonPhraseCstr( change( msg ), reasonPhrase, length );
-}
-
-void telsxMessageSetResponseReasonPhraseWcstr( TELSX_MESSAGE *msg, const wchar_t *reasonPhrase,
-                                               int64_t length )
-{
-    telsxMessageFragmentSetResponseReasonPhraseWcstr( change( msg ), reasonPhrase, length );
 }
 
 void telsxMessageSetVersion( TELSX_MESSAGE *msg, TELSX_VERSION version )
@@ -268,19 +168,24 @@ void telsxMessageDelHeader( TELSX_MESSAGE *msg, RT_STRING name )
     telsxMessageFragmentDelHeader( change( msg ), name );
 }
 
-void telsxMessageDelHeaderCstr( TELSX_MESSAGE *msg, const char *name, int64_t length )
-{
-    telsxMessageFragmentDelHeaderCstr( change( msg ), name, length );
-}
-
-void telsxMessageDelHeaderWcstr( TELSX_MESSAGE *msg, const wchar_t *name, int64_t length )
-{
-    telsxMessageFragmentDelHeaderWcstr( change( msg ), name, length );
-}
-
 void telsxMessageSetBody( TELSX_MESSAGE *msg, RT_BUFFER body )
 {
     telsxMessageFragmentSetBody( change( msg ), body );
 }
 
 void telsxMessageDelBody( TELSX_MESSAGE *msg ) { telsxMessageFragmentDelBody( change( msg ) ); }
+
+// What takes a text, with the text as 8-bit and as wide characters
+
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE, MessageCreateRequest, ( TELSX_VERSION ), ( RT_STRING ) )
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE, MessageCreateResponseWithReasonPhrase, ( TELSX_VERSION, int64_t ),
+                         () )
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE_HEADER, MessageHeader, ( TELSX_MESSAGE ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_BOOL, MessageHasHeader, ( TELSX_MESSAGE ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageSetRequest, ( TELSX_MESSAGE *, TELSX_VERSION ), ( RT_STRING ) )
+TELSX_DEFINE_TEXT_FORMS( void, MessageSetResponseWithReasonPhrase,
+                         ( TELSX_MESSAGE *, TELSX_VERSION, int64_t ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageSetRequestMethod, (TELSX_MESSAGE *), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageSetRequestIri, (TELSX_MESSAGE *), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageSetResponseReasonPhrase, (TELSX_MESSAGE *), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageDelHeader, (TELSX_MESSAGE *), () )

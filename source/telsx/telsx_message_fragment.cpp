@@ -6,6 +6,7 @@
 #include "telsx/telsx_method.h"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_text_forms.hpp"
 
 using namespace telsx;
 
@@ -225,59 +226,17 @@ TELSX_DEFINE_OPTION( MessageFragment, frag, Body, body )
 
 // Functions that take a text, with the text as 8-bit and as wide characters
 
-#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
-    TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateRequest##SUFFIX(                                        \
-        TELSX_VERSION version, const CHAR *method, int64_t length, RT_STRING iri )                           \
-    {                                                                                                        \
-        return telsxMessageFragmentCreateRequest( version, text( method, length ).get(), iri );              \
-    }                                                                                                        \
-    void telsxMessageFragmentSetRequest##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version,        \
-                                                 const CHAR *method, int64_t length, RT_STRING iri )         \
-    {                                                                                                        \
-        telsxMessageFragmentSetRequest( frag, version, text( method, length ).get(), iri );                  \
-    }                                                                                                        \
-    TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreateResponseWithReasonPhrase##SUFFIX(                       \
-        TELSX_VERSION version, int64_t sc, const CHAR *reasonPhrase, int64_t length )                        \
-    {                                                                                                        \
-        return telsxMessageFragmentCreateResponseWithReasonPhrase( version, sc,                              \
-                                                                   text( reasonPhrase, length ).get() );     \
-    }                                                                                                        \
-    void telsxMessageFragmentSetResponseWithReasonPhrase##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag,              \
-                                                                  TELSX_VERSION version, int64_t sc,         \
-                                                                  const CHAR *reasonPhrase, int64_t length ) \
-    {                                                                                                        \
-        telsxMessageFragmentSetResponseWithReasonPhrase( frag, version, sc,                                  \
-                                                         text( reasonPhrase, length ).get() );               \
-    }                                                                                                        \
-    void telsxMessageFragmentSetRequestMethod##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, const CHAR *method,     \
-                                                       int64_t length )                                      \
-    {                                                                                                        \
-        telsxMessageFragmentSetRequestMethod( frag, text( method, length ).get() );                          \
-    }                                                                                                        \
-    void telsxMessageFragmentSetRequestIri##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, const CHAR *iri,           \
-                                                    int64_t length )                                         \
-    {                                                                                                        \
-        telsxMessageFragmentSetRequestIri( frag, text( iri, length ).get() );                                \
-    }                                                                                                        \
-    void telsxMessageFragmentSetResponseReasonPhrase##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag,                  \
-                                                              const CHAR *reasonPhrase, int64_t length )     \
-    {                                                                                                        \
-        telsxMessageFragmentSetResponseReasonPhrase( frag, text( reasonPhrase, length ).get() );             \
-    }                                                                                                        \
-    TELSX_MESSAGE_HEADER telsxMessageFragmentHeader##SUFFIX( TELSX_MESSAGE_FRAGMENT frag, const CHAR *name,  \
-                                                             int64_t length )                                \
-    {                                                                                                        \
-        return telsxMessageFragmentHeader( frag, text( name, length ).get() );                               \
-    }                                                                                                        \
-    RT_BOOL telsxMessageFragmentHasHeader##SUFFIX( TELSX_MESSAGE_FRAGMENT frag, const CHAR *name,            \
-                                                   int64_t length )                                          \
-    {                                                                                                        \
-        return telsxMessageFragmentHasHeader( frag, text( name, length ).get() );                            \
-    }                                                                                                        \
-    void telsxMessageFragmentDelHeader##SUFFIX( TELSX_MESSAGE_FRAGMENT *frag, const CHAR *name,              \
-                                                int64_t length )                                             \
-    {                                                                                                        \
-        telsxMessageFragmentDelHeader( frag, text( name, length ).get() );                                   \
-    }
-TEXT_VARIANTS( Cstr, char )
-TEXT_VARIANTS( Wcstr, wchar_t )
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE_FRAGMENT, MessageFragmentCreateRequest, ( TELSX_VERSION ),
+                         ( RT_STRING ) )
+TELSX_DEFINE_TEXT_FORMS( void, MessageFragmentSetRequest, ( TELSX_MESSAGE_FRAGMENT *, TELSX_VERSION ),
+                         ( RT_STRING ) )
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE_FRAGMENT, MessageFragmentCreateResponseWithReasonPhrase,
+                         ( TELSX_VERSION, int64_t ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageFragmentSetResponseWithReasonPhrase,
+                         ( TELSX_MESSAGE_FRAGMENT *, TELSX_VERSION, int64_t ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageFragmentSetRequestMethod, (TELSX_MESSAGE_FRAGMENT *), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageFragmentSetRequestIri, (TELSX_MESSAGE_FRAGMENT *), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageFragmentSetResponseReasonPhrase, (TELSX_MESSAGE_FRAGMENT *), () )
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE_HEADER, MessageFragmentHeader, ( TELSX_MESSAGE_FRAGMENT ), () )
+TELSX_DEFINE_TEXT_FORMS( RT_BOOL, MessageFragmentHasHeader, ( TELSX_MESSAGE_FRAGMENT ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageFragmentDelHeader, (TELSX_MESSAGE_FRAGMENT *), () )

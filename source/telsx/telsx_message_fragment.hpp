@@ -1,6 +1,7 @@
 // The inside of a fragment, for the units that convert it between bytes and objects.
 #pragma once
 
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "rsc/rsc.h"
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
@@ -98,8 +99,7 @@ static bool decodeHeader( HeaderTable *table, Bytes text )
     int64_t number = scanKnownNameNumber( nameBytes.data(), nameBytes.size() );
     if ( number != -1 )
     {
-        addLine( table, { const_cast<RT_STRING>( knownNames[number].name ), number }, begin,
-                 lengthOf( line ) );
+        addLine( table, { knownNames[number].name, number }, begin, lengthOf( line ) );
         return true;
     }
     Ref<RT_STRING> other = tryDecodeOtherName( nameBytes );

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "rsc/rsc.h"
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
 #include "telsx/telsx_message_header.hpp"

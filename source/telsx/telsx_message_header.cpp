@@ -2,7 +2,9 @@
 #include "telsx/telsx_message_header.h"
 
 #include "telsx/telsx_message_header.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
+#include "telsx/telsx_text_forms.hpp"
 
 using namespace telsx;
 
@@ -233,46 +235,25 @@ TELSX_MESSAGE_HEADER telsxMessageHeaderRestoreLines( RT_STRING name, RT_STORE st
 }
 
 // Functions that take a text, with the text as 8-bit and as wide characters
-#define TEXT_VARIANTS( SUFFIX, CHAR )                                                                        \
-    TELSX_MESSAGE_HEADER telsxMessageHeaderCreate##SUFFIX( const CHAR *name, int64_t length )                \
-    {                                                                                                        \
-        return telsxMessageHeaderCreate( text( name, length ).get() );                                       \
-    }                                                                                                        \
-    RT_BOOL telsxMessageHeaderNameEquals##SUFFIX( TELSX_MESSAGE_HEADER header, const CHAR *name,             \
-                                                  int64_t length )                                           \
-    {                                                                                                        \
-        return telsxMessageHeaderNameEquals( header, text( name, length ).get() );                           \
-    }                                                                                                        \
-    void telsxMessageHeaderSetName##SUFFIX( TELSX_MESSAGE_HEADER *header, const CHAR *name, int64_t length ) \
-    {                                                                                                        \
-        telsxMessageHeaderSetName( header, text( name, length ).get() );                                     \
-    }                                                                                                        \
-    void telsxMessageHeaderSetLineAt##SUFFIX( TELSX_MESSAGE_HEADER *header, int64_t index,                   \
-                                              const CHAR *value, int64_t length )                            \
-    {                                                                                                        \
-        telsxMessageHeaderSetLineAt( header, index, text( value, length ).get() );                           \
-    }                                                                                                        \
-    void telsxMessageHeaderAppendLine##SUFFIX( TELSX_MESSAGE_HEADER *header, const CHAR *value,              \
-                                               int64_t length )                                              \
-    {                                                                                                        \
-        telsxMessageHeaderAppendLine( header, text( value, length ).get() );                                 \
-    }                                                                                                        \
-    void telsxMessageHeaderSetLineAtFormat##SUFFIX( TELSX_MESSAGE_HEADER *header, int64_t index,             \
-                                                    const CHAR *format, int64_t length, ... )                \
-    {                                                                                                        \
-        LINE_FROM_FORMAT( line, length, rtStringCreateFromFormat##SUFFIX##ArgList, format, length );         \
-        telsxMessageHeaderSetLineAt( header, index, line.get() );                                            \
-    }                                                                                                        \
-    void telsxMessageHeaderAppendLineFormat##SUFFIX( TELSX_MESSAGE_HEADER *header, const CHAR *format,       \
-                                                     int64_t length, ... )                                   \
-    {                                                                                                        \
-        LINE_FROM_FORMAT( line, length, rtStringCreateFromFormat##SUFFIX##ArgList, format, length );         \
-        telsxMessageHeaderAppendLine( header, line.get() );                                                  \
-    }                                                                                                        \
-    TELSX_MESSAGE_HEADER telsxMessageHeaderRestoreLines##SUFFIX( const CHAR *name, int64_t length,           \
-                                                                 RT_STORE store )                            \
-    {                                                                                                        \
-        return telsxMessageHeaderRestoreLines( text( name, length ).get(), store );                          \
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE_HEADER, MessageHeaderCreate, (), () )
+TELSX_DEFINE_TEXT_FORMS( RT_BOOL, MessageHeaderNameEquals, ( TELSX_MESSAGE_HEADER ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageHeaderSetName, (TELSX_MESSAGE_HEADER *), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageHeaderSetLineAt, ( TELSX_MESSAGE_HEADER *, int64_t ), () )
+TELSX_DEFINE_TEXT_FORMS( void, MessageHeaderAppendLine, (TELSX_MESSAGE_HEADER *), () )
+TELSX_DEFINE_TEXT_FORMS( TELSX_MESSAGE_HEADER, MessageHeaderRestoreLines, (), ( RT_STORE ) )
+
+#define LINE_FORMS( SUFFIX, CHAR )                                                                     \
+    void telsxMessageHeaderSetLineAtFormat##SUFFIX( TELSX_MESSAGE_HEADER *header, int64_t index,       \
+                                                    const CHAR *format, int64_t length, ... )          \
+    {                                                                                                  \
+        LINE_FROM_FORMAT( line, length, rtStringCreateFromFormat##SUFFIX##ArgList, format, length );   \
+        telsxMessageHeaderSetLineAt( header, index, line.get() );                                      \
+    }                                                                                                  \
+    void telsxMessageHeaderAppendLineFormat##SUFFIX( TELSX_MESSAGE_HEADER *header, const CHAR *format, \
+                                                     int64_t length, ... )                             \
+    {                                                                                                  \
+        LINE_FROM_FORMAT( line, length, rtStringCreateFromFormat##SUFFIX##ArgList, format, length );   \
+        telsxMessageHeaderAppendLine( header, line.get() );                                            \
     }
-TEXT_VARIANTS( Cstr, char )
-TEXT_VARIANTS( Wcstr, wchar_t )
+LINE_FORMS( Cstr, char )
+LINE_FORMS( Wcstr, wchar_t )

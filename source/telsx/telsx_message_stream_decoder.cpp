@@ -1,6 +1,7 @@
 // Message stream decoder (RFC 3261, 18.3 and 7.5).
 #include "telsx/telsx_message_stream_decoder.h"
 
+#include "telsx/telsx_bytes.hpp"
 #include "telsx/telsx_message_fragment.hpp"
 #include "telsx/telsx_text.hpp"
 

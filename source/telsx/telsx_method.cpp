@@ -1,6 +1,7 @@
 // Method (RFC 3261, 25.1).
 #include "telsx/telsx_method.h"
 
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;

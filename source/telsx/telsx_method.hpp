@@ -2,6 +2,7 @@
 #pragma once
 
 #include "telsx/telsx_method.h"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 namespace telsx

@@ -1,6 +1,7 @@
 // Numbers in decimal digits.
 #pragma once
 
+#include "rt/rt_ascii.hpp"
 #include "telsx/telsx_text.hpp"
 
 namespace telsx
@@ -12,15 +13,8 @@ inline RT_STRING encodeNumber( int64_t number ) { return joined( Decimal( number
 template <class CHAR>
 int64_t tryDecodeDigits( const CHAR *chs, int64_t length )
 {
-    int64_t value = 0;
-    for ( int64_t at = 0; at < length; ++at )
-    {
-        auto digit = static_cast<uint32_t>( chs[at] ) - '0';
-        if ( digit > 9 || __builtin_mul_overflow( value, 10, &value )
-             || __builtin_add_overflow( value, digit, &value ) )
-            return -1;
-    }
-    return length ? value : -1;
+    int64_t value = -1;
+    return rt::readNumber( chs, length, 10, &value ) == length ? value : -1;
 }
 inline int64_t tryDecodeNumber( Text text, RT_BOOL ( *isOk )( int64_t ) = nullptr )
 {

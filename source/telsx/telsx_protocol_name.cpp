@@ -1,6 +1,7 @@
 // Protocol name (RFC 3261, 25.1).
 #include "telsx/telsx_protocol_name.h"
 
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;

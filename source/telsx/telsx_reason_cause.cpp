@@ -2,7 +2,6 @@
 #include "telsx/telsx_reason_cause.h"
 
 #include "telsx/telsx_char.hpp"
-#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;

@@ -20,6 +20,6 @@ RT_STRING telsxRefresherNormalize( RT_STRING refresher )
 int64_t telsx___SkipRefresher( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    int64_t uac = skipWordInAnyCase( { chs, length }, literal<"uac">() );
-    return uac ? uac : skipWordInAnyCase( { chs, length }, literal<"uas">() );
+    Text text = { chs, length };
+    return beginsInAnyCase<"uac">( text ) || beginsInAnyCase<"uas">( text ) ? 3 : 0;
 }

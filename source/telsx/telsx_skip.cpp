@@ -5,8 +5,10 @@
 #include <span>
 #include <string_view>
 
+#include "rt/rt_ascii.hpp"
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_content_coding.h"
+#include "telsx/telsx_date.hpp"
 #include "telsx/telsx_host.h"
 #include "telsx/telsx_iri.h"
 #include "telsx/telsx_media_subtype.h"
@@ -15,7 +17,6 @@
 #include "telsx/telsx_reason_protocol.h"
 #include "telsx/telsx_text.hpp"
 #include "telsx/telsx_transport.h"
-#include "telsx/telsx_warn_agent.h"
 
 using namespace telsx;
 
@@ -27,8 +28,6 @@ int64_t telsx___SkipChar( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
     TELSX_ASSERT( RT_CHAR_OK( ch ) );
     return length && chs[0] == ch;
 }
-
-static RT_CHAR asciiLower( RT_CHAR ch ) { return ch >= 'A' && ch <= 'Z' ? ch + 0x20 : ch; }
 
 template <class SAME>
 static int64_t skipText( Text text, Text skip, SAME same )
@@ -51,7 +50,8 @@ int64_t telsx___SkipCharsAsciiCaseFold( const RT_CHAR *chs, int64_t length, cons
     TELSX_ASSERT_CHARS( chs, length );
     TELSX_ASSERT_CHARS( skipChs, skipLength );
     return skipText( { chs, length }, { skipChs, skipLength },
-                     []( RT_CHAR a, RT_CHAR b ) { return a == b || asciiLower( a ) == asciiLower( b ); } );
+                     []( RT_CHAR a, RT_CHAR b )
+                     { return a == b || rt::lowerAscii( a ) == rt::lowerAscii( b ); } );
 }
 
 // Runs
@@ -473,7 +473,7 @@ int64_t telsx___SkipWarnCode( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipWarnAgent( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return skipAny( { chs, length }, telsx___SkipHostPort, telsx___SkipPseudonym );
+    return skipAny( { chs, length }, telsx___SkipHostPort, telsx___SkipToken );
 }
 
 int64_t telsx___SkipWarningValue( const RT_CHAR *chs, int64_t length )
@@ -528,14 +528,11 @@ static int64_t skipName( Text text, std::span<const std::string_view> names, int
 int64_t telsx___SkipMonth( const RT_CHAR *chs, int64_t length, int64_t *month )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    static constexpr std::string_view months[] = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
-    return skipName( { chs, length }, months, 1, month );
+    return skipName( { chs, length }, monthNames, 1, month );
 }
 
 int64_t telsx___SkipWkday( const RT_CHAR *chs, int64_t length, int64_t *weekday )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    static constexpr std::string_view weekdays[] = { "Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun" };
-    return skipName( { chs, length }, weekdays, 0, weekday );
+    return skipName( { chs, length }, weekdayNames, 0, weekday );
 }

@@ -5,10 +5,10 @@
 #include <charconv>
 #include <string_view>
 
+#include "rt/rt_ascii.hpp"
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx_frame.hpp"
-#include "telsx/telsx_skip.h"
 
 namespace telsx
 {
@@ -74,13 +74,7 @@ void append( Ref<RT_STRING> &text, const PIECE &...pieces )
 }
 
 // An empty text that grows to this length without being moved.
-inline Ref<RT_STRING> textWithRoom( int64_t length )
-{
-    Ref<RT_STRING> text;
-    rt::newString( length, text.address() );
-    text.get()->length = 0;
-    return text;
-}
+inline Ref<RT_STRING> textWithRoom( int64_t length ) { return adopt( rt::newStringWithRoom( length ) ); }
 
 // The string of such pieces.
 template <class... PIECE>
@@ -115,8 +109,7 @@ bool isThere( const RT_CHAR *chs, std::index_sequence<AT...> )
 template <rt::Ascii WORD, std::size_t... AT>
 bool isThereInAnyCase( const RT_CHAR *chs, std::index_sequence<AT...> )
 {
-    auto isLetter = []( RT_CHAR ch ) { return ch >= 'a' && ch <= 'z'; };
-    return ( ( ( isLetter( WORD.chs[AT] ) ? chs[AT] | 0x20 : chs[AT] ) == WORD.chs[AT] ) && ... );
+    return ( ( ( rt::isLetter( WORD.chs[AT] ) ? chs[AT] | 0x20 : chs[AT] ) == WORD.chs[AT] ) && ... );
 }
 template <rt::Ascii WORD>
 bool equals( Text text )
@@ -149,13 +142,6 @@ RT_STRING findWordInAnyCase( Text text )
               && ( found = literal<WORD>() ) )
             || ... );
     return found;
-}
-
-// The length of the word if the text begins with it, its letters in any case, else 0.
-inline int64_t skipWordInAnyCase( Text text, RT_STRING word )
-{
-    return telsx___SkipCharsAsciiCaseFold( text.chs, text.length, rtStringBacking( word ),
-                                           rtStringLength( word ) );
 }
 
 // Elements with single dots between them; a dot that no element follows is not part of them.

@@ -2,6 +2,7 @@
 #include "telsx/telsx_token.h"
 
 #include "telsx/telsx_char.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;

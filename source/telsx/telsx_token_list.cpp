@@ -1,6 +1,8 @@
 // The headers that are a list of tokens.
 #include "telsx/telsx_token_list.hpp"
 
+#include "telsx/telsx_skip.h"
+
 namespace telsx
 {
 

@@ -4,6 +4,8 @@
 
 #include "telsx/telsx_header.hpp"
 #include "telsx/telsx_items.hpp"
+#include "telsx/telsx_skip.h"
+#include "telsx/telsx_text_forms.hpp"
 
 namespace telsx
 {
@@ -120,16 +122,7 @@ void setEach( T **hdr, RT_VECTOR vec, void ( *set )( T **hdr, RT_STRING element 
     }
 
 // The same functions for 8-bit and for wide characters.
-#define TELSX_DEFINE_TOKEN_SET_CHARS( NAME, WORD, SUFFIX, CHAR )                                          \
-    RT_BOOL telsx##NAME##Has##WORD##SUFFIX( TELSX_HANDLE( NAME ) hdr, const CHAR *chars, int64_t length ) \
-    {                                                                                                     \
-        return telsx##NAME##Has##WORD( hdr, telsx::text( chars, length ).get() );                         \
-    }                                                                                                     \
-    void telsx##NAME##Set##WORD##SUFFIX( TELSX_HANDLE( NAME ) * hdr, const CHAR *chars, int64_t length )  \
-    {                                                                                                     \
-        telsx##NAME##Set##WORD( hdr, telsx::text( chars, length ).get() );                                \
-    }                                                                                                     \
-    void telsx##NAME##Del##WORD##SUFFIX( TELSX_HANDLE( NAME ) * hdr, const CHAR *chars, int64_t length )  \
-    {                                                                                                     \
-        telsx##NAME##Del##WORD( hdr, telsx::text( chars, length ).get() );                                \
-    }
+#define TELSX_DEFINE_TOKEN_SET_CHARS( NAME, WORD )                                    \
+    TELSX_DEFINE_TEXT_FORMS( RT_BOOL, NAME##Has##WORD, ( TELSX_HANDLE( NAME ) ), () ) \
+    TELSX_DEFINE_TEXT_FORMS( void, NAME##Set##WORD, (TELSX_HANDLE( NAME ) *), () )    \
+    TELSX_DEFINE_TEXT_FORMS( void, NAME##Del##WORD, (TELSX_HANDLE( NAME ) *), () )

@@ -3,6 +3,7 @@
 
 #include "rsc/rsc.h"
 #include "telsx/telsx_display_name.h"
+#include "telsx/telsx_skip.h"
 
 namespace telsx
 {

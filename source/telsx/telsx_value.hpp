@@ -2,6 +2,7 @@
 #pragma once
 
 #include "telsx/telsx_generic_params.hpp"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 namespace telsx

@@ -6,6 +6,7 @@
 
 #include "telsx/telsx_header.hpp"
 #include "telsx/telsx_items.hpp"
+#include "telsx/telsx_skip.h"
 
 namespace telsx
 {

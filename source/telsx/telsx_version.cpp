@@ -28,15 +28,9 @@ TELSX_DEFINE_NORMAL_FIELD( Version, version, ProtocolName, protocolName, telsxPr
 TELSX_DEFINE_NORMAL_FIELD( Version, version, ProtocolVersion, protocolVersion,
                            telsxProtocolVersionOk( protocolVersion ), telsxProtocolVersionNormalize )
 
-// The one SIP/2.0 object, set to a constant at start-up. It has the layout of the type without its Refs.
-static constexpr struct
-{
-    RT_OBJECT object;
-    const RT_STRING_ *protocolName, *protocolVersion;
-} sip20 = { { &telsx___sort_TELSX_VERSION, RT_COUNT_IMMORTAL, 0 },
-            &rt::literalObject<"SIP">,
-            &rt::literalObject<"2.0"> };
-static_assert( sizeof sip20 == sizeof( TELSX_VERSION_ ) );
+// The one SIP/2.0, set at start-up to a constant.
+static constexpr TELSX_VERSION_ sip20 = { RT_STATIC_OBJECT( &telsx___sort_TELSX_VERSION ),
+                                          adopt( literal<"SIP">() ), adopt( literal<"2.0">() ) };
 static constinit TELSX_VERSION telsx___VersionSip20 = nullptr;
 
 static TELSX_VERSION create( Ref<RT_STRING> protocolName, Ref<RT_STRING> protocolVersion )
@@ -99,9 +93,6 @@ RT_STRING telsx___VersionEncode( TELSX_VERSION version )
     return joined( version->protocolName, '/', version->protocolVersion ).take();
 }
 
-void telsx___VersionStartup( void )
-{
-    telsx___VersionSip20 = const_cast<TELSX_VERSION>( reinterpret_cast<const TELSX_VERSION_ *>( &sip20 ) );
-}
+void telsx___VersionStartup( void ) { telsx___VersionSip20 = const_cast<TELSX_VERSION>( &sip20 ); }
 
 void telsx___VersionShutdown( void ) { telsx___VersionSip20 = nullptr; }

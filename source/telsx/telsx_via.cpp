@@ -4,6 +4,7 @@
 #include "telsx/telsx_branch.h"
 #include "telsx/telsx_host.hpp"
 #include "telsx/telsx_port.h"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_transport.hpp"
 #include "telsx/telsx_ttl.h"
 #include "telsx/telsx_value.hpp"

@@ -3,6 +3,7 @@
 
 #include "telsx/telsx_char.hpp"
 #include "telsx/telsx_host.h"
+#include "telsx/telsx_skip.h"
 #include "telsx/telsx_text.hpp"
 
 using namespace telsx;

@@ -29,6 +29,8 @@ done
 case $3 in *.deb) export LD_LIBRARY_PATH=$libraries ;; esac
 
 export PKG_CONFIG_PATH=$libraries/pkgconfig
+! pkg-config --print-requires telsx | grep -vF " = $( pkg-config --modversion telsx )" ||
+    fail "telsx would take other versions of these"
 "$cc" -std=c11 -Wall -Wextra -Wpedantic -Werror -o "$scratch/consumer" "$root/tests/install/consumer.c" \
     $( pkg-config --cflags --libs telsx ) "-Wl,-rpath,$libraries"
 "$scratch/consumer" || fail "the program in C exits with $?"
