@@ -248,6 +248,14 @@ sub documented
         $text = $comment{"telsxMessageFragment$1"};
     }
     return "$code\n" unless $text;
+    # The functions of a field share a comment, which tells of the field. This is what each of them does with it.
+    my %does = ( Has => 'Whether the %s is present.', Set => 'Sets the %s.', Del => 'Removes the %s.' );
+    if ( $code =~ /\btelsx(\w+?)(Has|Set|Del)([A-Z]\w*?)(?:Cstr|Wcstr)?\(/ and $known{"telsx$1$3"} )
+    {
+        my ( $verb, $word ) = ( $2, $3 );
+        my $field = lc join ' ', $word =~ /[A-Z][a-z0-9]*/g;
+        $text = sprintf( $does{$verb}, $field =~ s/\biri\b/IRI/r ) . " $text";
+    }
     $code =~ s{/\* (.*?) \*/}{/**< $1 */}g;
     return "/** " . formatted( $text, $unit ) . contract($code) . "*/\n$code\n";
 }
