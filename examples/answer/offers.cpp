@@ -61,7 +61,7 @@ Answer answerToOffer( const std::string &offer )
         std::string first, second, third;
         words >> first >> second >> third;
         if ( first.rfind( "t=", 0 ) == 0 )
-            times += first + ' ' + second + "\r\n";
+            times.append( first ).append( " " ).append( second ).append( "\r\n" );
         else if ( first.rfind( "m=", 0 ) == 0 )
         {
             streams.push_back( { first, second, third, {} } );
