@@ -83,24 +83,24 @@
  *   Append<WORD>         puts the <word> after all other values
  *   Insert<WORD>         puts the <word> before the value at the index, or after all others if the index is the
  *                        length */
-#define TELSX_LIST_OF_VALUES( NAME, SORT, WORD, VALUE_SORT )                                              \
-    RT_API int64_t telsx##NAME##WORD##sLength( TELSX_##SORT hdr );                                        \
-    RT_API TELSX_##VALUE_SORT telsx##NAME##TryDecode##WORD##At( TELSX_##SORT hdr, int64_t index );        \
-    RT_API void telsx##NAME##Set##WORD##At( TELSX_##SORT *hdr, int64_t index, TELSX_##VALUE_SORT value ); \
-    RT_API void telsx##NAME##Del##WORD##At( TELSX_##SORT *hdr, int64_t index );                           \
-    RT_API void telsx##NAME##Prepend##WORD( TELSX_##SORT *hdr, TELSX_##VALUE_SORT value );                \
-    RT_API void telsx##NAME##Append##WORD( TELSX_##SORT *hdr, TELSX_##VALUE_SORT value );                 \
-    RT_API void telsx##NAME##Insert##WORD( TELSX_##SORT *hdr, int64_t index, TELSX_##VALUE_SORT value );
+#define TELSX_LIST_OF_VALUES( NAME, SORT, WORD, VALUE )                                      \
+    RT_API int64_t telsx##NAME##WORD##sLength( TELSX_##SORT hdr );                           \
+    RT_API VALUE telsx##NAME##TryDecode##WORD##At( TELSX_##SORT hdr, int64_t index );        \
+    RT_API void telsx##NAME##Set##WORD##At( TELSX_##SORT *hdr, int64_t index, VALUE value ); \
+    RT_API void telsx##NAME##Del##WORD##At( TELSX_##SORT *hdr, int64_t index );              \
+    RT_API void telsx##NAME##Prepend##WORD( TELSX_##SORT *hdr, VALUE value );                \
+    RT_API void telsx##NAME##Append##WORD( TELSX_##SORT *hdr, VALUE value );                 \
+    RT_API void telsx##NAME##Insert##WORD( TELSX_##SORT *hdr, int64_t index, VALUE value );
 
 /* A typed header that is a list of values: the functions of TELSX_LIST_OF_VALUES and
  *
  *   Create               a new header with an empty list
  *   Clear<WORD>s         empties the list */
-#define TELSX_HEADER_OF_VALUES( NAME, SORT, WORD, VALUE_SORT ) \
-    TELSX_HEADER( NAME, SORT )                                 \
-    TELSX_FREE_FUNC( NAME )                                    \
-    RT_API TELSX_##SORT telsx##NAME##Create( void );           \
-    TELSX_LIST_OF_VALUES( NAME, SORT, WORD, VALUE_SORT )       \
+#define TELSX_HEADER_OF_VALUES( NAME, SORT, WORD, VALUE_SORT )   \
+    TELSX_HEADER( NAME, SORT )                                   \
+    TELSX_FREE_FUNC( NAME )                                      \
+    RT_API TELSX_##SORT telsx##NAME##Create( void );             \
+    TELSX_LIST_OF_VALUES( NAME, SORT, WORD, TELSX_##VALUE_SORT ) \
     RT_API void telsx##NAME##Clear##WORD##s( TELSX_##SORT *hdr );
 
 /* A typed header that is a list of texts, which may hold a text more than once. The header is written on one line; an

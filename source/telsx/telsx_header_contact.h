@@ -14,7 +14,7 @@ RT_BEGIN
 
 TELSX_HEADER( HeaderContact, HEADER_CONTACT )
 TELSX_FREE_FUNC( HeaderContact )
-TELSX_LIST_OF_VALUES( HeaderContact, HEADER_CONTACT, Contact, CONTACT )
+TELSX_LIST_OF_VALUES( HeaderContact, HEADER_CONTACT, Contact, TELSX_CONTACT )
 
 /* An empty header, not in star form. */
 RT_API TELSX_HEADER_CONTACT telsxHeaderContactCreate( void );

@@ -13,7 +13,7 @@ RT_BEGIN
 
 TELSX_HEADER( HeaderWarning, HEADER_WARNING )
 TELSX_FREE_FUNC( HeaderWarning )
-TELSX_LIST_OF_VALUES( HeaderWarning, HEADER_WARNING, Warning, WARNING_VALUE )
+TELSX_LIST_OF_VALUES( HeaderWarning, HEADER_WARNING, Warning, TELSX_WARNING_VALUE )
 
 /* An empty header. */
 RT_API TELSX_HEADER_WARNING telsxHeaderWarningCreate( void );

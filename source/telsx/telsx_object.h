@@ -30,14 +30,18 @@
 #define TELSX_COMPARE_FUNC( NAME ) RT_API int64_t telsx___##NAME##CompareFunc( RT_OBJ objA, RT_OBJ objB );
 #define TELSX_TO_STRING_FUNC( NAME ) RT_API RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj );
 
-/* A value of a list header, and what such a header needs of it:
+/* A value of a list header: the functions of TELSX_OBJECT, and what such a header needs of the value. TELSX_OBJECT is not
+ * used here, because the preprocessor expands what one macro hands on to another, and other libraries define names such as
+ * ACCEPT.
  *
+ *   CreateFrom        creates an object with the same fields, which shares what they refer to; aborts for null
  *   Encode            the value's text, a new reference; aborts for null
  *   TryDecode         decodes one whole value: a new reference, or null for bad text; aborts for a negative length, and
  *                     for null unless the length is 0
  *   FreeFunc          the function for the slot of the sort record */
 #define TELSX_VALUE_OBJECT( NAME, SORT )                                                 \
-    TELSX_OBJECT( NAME, SORT )                                                           \
+    RT_OBJECT_TYPE( RT_API, telsx##NAME, TELSX_##SORT )                                  \
+    RT_API TELSX_##SORT telsx##NAME##CreateFrom( TELSX_##SORT source );                  \
     RT_API RT_STRING telsx___##NAME##Encode( TELSX_##SORT value );                       \
     RT_API TELSX_##SORT telsx___##NAME##TryDecode( const RT_CHAR *chs, int64_t length ); \
     RT_API void telsx___##NAME##FreeFunc( RT_OBJ obj );
