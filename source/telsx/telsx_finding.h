@@ -6,7 +6,7 @@
  * Findings sort by offset, then by the fields in the order below. The text of one is the line that a compiler
  * would print after the name of the file:
  *
- *     4:23: warning: Via: expected a host instead of ";" [via-host] */
+ *     2:18: warning: Via: expected a host, found ";branch=z9hG4bK776asdhds" [via-host] */
 #ifndef TELSX_TELSX_FINDING_H
 #define TELSX_TELSX_FINDING_H
 
