@@ -379,7 +379,7 @@ void HeaderCheck::reportItems()
         if ( line.number != number || at == itemFaults.length() )
             continue;
         PlacedText text = head().textOf( line );
-        for ( Text rest = valueOf( text ); rest; ++item )
+        for ( Text rest = valueOf( text ); rest; )
         {
             Text value = rest.take( kind->skipItem );
             for ( ; at < itemFaults.length() && itemFaults[at].item == item; ++at )
@@ -392,16 +392,15 @@ void HeaderCheck::reportItems()
                 else if ( rule != findingRule( "-ambiguous" ) || !hasBrackets )
                     findings.add( *rule, text.placeOf( value ), nameOf( number ) );
             }
+            ++item;
             if ( !rest.take( kind->skipSeparator ) )
                 break;
         }
     }
+    PlacedText first = at < itemFaults.length() ? textOfLine( false ) : PlacedText();
     for ( ; at < itemFaults.length(); ++at )
         if ( !itemFaults[at].rule )
-        {
-            PlacedText text = textOfLine( false );
-            warn( text, valueOf( text ), {} );
-        }
+            warn( first, valueOf( first ), {} );
     itemFaults.clear();
 }
 

@@ -148,6 +148,7 @@ TEST( Findings, WarningsSayWhereTheGrammarEnds )
                      { "contact-star-alone", "Contact: *^, <sip:alice@pc33.atlanta.example>" },
                      { "contact-bracket", "Contact: <sip:a@b>, caller^" },
                      { "contact-param", "Contact: <sip:a@b>;expires=10^s" },
+                     { "reason-param", "Reason: SIP\r\nReason: Q.850;cause=1^x" },
                      { "date-date", "Date: ^Fri, 13 Nov 2010 23:29:00 GMT" },
                      { "supported-option-tag", "Supported: 100rel, ^@" },
                      { "supported-option-tag", "Supported: 100rel,^" },
@@ -181,7 +182,7 @@ TEST( Findings, RemarksSayWhichRuleIsBroken )
                       { "contact-count", "Contact: <sip:a@b>, ^<sip:a@c>" },
                       { "contact-star", "Contact: ^*" },
                       { "contact-maddr", "Contact: ^<sip:a@b;maddr=192.0.2.1>" },
-                      { "route-lr", "Route: <sip:a@b;lr>, ^<sip:a@b;lr=on>" },
+                      { "route-lr", "Route: <sip:a@b;lr>\r\nRoute: <sip:a@c;lr>, ^<sip:a@b;lr=on>" },
                       { "lone-lf", "X-A: a^\nb: c" },
                   } );
     expectFaults( response, {
