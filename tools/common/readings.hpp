@@ -1,15 +1,15 @@
 // The typed reading of a message: what its headers say, for each kind that the library has a type for.
 #pragma once
 
-#include <iomanip>
+#include <type_traits>
 
-#include "example.hpp"
+#include "listing.hpp"
 
-// Writes what a value or a header says, a field on a line; what is absent has no line.
+// Tells what a value or a header says, field by field; what is absent is left out.
 class Reading
 {
 public:
-    explicit Reading( std::ostream &to ) : out( to ) {}
+    explicit Reading( Listing &listing ) : to( listing ) {}
 
     void operator()( TELSX_HEADER_CALL_ID header ) const
     {
@@ -148,7 +148,7 @@ public:
         if ( Owned received{ telsxViaReceived( via ) } )
             field( "received", netAddressToString( received.get() ) );
         if ( telsxViaHasRportEmpty( via ) )
-            line( "rport", "asked for" );
+            to.field( "rport", toString( "asked for" ) );
         field( "rport", telsxViaRportNumeric( via ) );
         field( "branch", telsxViaBranch( via ) );
         parameters( telsxViaGenericParams( via ) );
@@ -162,28 +162,22 @@ public:
     }
 
 private:
-    void line( const char *name, const std::string &text ) const
-    {
-        out << "    " << std::left << std::setw( 14 ) << name << text << '\n';
-    }
-
     // What the getters return: a new reference or null, a number or -1.
     void field( const char *name, RT_STRING text ) const
     {
         if ( Owned owned{ text } )
-            line( name, printable( owned ) );
+            to.field( name, owned );
     }
     void field( const char *name, int64_t number ) const
     {
         if ( number != -1 )
-            line( name, std::to_string( number ) );
+            to.field( name, number );
     }
 
     void weight( int64_t thousandths ) const
     {
         if ( thousandths != -1 )
-            line( "q", std::to_string( thousandths / 1000 ) + '.'
-                           + std::to_string( 1000 + thousandths % 1000 ).substr( 1 ) );
+            to.weight( "q", thousandths );
     }
 
     void parameters( TELSX_GENERIC_PARAMS params ) const
@@ -192,24 +186,28 @@ private:
         for ( int64_t i = 0; i < telsxGenericParamsLength( params ); ++i )
         {
             Owned param( telsxGenericParamsParamAt( params, i ) );
-            Owned value( telsxGenericParamValueNonNormalized( param.get() ) );
-            line( "parameter", printable( Owned( telsxGenericParamName( param.get() ) ) )
-                                   + ( value ? "=" + printable( value ) : "" ) );
+            to.parameter( Owned( telsxGenericParamName( param.get() ) ),
+                          Owned( telsxGenericParamValueNonNormalized( param.get() ) ) );
         }
     }
 
-    std::ostream &out;
+    Listing &to;
 };
 
 // Of a kind that is one value. A kind that Reading doesn't know shows its text.
 template <class HANDLE>
-void showHeader( const char *name, const Owned<HANDLE> &header, RT_STRING ( *toString )( HANDLE ) )
+void listHeader( Listing &to, const char *name, const Owned<HANDLE> &header, RT_STRING ( *toText )( HANDLE ) )
 {
-    std::cout << "  " << name << '\n';
+    to.beginHeader( name, 1 );
     if constexpr ( std::is_invocable_v<Reading, HANDLE> )
-        Reading{ std::cout }( header.get() );
+    {
+        to.beginValue();
+        Reading{ to }( header.get() );
+        to.endValue();
+    }
     else
-        std::cout << "    " << printable( Owned( toString( header.get() ) ) ) << '\n';
+        to.text( Owned( toText( header.get() ) ) );
+    to.endHeader();
 }
 
 inline bool isStar( TELSX_HEADER_CONTACT header ) { return telsxHeaderContactIsStarForm( header ); }
@@ -217,51 +215,57 @@ inline bool isStar( const void * ) { return false; }
 
 // Of a kind that is a list of values.
 template <class HANDLE, class VALUE>
-void showValues( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
+void listValues( Listing &to, const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                  VALUE ( *tryDecodeAt )( HANDLE, int64_t ) )
 {
+    bool star = isStar( header.get() );
     int64_t length = lengthOf( header.get() );
-    if ( length == 0 )
-        std::cout << "  " << name << ( isStar( header.get() ) ? "\n    *\n" : " is empty\n" );
+    to.beginHeader( name, star ? 1 : length );
+    if ( star )
+        to.text( toString( "*" ) );
     for ( int64_t i = 0; i < length; ++i )
     {
-        Owned value( tryDecodeAt( header.get(), i ) );
-        std::cout << "  " << name;
-        if ( length > 1 )
-            std::cout << ' ' << i + 1 << " of " << length;
-        std::cout << ( value ? "\n" : " does not decode\n" );
-        if ( value )
-            Reading{ std::cout }( value.get() );
+        if ( Owned value{ tryDecodeAt( header.get(), i ) } )
+        {
+            to.beginValue();
+            Reading{ to }( value.get() );
+            to.endValue();
+        }
+        else
+            to.unreadableValue();
     }
+    to.endHeader();
 }
 
 // Of a kind that is a list or a set of texts.
 template <class HANDLE>
-void showTexts( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
+void listTexts( Listing &to, const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                 RT_STRING ( *textAt )( HANDLE, int64_t ) )
 {
     int64_t length = lengthOf( header.get() );
-    std::cout << "  " << name << ( length ? "\n" : " is empty\n" );
+    to.beginHeader( name, length );
     for ( int64_t i = 0; i < length; ++i )
-        std::cout << "    " << printable( Owned( textAt( header.get(), i ) ) ) << '\n';
+        to.text( Owned( textAt( header.get(), i ) ) );
+    to.endHeader();
 }
 
-// Goes through all kinds and shows those that the message holds.
-inline void showTyped( const Message &message )
+// Goes through all kinds and tells those that the message holds.
+inline void listTyped( const Message &message, Listing &to )
 {
     TELSX_MESSAGE msg = message.get();
-    std::cout << "typed\n";
-#define SHOW( NAME, SORT, SIP_NAME, SHOW_HEADER, ... )              \
+    to.beginTyped();
+#define LIST( NAME, SORT, SIP_NAME, LIST_HEADER, ... )              \
     if ( Owned header{ telsx##NAME##TryDecodeFromMessage( msg ) } ) \
-        SHOW_HEADER( SIP_NAME, header, __VA_ARGS__ );               \
+        LIST_HEADER( to, SIP_NAME, header, __VA_ARGS__ );           \
     else if ( telsx##NAME##PresentInMessage( msg ) )                \
-        std::cout << "  " SIP_NAME " does not decode\n";
-#define TELSX_KIND( NAME, SORT, SIP_NAME ) SHOW( NAME, SORT, SIP_NAME, showHeader, telsx##NAME##ToString )
+        to.unreadable( SIP_NAME );
+#define TELSX_KIND( NAME, SORT, SIP_NAME ) LIST( NAME, SORT, SIP_NAME, listHeader, telsx##NAME##ToString )
 #define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE ) \
-    SHOW( NAME, SORT, SIP_NAME, showValues, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At )
+    LIST( NAME, SORT, SIP_NAME, listValues, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At )
 #define TELSX_KIND_OF_TEXTS( NAME, SORT, SIP_NAME, WORD ) \
-    SHOW( NAME, SORT, SIP_NAME, showTexts, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At )
+    LIST( NAME, SORT, SIP_NAME, listTexts, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At )
 #include <telsx/telsx_headers.def>
 #undef TELSX_KIND
-#undef SHOW
+#undef LIST
+    to.endTyped();
 }
