@@ -52,10 +52,9 @@ inline std::size_t steeringBytes( std::string_view utf8 )
 }
 
 // The bytes as they may go to a terminal. Steering characters become "\x1b" and the like, and so does every byte outside
-// ASCII if the bytes aren't UTF-8.
-inline std::string printable( std::string_view bytes )
+// ASCII unless they are known to be UTF-8.
+inline std::string printable( std::string_view bytes, bool utf8 )
 {
-    bool utf8 = bool( toString( bytes ) );
     std::string result;
     for ( std::size_t i = 0; i < bytes.size(); )
     {
@@ -73,5 +72,9 @@ inline std::string printable( std::string_view bytes )
     return result;
 }
 
-// The same for a text of the library.
-inline std::string printable( const String &text ) { return printable( toUtf8( text ) ); }
+// The same for bytes that may be UTF-8, and for a text of the library.
+inline std::string printable( std::string_view bytes )
+{
+    return printable( bytes, bool( toString( bytes ) ) );
+}
+inline std::string printable( const String &text ) { return printable( toUtf8( text ), true ); }
