@@ -18,7 +18,7 @@ done
 mv "$scratch/first" "$scratch/moved"
 cd "$scratch/moved/usr"
 
-! grep -rlF -e "$root" -e "$scratch" . || fail "these files name a folder of the build"
+! grep -rlF -e "$root/source" -e "$root/build" -e "$3" -e "$scratch" . || fail "these files name a folder of the build"
 diff <( cd "$root/source" && printf 'include/corvane/%s\n' */*.{h,def} $( ls telsx/telsx.hpp 2>/dev/null ) | sort ) \
     --label "public headers" <( find include -type f | sort ) || fail "these headers differ"
 libraries=$( dirname "$( find "$PWD" -name libtelsx.so )" )
@@ -35,7 +35,8 @@ export PKG_CONFIG_PATH=$libraries/pkgconfig
 ! readelf -d "$scratch/consumer" | grep -E 'NEEDED.*(telsx|corvane)' | grep -vE '\.so\.[0-9]+\]' ||
     fail "the program needs libraries without a version"
 
-cmake -S "$root/tests/install" -B "$scratch/build" -D "CMAKE_CXX_COMPILER=$cxx" -D "CMAKE_PREFIX_PATH=$PWD" \
+cmake -G "${CMAKE_GENERATOR:-Ninja}" -S "$root/tests/install" -B "$scratch/build" \
+    -D "CMAKE_CXX_COMPILER=$cxx" -D "CMAKE_PREFIX_PATH=$PWD" \
     -D "VERSION=$( pkg-config --modversion telsx )" >"$scratch/log" &&
     cmake --build "$scratch/build" >>"$scratch/log" || { cat "$scratch/log"; exit 1; }
 "$scratch/build/consumer" || fail "the program in C++ exits with $?"
