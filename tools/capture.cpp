@@ -37,7 +37,7 @@ void tell( const char *name, const Losses &losses )
 } // namespace
 
 // By the first four bytes: those of pcapng, and of pcap in both orders, with microseconds, with nanoseconds and of an old
-// kind with more in front of each packet. They are put back.
+// kind with more before each packet. They are put back.
 bool isCapture( std::FILE *file )
 {
     static const char magics[][5] = { "\x0A\x0D\x0D\x0A", "\xA1\xB2\xC3\xD4", "\xD4\xC3\xB2\xA1",

@@ -197,7 +197,7 @@ Cut Cutter::cut( std::size_t count )
     return result;
 }
 
-// Leaves bytes behind, which stay in memory until more are added.
+// Goes past bytes, which stay in memory until more are added.
 void Cutter::skip( std::size_t count )
 {
     if ( kind == Kind::File )

@@ -33,7 +33,7 @@ public:
     // Takes a packet of TCP.
     void add( const Packet &packet );
 
-    // No packets come any more: gives out what waits behind holes. A message that is not whole is none.
+    // No packets come any more: gives out what waits after holes. A message that is not whole is none.
     void finish();
 
     // Places where bytes are missing; streams that were given up or ended inside a message; messages that were too long.
@@ -55,7 +55,7 @@ private:
         Cutter cutter;
         uint64_t next; // the sequence number that comes next; its upper half makes differences positive
         std::optional<uint64_t> end;             // where FIN stands
-        std::map<uint64_t, std::string> waiting; // segments behind a hole, by their sequence numbers
+        std::map<uint64_t, std::string> waiting; // segments after a hole, by their sequence numbers
         std::size_t waitingBytes = 0;
         std::size_t counted = 0; // in what is used
         std::list<Key>::iterator age;

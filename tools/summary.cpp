@@ -111,15 +111,16 @@ private:
 
     void printText() const
     {
-        print( std::to_string( total.messages ) + " messages\n" );
+        print( "messages: " + std::to_string( total.messages ) + '\n' );
         for ( const auto &[name, counts] : methods.rows( messagesOf ) )
             line( counts.messages, name );
         for ( const auto &[name, counts] : statuses.rows( messagesOf ) )
             line( counts.messages, name );
         if ( unreadable )
             line( unreadable, "unreadable" );
-        print( std::to_string( total.findings[0] ) + " errors, " + std::to_string( total.findings[1] )
-               + " warnings, " + std::to_string( total.findings[2] ) + " remarks\n" );
+        print( "errors: " + std::to_string( total.findings[0] )
+               + ", warnings: " + std::to_string( total.findings[1] )
+               + ", remarks: " + std::to_string( total.findings[2] ) + '\n' );
         for ( const auto &[name, counts] : codes.rows( findingsOf ) )
         {
             int64_t severity = counts.findings[0] ? 0 : counts.findings[1] ? 1 : 2;
@@ -127,7 +128,7 @@ private:
                                     + std::to_string( counts.messages )
                                     + ( counts.messages == 1 ? " message)" : " messages)" ) );
         }
-        print( "errors, warnings, remarks and messages by User-Agent or Server\n" );
+        print( "errors, warnings, remarks, messages by User-Agent or Server:\n" );
         for ( const auto &[name, counts] : agents.rows( findingsOf ) )
         {
             char numbers[96];
