@@ -77,6 +77,7 @@ public:
         named( name ).literal( std::to_string( thousandths / 1000 ) + '.'
                                + std::to_string( 1000 + thousandths % 1000 ).substr( 1 ) );
     }
+    void mark( const char *name ) override { named( name ).literal( "true" ); }
     // They come after all fields.
     void parameter( const String &name, const String &value ) override
     {

@@ -74,7 +74,7 @@ template <rt::Ascii NAME>
 consteval int64_t knownNumber()
 {
     constexpr int64_t number = knownNameNumber( NAME.chs, std::size( NAME.chs ) - 1 );
-    static_assert( number != -1, "names of typed headers belong into knownNames" );
+    static_assert( number != -1, "the name is neither in telsx_headers.def nor in telsx_header_names.def" );
     return number;
 }
 

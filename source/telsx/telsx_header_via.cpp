@@ -14,6 +14,12 @@ struct TELSX_HEADER_VIA_
 
     static auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
+    void beforeChange() { clear( firstValue ); }
+    template <class VALUE>
+    VALUE takeRead( int64_t index ) const
+    {
+        return index == 0 ? firstValue.take() : nullptr;
+    }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderVia, HEADER_VIA, hdr, "Via" )

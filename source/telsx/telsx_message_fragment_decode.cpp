@@ -7,6 +7,7 @@
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
+#include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_reason_phrase.h"
@@ -75,24 +76,13 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
     return StartLine::good;
 }
 
-// The name of a header that is not known, in canonical form, or null for what is no name. All of a token is
-// ASCII.
+// The name of a header that is not known, in canonical form, or null for what is no name.
 static Ref<RT_STRING> tryDecodeOtherName( Bytes bytes )
 {
     auto isInName = []( char ch ) { return isIn( static_cast<unsigned char>( ch ), classToken ); };
     if ( bytes.empty() || !std::all_of( bytes.begin(), bytes.end(), isInName ) )
         return {};
-    Ref<RT_STRING> name;
-    RT_CHAR *into = rt::newString( lengthOf( bytes ), name.address() );
-    char before = '-';
-    for ( char ch : bytes )
-    {
-        char lower = lowerAscii( ch );
-        bool isCapital = before == '-' && lower >= 'a' && lower <= 'z';
-        *into++ = static_cast<RT_CHAR>( isCapital ? lower - 0x20 : lower );
-        before = ch;
-    }
-    return name;
+    return canonicalName( bytes.data(), lengthOf( bytes ) );
 }
 
 // One header line, trimmed and with its folds undone, becomes one line more of the header of its name.

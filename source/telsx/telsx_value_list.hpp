@@ -1,6 +1,5 @@
-// What the headers that are a list of values share. The values are kept as text, in a field called values,
-// and read one by one when somebody asks; a header may have read the first one before, in a field called firstValue. A
-// header is written with one line for each value.
+// The headers that are a list of values: all of such a unit but the name and the value. The values are kept as text and read
+// one by one when a caller asks. A header is written with one line for each value.
 #pragma once
 
 #include <atomic>
@@ -39,6 +38,25 @@ private:
     mutable VALUE value = nullptr;
 };
 
+// The list of a kind that has nothing else. A kind that has more, beside values, declares the same functions.
+struct ValueList
+{
+    RT_OBJECT object;
+    Ref<RT_VECTOR> values; // texts, never null
+
+    static auto fields( auto &self ) { return std::tie( self.values ); }
+
+    // Drops what doesn't hold any more when the list changes.
+    void beforeChange() {}
+
+    // The value at the index if it has been read before, a new reference, or null.
+    template <class VALUE>
+    static VALUE takeRead( int64_t )
+    {
+        return nullptr;
+    }
+};
+
 // A new header with an empty list.
 template <class T>
 T *createList( RT_SORT sort )
@@ -69,38 +87,27 @@ bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, W
     return !items.failed();
 }
 
-// The list, for operations that change it. The first value may be another one then.
+// The list, for operations that change it.
 template <class T>
 RT_VECTOR *valuesToChange( T *hdr )
 {
-    if constexpr ( requires { hdr->firstValue; } )
-        clear( hdr->firstValue );
+    hdr->beforeChange();
     return hdr->values.address();
 }
 
-// The same for operations that end the star form of a header that has one.
-template <class T>
-RT_VECTOR *valuesWithoutStar( T *hdr )
-{
-    if constexpr ( requires { hdr->starForm; } )
-        hdr->starForm = 0;
-    return valuesToChange( hdr );
-}
-
-// Puts a value in at the index, or with -1 behind all others.
+// Puts a value in at the index, or with -1 after all others.
 template <class T>
 void insertValue( T *hdr, int64_t index, Ref<RT_STRING> text )
 {
-    rt___VectorInsertTaken( valuesWithoutStar( hdr ), index, rt::asObj( text.take() ) );
+    rt___VectorInsertTaken( valuesToChange( hdr ), index, rt::asObj( text.take() ) );
 }
 
 // The value at the index, read by its own decoder.
 template <class T, class VALUE>
 VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
 {
-    if constexpr ( requires { hdr.firstValue; } )
-        if ( VALUE value = index == 0 ? hdr.firstValue.take() : nullptr )
-            return value;
+    if ( VALUE value = hdr.template takeRead<VALUE>( index ) )
+        return value;
     return textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) ).as( tryDecode );
 }
 
@@ -111,7 +118,7 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     void telsx##NAME##CLEAR( TELSX_HANDLE( NAME ) * hdr )                                                    \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
-        rtVectorClear( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ) );                                       \
+        rtVectorClear( telsx::valuesToChange( TELSX_OWN( hdr ) ) );                                          \
     }                                                                                                        \
     int64_t telsx##NAME##WORD##sLength( TELSX_HANDLE( NAME ) hdr )                                           \
     {                                                                                                        \
@@ -128,7 +135,7 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorSetStringAt( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), index, text.get() );              \
+        rtVectorSetStringAt( telsx::valuesToChange( TELSX_OWN( hdr ) ), index, text.get() );                 \
     }                                                                                                        \
     void telsx##NAME##Del##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index )                             \
     {                                                                                                        \
@@ -151,5 +158,25 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorInsertString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), index, text.get() );             \
+        rtVectorInsertString( telsx::valuesToChange( TELSX_OWN( hdr ) ), index, text.get() );                \
+    }
+
+// The whole unit of a header that is a list of VALUEs and nothing else, after its frame line.
+#define TELSX_DEFINE_HEADER_OF_VALUES( NAME, SIP_NAME, WORD, VALUE )                                       \
+    TELSX_DEFINE_VALUE_LIST( NAME, WORD, VALUE, telsx___##VALUE##Encode, Clear##WORD##s )                  \
+    TELSX_HANDLE( NAME ) telsx##NAME##Create( void )                                                       \
+    {                                                                                                      \
+        return telsx::createList<std::remove_pointer_t<TELSX_HANDLE( NAME )>>( telsx##NAME##Sort() );      \
+    }                                                                                                      \
+    TELSX_MESSAGE_HEADER telsx##NAME##Encode( TELSX_HANDLE( NAME ) hdr )                                   \
+    {                                                                                                      \
+        TELSX_ASSERT( hdr );                                                                               \
+        return telsx::createHeader( telsx::literal<SIP_NAME>(), hdr->values );                             \
+    }                                                                                                      \
+    static TELSX_HANDLE( NAME ) decode( telsx::HeaderLines &lines )                                        \
+    {                                                                                                      \
+        auto hdr = telsx::adopt( telsx##NAME##Create() );                                                  \
+        return telsx::decodeValues( hdr->values, lines, telsx___Skip##VALUE, telsx::WithoutLines::isNull ) \
+                   ? hdr.take()                                                                            \
+                   : nullptr;                                                                              \
     }

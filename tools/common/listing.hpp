@@ -26,10 +26,11 @@ public:
     virtual void text( const String &text ) = 0;
     virtual void beginValue() = 0;
     virtual void endValue() = 0;
-    // A field: a text, a number, a weight in thousandths; a parameter that has no field of its own and whose value may be null.
+    // A field: a text, a number, a weight in thousandths, a mark that is there; a parameter that has no field of its own and whose value may be null.
     virtual void field( const char *name, const String &text ) = 0;
     virtual void field( const char *name, int64_t number ) = 0;
     virtual void weight( const char *name, int64_t thousandths ) = 0;
+    virtual void mark( const char *name ) = 0;
     virtual void parameter( const String &name, const String &value ) = 0;
 };
 

@@ -71,6 +71,7 @@ public:
         line( field, std::to_string( thousandths / 1000 ) + '.'
                          + std::to_string( 1000 + thousandths % 1000 ).substr( 1 ) );
     }
+    void mark( const char *field ) override { line( field, "yes" ); }
     void parameter( const String &parameter, const String &value ) override
     {
         line( "parameter", printable( parameter ) + ( value ? "=" + printable( value ) : "" ) );
@@ -85,7 +86,7 @@ private:
     }
     void line( const char *field, const std::string &text )
     {
-        out << "    " << std::left << std::setw( 14 ) << field << text << '\n';
+        out << "    " << std::left << std::setw( 18 ) << field << text << '\n';
     }
 
     std::ostream &out;
