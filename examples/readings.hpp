@@ -25,7 +25,7 @@ public:
     void operator()( TELSX_HEADER_FROM header ) const
     {
         field( "display name", telsxHeaderFromDisplayName( header ) );
-        field( "iri", telsxHeaderFromIri( header ) );
+        address( telsxHeaderFromIri( header ) );
         field( "tag", telsxHeaderFromTag( header ) );
         field( "epid", telsxHeaderFromEpid( header ) );
         parameters( telsxHeaderFromGenericParams( header ) );
@@ -34,7 +34,7 @@ public:
     void operator()( TELSX_HEADER_TO header ) const
     {
         field( "display name", telsxHeaderToDisplayName( header ) );
-        field( "iri", telsxHeaderToIri( header ) );
+        address( telsxHeaderToIri( header ) );
         field( "tag", telsxHeaderToTag( header ) );
         field( "epid", telsxHeaderToEpid( header ) );
         parameters( telsxHeaderToGenericParams( header ) );
@@ -62,13 +62,13 @@ public:
 
     void operator()( TELSX_ALERT_INFO info ) const
     {
-        field( "iri", telsxAlertInfoIri( info ) );
+        address( telsxAlertInfoIri( info ) );
         parameters( telsxAlertInfoGenericParams( info ) );
     }
 
     void operator()( TELSX_CALL_INFO info ) const
     {
-        field( "iri", telsxCallInfoIri( info ) );
+        address( telsxCallInfoIri( info ) );
         field( "purpose", telsxCallInfoPurpose( info ) );
         parameters( telsxCallInfoGenericParams( info ) );
     }
@@ -76,7 +76,7 @@ public:
     void operator()( TELSX_CONTACT contact ) const
     {
         field( "display name", telsxContactDisplayName( contact ) );
-        field( "iri", telsxContactIri( contact ) );
+        address( telsxContactIri( contact ) );
         weight( telsxContactQvalue( contact ) );
         field( "expires", telsxContactExpires( contact ) );
         field( "rc", telsxContactRc( contact ) );
@@ -89,7 +89,7 @@ public:
     void operator()( TELSX_DIVERSION diversion ) const
     {
         field( "display name", telsxDiversionDisplayName( diversion ) );
-        field( "iri", telsxDiversionIri( diversion ) );
+        address( telsxDiversionIri( diversion ) );
         field( "reason", telsxDiversionReason( diversion ) );
         field( "counter", telsxDiversionCounter( diversion ) );
         field( "limit", telsxDiversionLimit( diversion ) );
@@ -100,14 +100,14 @@ public:
 
     void operator()( TELSX_ERROR_INFO info ) const
     {
-        field( "iri", telsxErrorInfoIri( info ) );
+        address( telsxErrorInfoIri( info ) );
         parameters( telsxErrorInfoGenericParams( info ) );
     }
 
     void operator()( TELSX_HISTORY_INFO info ) const
     {
         field( "display name", telsxHistoryInfoDisplayName( info ) );
-        field( "iri", telsxHistoryInfoIri( info ) );
+        address( telsxHistoryInfoIri( info ) );
         field( "index", telsxHistoryInfoIndex( info ) );
         field( "rc", telsxHistoryInfoRc( info ) );
         field( "mp", telsxHistoryInfoMp( info ) );
@@ -118,7 +118,7 @@ public:
     void operator()( TELSX_IDENTITY_VALUE identity ) const
     {
         field( "display name", telsxIdentityValueDisplayName( identity ) );
-        field( "iri", telsxIdentityValueIri( identity ) );
+        address( telsxIdentityValueIri( identity ) );
     }
 
     void operator()( TELSX_REASON reason ) const
@@ -132,7 +132,7 @@ public:
     void operator()( TELSX_ROUTE route ) const
     {
         field( "display name", telsxRouteDisplayName( route ) );
-        field( "iri", telsxRouteIri( route ) );
+        address( telsxRouteIri( route ) );
         parameters( telsxRouteGenericParams( route ) );
     }
 
@@ -152,6 +152,35 @@ public:
         field( "rport", telsxViaRportNumeric( via ) );
         field( "branch", telsxViaBranch( via ) );
         parameters( telsxViaGenericParams( via ) );
+    }
+
+    void operator()( TELSX_SIP_IRI sip ) const
+    {
+        field( "  user", telsxSipIriUser( sip ) );
+        field( "  password", telsxSipIriPassword( sip ) );
+        field( "  host", telsxSipIriHost( sip ) );
+        field( "  port", telsxSipIriPort( sip ) );
+        field( "  transport", telsxSipIriTransport( sip ) );
+        field( "  user is", telsxSipIriUserParam( sip ) );
+        field( "  method", telsxSipIriMethod( sip ) );
+        field( "  ttl", telsxSipIriTtl( sip ) );
+        field( "  maddr", telsxSipIriMaddr( sip ) );
+        if ( telsxSipIriLr( sip ) )
+            line( "  router", "loose" );
+        for ( int64_t i = 0; i < telsxSipIriParamsLength( sip ); ++i )
+            pair( "  parameter", telsxSipIriParamNameAt( sip, i ), telsxSipIriParamValueAt( sip, i ) );
+        for ( int64_t i = 0; i < telsxSipIriHeadersLength( sip ); ++i )
+            pair( "  header", telsxSipIriHeaderNameAt( sip, i ), telsxSipIriHeaderValueAt( sip, i ) );
+    }
+
+    void operator()( TELSX_TEL_IRI tel ) const
+    {
+        field( "  number", telsxTelIriNumber( tel ) );
+        field( "  extension", telsxTelIriExtension( tel ) );
+        field( "  subaddress", telsxTelIriIsub( tel ) );
+        field( "  context", telsxTelIriPhoneContext( tel ) );
+        for ( int64_t i = 0; i < telsxTelIriParamsLength( tel ); ++i )
+            pair( "  parameter", telsxTelIriParamNameAt( tel, i ), telsxTelIriParamValueAt( tel, i ) );
     }
 
     void operator()( TELSX_WARNING_VALUE warning ) const
@@ -179,6 +208,24 @@ private:
             line( name, std::to_string( number ) );
     }
 
+    // An address, and its parts below it if the library knows the scheme.
+    void address( RT_STRING iri ) const
+    {
+        Owned owned( iri );
+        line( "iri", printable( owned ) );
+        if ( Owned sip{ telsxSipIriTryDecode( iri ) } )
+            ( *this )( sip.get() );
+        if ( Owned tel{ telsxTelIriTryDecode( iri ) } )
+            ( *this )( tel.get() );
+    }
+
+    // A name, and its value, which may be null.
+    void pair( const char *name, RT_STRING left, RT_STRING right ) const
+    {
+        Owned key( left ), value( right );
+        line( name, printable( key ) + ( value ? "=" + printable( value ) : "" ) );
+    }
+
     void weight( int64_t thousandths ) const
     {
         if ( thousandths != -1 )
@@ -192,9 +239,8 @@ private:
         for ( int64_t i = 0; i < telsxGenericParamsLength( params ); ++i )
         {
             Owned param( telsxGenericParamsParamAt( params, i ) );
-            Owned value( telsxGenericParamValueNonNormalized( param.get() ) );
-            line( "parameter", printable( Owned( telsxGenericParamName( param.get() ) ) )
-                                   + ( value ? "=" + printable( value ) : "" ) );
+            pair( "parameter", telsxGenericParamName( param.get() ),
+                  telsxGenericParamValueNonNormalized( param.get() ) );
         }
     }
 

@@ -140,6 +140,20 @@ void setParamValue( Change &change )
         call( change, telsxGenericParamSetValue, telsxGenericParamValueType( from.get() ),
               adopt( telsxGenericParamValueNonNormalized( from.get() ) ).get() );
 }
+// A name, and behind an equal sign its value, if they are good.
+template <auto SET>
+void setPair( Change &change )
+{
+    std::string_view name = change.bytes.substr( 0, change.bytes.find( '=' ) );
+    bool hasValue = name.size() < change.bytes.size();
+    Ref<RT_STRING> nameText = text( name ), value = text( change.bytes.substr( name.size() + hasValue ) );
+    if ( !telsxIriNameOk( nameText.get() ) || !telsxIriTextOk( value.get() ) )
+        return;
+    change.exact &= name.starts_with( 'x' ); // No field has such a name.
+    call( change, SET, nameText.get(), hasValue ? value.get() : nullptr );
+}
+void setSecure( Change &change ) { call( change, telsxSipIriSetSecure, RT_BOOL( change.number() > 0 ) ); }
+void setLr( Change &change ) { call( change, telsxSipIriSetLr, RT_BOOL( change.number() > 0 ) ); }
 void setVersion( Change &change )
 {
     if ( auto version = adopt( rt::textOf( change.text ).as( telsx___VersionTryDecode ) ) )
@@ -207,6 +221,8 @@ TELSX_MESSAGE_HEADER header( const char *name, const char *line )
 #define FIELD( NAME, WORD, ELEMENT ) TAKE( NAME, Set##WORD, ELEMENT )
 #define OPTION( NAME, WORD, ELEMENT ) FIELD( NAME, WORD, ELEMENT ) DEL( ELEMENT, telsx##NAME##Del##WORD )
 #define DEL( ELEMENT, FUNCTION ) { []( Change &change ) { del( change, FUNCTION, telsx##ELEMENT##Ok ); } },
+#define PAIRS( NAME, WORD ) OTHER( setPair<telsx##NAME##Set##WORD> ) \
+    TAKE( NAME, Del##WORD, IriName ) CALL( NAME, Clear##WORD##s )
 #define PARAMS( NAME ) { []( Change &change ) { setParams( change, telsx##NAME##SetGenericParams ); } },
 #define ADDRESS( NAME ) FIELD( NAME, Iri, Iri ) OPTION( NAME, DisplayName, DisplayName ) PARAMS( NAME )
 // clang-format on
@@ -228,7 +244,7 @@ const Type types[] = {
 };
 
 // Whether the wire can say what the object holds: no subtype without a type, no coding that is absent (it is
-// written as a star, which is read as a coding), no warning below 100 (it is written without zeros in front,
+// written as a star, which is read as a coding), no password without a user, no warning below 100 (it is written without zeros in front,
 // which is read as none).
 bool canBeSaid( RT_OBJ object )
 {
@@ -236,6 +252,9 @@ bool canBeSaid( RT_OBJ object )
     if ( sort == telsxAcceptSort() )
         return telsxAcceptHasMediaType( telsxAcceptFrom( object ) )
                || !telsxAcceptHasMediaSubtype( telsxAcceptFrom( object ) );
+    if ( sort == telsxSipIriSort() )
+        return telsxSipIriHasUser( telsxSipIriFrom( object ) )
+               || !telsxSipIriHasPassword( telsxSipIriFrom( object ) );
     if ( sort == telsxAcceptEncodingSort() )
         return telsxAcceptEncodingHasContentCoding( telsxAcceptEncodingFrom( object ) );
     return sort != telsxWarningValueSort()

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string_view>
 
+#include "rsc/rsc.h"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx.h"
 
@@ -22,6 +23,7 @@ struct Type
     rt::Skipper skip;
     RT_OBJ ( *tryDecode )( const RT_CHAR *chs, int64_t length );
     RT_STRING ( *encode )( RT_OBJ value );
+    RT_BOOL ( *equivalent )( RT_OBJ a, RT_OBJ b ) = nullptr; // of addresses
 
     // From a heap block of exactly the text's size, so that a sanitizer sees a read past its end.
     Ref<RT_OBJ> decoded( Text text ) const
@@ -33,19 +35,27 @@ struct Type
     Ref<RT_STRING> encoded( const Ref<RT_OBJ> &value ) const { return adopt( encode( value.get() ) ); }
 };
 
-#define TELSX_VALUE( NAME, ... )                                                \
-    { #NAME, telsx___Skip##NAME,                                                \
+// clang-format off
+#define CODED( NAME, SKIP )                                                     \
+    #NAME, SKIP,                                                                \
       []( const RT_CHAR *chs, int64_t length )                                  \
       { return telsx##NAME##Obj( telsx___##NAME##TryDecode( chs, length ) ); }, \
-      []( RT_OBJ value ) { return telsx___##NAME##Encode( telsx##NAME##From( value ) ); } },
+      []( RT_OBJ value ) { return telsx___##NAME##Encode( telsx##NAME##From( value ) ); }
+#define TELSX_VALUE( NAME, ... ) { CODED( NAME, telsx___Skip##NAME ) },
+#define TELSX_ADDRESS( NAME, ... )    \
+    { CODED( NAME, telsx___SkipUri ), \
+      []( RT_OBJ a, RT_OBJ b )        \
+      { return telsx##NAME##Equivalent( telsx##NAME##From( a ), telsx##NAME##From( b ) ); } },
 inline const Type all[] = {
-    // clang-format off
     TELSX_VALUE( GenericParam )
     TELSX_VALUE( GenericParams )
-// clang-format on
 #include "telsx/telsx_values.def"
+#include "telsx/telsx_addresses.def"
 };
+// clang-format on
+#undef CODED
 #undef TELSX_VALUE
+#undef TELSX_ADDRESS
 
 inline int64_t count( Text text, RT_CHAR ch ) { return std::count( text.chs, text.chs + text.length, ch ); }
 
@@ -59,9 +69,59 @@ inline bool isShortWarning( const Type &type, Text text )
     return type.name == "WarningValue" && telsx___SkipDigits( text.chs, text.length ) < 3;
 }
 
+// An address through a message and back.
+inline Ref<RT_OBJ> overTheWire( const Type &type, const Ref<RT_STRING> &iri )
+{
+    Ref<RT_STRING> uri = adopt( rscTryConvertToUri( iri.get() ) ),
+                   again = uri ? adopt( rscTryConvertFromUri( uri.get() ) ) : uri;
+    return again ? type.decoded( rt::textOf( again ) ) : Ref<RT_OBJ>();
+}
+
+// Whether what is made from an address is made from that again.
+inline bool isMadeAgain( const Type &type, const Ref<RT_OBJ> &value )
+{
+    if ( value->sort == telsxSipIriSort() )
+    {
+        auto record = adopt( telsxSipIriAddressOfRecord( telsxSipIriFrom( value.get() ) ) ),
+             again = adopt( telsxSipIriAddressOfRecord( record.get() ) );
+        return record == again;
+    }
+    Ref<RT_STRING> host = adopt( rtStringCreateFromCstr( "a", 1 ) );
+    auto sip = adopt( telsxSipIriTryCreateFromTelIri( telsxTelIriFrom( value.get() ), host.get() ) );
+    auto tel = adopt( sip ? telsxTelIriTryCreateFromSipIri( sip.get() ) : nullptr );
+    return !sip || ( tel && type.equivalent( value.get(), rt::asObj( tel.get() ) ) );
+}
+
+// The first property of addresses that doesn't hold, or null, of one or of two with a line end between them.
+inline const char *brokenAddress( const Type &type, Text text )
+{
+    int64_t end = std::find( text.chs, text.chs + text.length, RT_CHAR( '\n' ) ) - text.chs;
+    Ref<RT_OBJ> value = type.decoded( text.first( end ) );
+    if ( !value )
+        return nullptr;
+    Ref<RT_STRING> encoded = type.encoded( value );
+    if ( !telsxIriOk( encoded.get() ) )
+        return "what is encoded is an IRI";
+    Ref<RT_OBJ> again = type.decoded( rt::textOf( encoded ) );
+    if ( !again || again != value || !type.equivalent( value.get(), again.get() ) )
+        return "what is encoded decodes to the same";
+    if ( type.encoded( again ) != encoded )
+        return "what is encoded doesn't change any more";
+    if ( overTheWire( type, encoded ) != value )
+        return "an address comes through a message";
+    if ( !isMadeAgain( type, value ) )
+        return "an address of record is its own, and a number comes through a SIP address";
+    Ref<RT_OBJ> other = end < text.length ? type.decoded( text.behind( end + 1 ) ) : Ref<RT_OBJ>();
+    if ( other && type.equivalent( value.get(), other.get() ) != type.equivalent( other.get(), value.get() ) )
+        return "whether two addresses are the same doesn't depend on their order";
+    return nullptr;
+}
+
 // The first property that doesn't hold, or null.
 inline const char *broken( const Type &type, Text text )
 {
+    if ( type.equivalent )
+        return brokenAddress( type, text );
     Ref<RT_OBJ> value = type.decoded( text );
     if ( !value )
         return nullptr;

@@ -150,9 +150,9 @@ RT_API void telsxSipIriSetHeaderValueAt( TELSX_SIP_IRI *sipIri, int64_t index, R
 RT_API void telsxSipIriDelHeaderAt( TELSX_SIP_IRI *sipIri, int64_t index );
 RT_API void telsxSipIriClearHeaders( TELSX_SIP_IRI *sipIri );
 
-/* The headers of the name, in any case, which is the only form that is looked for: whether there is one; the value of
- * the first; SetHeader changes the first or appends one, and takes all others of the name out; AppendHeader appends one;
- * DelHeader takes out all. They abort as for parameters. */
+/* The headers of the name, in any case; a compact form is another name. Whether there is one; the value of the first;
+ * SetHeader changes the first or appends one, and takes out all others of the name; AppendHeader appends one; DelHeader
+ * takes out all. They abort as for parameters. */
 RT_API RT_BOOL telsxSipIriHasHeader( TELSX_SIP_IRI sipIri, RT_STRING name );
 RT_API RT_BOOL telsxSipIriHasHeaderCstr( TELSX_SIP_IRI sipIri, const char *name, int64_t length );
 RT_API RT_BOOL telsxSipIriHasHeaderWcstr( TELSX_SIP_IRI sipIri, const wchar_t *name, int64_t length );

@@ -37,7 +37,7 @@ RT_API TELSX_TEL_IRI telsxTelIriCreate( RT_STRING number );
 RT_API TELSX_TEL_IRI telsxTelIriTryDecode( RT_STRING iri );
 
 /* The address as a text for which telsxIriOk holds, for setters such as telsxContactSetIri; a new reference. The
- * extension, the subaddress and the context stand first, then the other parameters by their names. */
+ * subaddress, the extension and the context stand first, then the other parameters by their names. */
 RT_API RT_STRING telsxTelIriEncode( TELSX_TEL_IRI telIri );
 
 /* Whether the two are the same number (RFC 3966, 4): neither visual separators nor case nor the order of the parameters

@@ -146,6 +146,8 @@ TEST( Fields, AreSetReadAndDeleted )
     rtTimeSetYear( time.address(), 2010 );
     rtTimeSetMonth( time.address(), 11 );
     rtTimeSetDay( time.address(), 13 );
+    Ref<RT_STRING> half = str( "a" ); // of a character
+    rtStringSetCharAt( half.address(), 0, 0xD800 );
     Ref<NET_ADDRESS> address = adopt( applied( netAddressTryCreateFromChars, "2001:0DB8::1" ) );
 #define HEADER( NAME, SELF, CREATED, ... )                                                            \
     expectFields(                                                                                     \
@@ -181,6 +183,8 @@ TEST( Fields, MustBeGoodInNewObjects )
     EXPECT_BAD( "telsxTransportOk( transport )", ViaCreate, sip.get(), bad.get(), good.get() );
     EXPECT_BAD( "telsxHostOk( host )", ViaCreate, sip.get(), good.get(), bad.get() );
     EXPECT_BAD( "telsxPortOk( port )", ViaCreateWithPort, sip.get(), good.get(), good.get(), -1 );
+    EXPECT_BAD( "telsxHostOk( host )", SipIriCreate, bad.get() );
+    EXPECT_BAD( "telsxTelIriNumberOk( number )", TelIriCreate, bad.get() );
     EXPECT_BAD( "telsxIriOk( iri )", ContactCreate, bad.get() );
     EXPECT_BAD( "telsxIriOk( iri )", AlertInfoCreate, bad.get() );
     EXPECT_BAD( "telsxDisplayNameOk( displayName )", DiversionCreateWithDisplayName, iri.get(), bad.get() );
