@@ -12,8 +12,7 @@ IriPair toIriPair( Text text, const rt::CharSet &plain, const rt::CharSet &accep
     Ref<RT_STRING> name = nameText ? escapedForm( nameText, plain ) : Ref<RT_STRING>();
     if ( !name )
         return {};
-    bool hasEscapes = until( nameText, '%' ).length < nameText.length;
-    name = asciiLowerCase( hasEscapes ? resolved( nameText ) : name );
+    name = asciiLowerCase( resolvedOf( name ) );
     if ( !text )
         return { name, share( literal<"">() ) };
     Ref<RT_STRING> value = escapedForm( text.behind( 1 ), plain, accepted );
