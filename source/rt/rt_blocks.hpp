@@ -76,20 +76,6 @@ inline RT_OBJ allocateBlock( int64_t *size )
     return block ? block : allocateNewBlock( *size );
 }
 
-// What rt___ObjCreate does, in place where a block is at hand.
-inline RT_OBJ createObject( int64_t size, RT_SORT sort )
-{
-#ifndef RT_COUNT_OBJECTS
-    int64_t rounded = roundedToBlock( size );
-    if ( RT_OBJ obj = takeListedBlock( rounded ) )
-    {
-        *obj = { sort, 1, rounded };
-        return obj;
-    }
-#endif
-    return rt___ObjCreate( size, sort );
-}
-
 inline void freeBlock( RT_OBJ obj )
 {
     int64_t size = obj->size;

@@ -121,7 +121,7 @@ static void append( RT_BUFFER *buffer, RT_BUFFER &source, int64_t offset, int64_
 
 RT_BUFFER rtBufferCreate( void )
 {
-    auto *buffer = reinterpret_cast<RT_BUFFER>( rt::createObject( sizeof( RT_BUFFER_ ), rtBufferSort() ) );
+    auto *buffer = reinterpret_cast<RT_BUFFER>( rt___ObjCreate( sizeof( RT_BUFFER_ ), rtBufferSort() ) );
     buffer->block = nullptr;
     buffer->capacity = buffer->offset = buffer->length = 0;
     return buffer;
@@ -134,7 +134,7 @@ RT_BUFFER rt___BufferCreateWithLength( int64_t length, unsigned char **bytes )
     int64_t size = length + rt::scanSlack;
     bool isInner = size <= rt::mostListed - own;
     auto *buffer =
-        reinterpret_cast<RT_BUFFER>( rt::createObject( isInner ? own + size : own, rtBufferSort() ) );
+        reinterpret_cast<RT_BUFFER>( rt___ObjCreate( isInner ? own + size : own, rtBufferSort() ) );
     buffer->block = isInner ? buffer->inner() : rt::allocate<unsigned char>( size );
     buffer->capacity = buffer->length = length;
     buffer->offset = 0;

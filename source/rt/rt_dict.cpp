@@ -252,7 +252,7 @@ static RT_DICT own( RT_DICT *handle )
     RT_DICT old = *handle;
     if ( rt::shared( rt::asObj( old ) ) )
     {
-        *handle = reinterpret_cast<RT_DICT>( rt::createObject( sizeof( RT_DICT_ ), rtDictSort() ) );
+        *handle = reinterpret_cast<RT_DICT>( rt___ObjCreate( sizeof( RT_DICT_ ), rtDictSort() ) );
         moveEntries( old, *handle, std::max( old->length, leastCapacity ) );
         std::for_each( ( *handle )->entries, ( *handle )->entries + old->length,
                        []( const Entry &entry )

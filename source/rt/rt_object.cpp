@@ -1,6 +1,8 @@
 // Objects, their counts and their end.
 #include "rt/rt_object.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstdio>
 
 #include "rt/rt_blocks.hpp"
@@ -75,11 +77,77 @@ void rt___ObjFree( RT_OBJ obj )
     freeBlock( obj );
 }
 
-void rt___StringFree( RT_STRING string )
+// Most objects are strings, and most of them need nothing but their block freed.
+void rt___ObjDrop( RT_OBJ obj )
 {
-    if ( string->parent )
-        rtStringRelease( string->parent );
-    freeBlock( rt::asObj( string ) );
+    if ( !rt::giveUp( obj ) )
+        return;
+    if ( obj->sort == &rt___sort_RT_STRING && !reinterpret_cast<RT_STRING>( obj )->parent )
+        freeBlock( obj );
+    else
+        rt___ObjFree( obj );
+}
+
+// Fields by their layout
+
+static RT_OBJ *wordsOf( RT_OBJ obj ) { return reinterpret_cast<RT_OBJ *>( obj + 1 ); }
+
+// The references among the words that are not null, one after the other.
+template <class VISIT>
+static void eachRef( RT_OBJ obj, RT_LAYOUT layout, VISIT visit )
+{
+    RT_OBJ *word = wordsOf( obj );
+    for ( uint32_t refs = layout->refs; refs; refs >>= 1, ++word )
+        if ( ( refs & 1 ) && *word )
+            visit( *word );
+}
+
+RT_OBJ rt___ObjCopy( RT_OBJ obj, RT_LAYOUT layout )
+{
+    std::size_t size = layout->words * sizeof( int64_t );
+    RT_OBJ copy = rt___ObjCreate( static_cast<int64_t>( sizeof( RT_OBJECT ) + size ), obj->sort );
+    std::memcpy( wordsOf( copy ), wordsOf( obj ), size );
+    eachRef( copy, layout, rt::retain );
+    return copy;
+}
+
+RT_OBJ rt___ObjOwn( RT_OBJ obj, RT_LAYOUT layout )
+{
+    if ( !rt::shared( obj ) )
+        return obj;
+    RT_OBJ copy = rt___ObjCopy( obj, layout );
+    rt::release( obj );
+    return copy;
+}
+
+void rt___ObjReleaseFields( RT_OBJ obj, RT_LAYOUT layout )
+{
+    eachRef( obj, layout, []( RT_OBJ &ref ) { rt___ObjDrop( std::exchange( ref, nullptr ) ); } );
+}
+
+// The order of the first numbers that differ in two fields.
+template <class NUMBER>
+static int64_t compareNumbers( const void *a, const void *b )
+{
+    NUMBER inA[sizeof( int64_t ) / sizeof( NUMBER )], inB[std::size( inA )];
+    std::memcpy( inA, a, sizeof inA );
+    std::memcpy( inB, b, sizeof inB );
+    auto order = std::lexicographical_compare_three_way( inA, std::end( inA ), inB, std::end( inB ) );
+    return order < 0 ? -1 : order > 0;
+}
+
+int64_t rt___ObjCompareFields( RT_OBJ objA, RT_OBJ objB, RT_LAYOUT layout )
+{
+    for ( uint32_t i = 0; i < layout->words; ++i )
+    {
+        RT_OBJ *a = wordsOf( objA ) + i, *b = wordsOf( objB ) + i;
+        int64_t order = layout->refs >> i & 1      ? rtObjCompare( *a, *b )
+                        : layout->numbers >> i & 1 ? compareNumbers<int64_t>( a, b )
+                                                   : compareNumbers<RT_BOOL>( a, b );
+        if ( order )
+            return order < 0 ? -1 : 1;
+    }
+    return 0;
 }
 
 void rt___Abort( const char *message, const char *file, int64_t line, const char *expression )

@@ -105,10 +105,28 @@ RT_API RT_STRING rtObjToString( RT_OBJ obj );
 RT_API int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB );
 
 /* For the libraries above: a block of that many bytes, header included, with the count 1 and nothing yet
- * behind the header; and the end of an object whose count has reached 0, for which a string has a shorter way. */
+ * behind the header; the end of an object whose count has reached 0; and one reference less. */
 RT_API RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort );
 RT_API void rt___ObjFree( RT_OBJ obj );
-RT_API void rt___StringFree( RT_STRING string );
+RT_API void rt___ObjDrop( RT_OBJ obj );
+
+/* For the libraries above: the fields of a type as words of eight bytes behind the header. Of the two sets of them the
+ * lowest bit is the first word: which ones refer to an object or are null, and which are numbers. Where two objects
+ * are compared, any other holds truth values. */
+typedef const struct RT_LAYOUT_
+{
+    uint32_t words;
+    uint32_t refs;
+    uint32_t numbers;
+} *RT_LAYOUT;
+
+/* A new object of the same sort with the same fields. The object itself, or a copy in exchange for the caller's
+ * reference if others hold it too. The end of all references. The order of two objects: the first word that differs
+ * decides. */
+RT_API RT_OBJ rt___ObjCopy( RT_OBJ obj, RT_LAYOUT layout );
+RT_API RT_OBJ rt___ObjOwn( RT_OBJ obj, RT_LAYOUT layout );
+RT_API void rt___ObjReleaseFields( RT_OBJ obj, RT_LAYOUT layout );
+RT_API int64_t rt___ObjCompareFields( RT_OBJ objA, RT_OBJ objB, RT_LAYOUT layout );
 
 /* For the libraries above: the free blocks of the thread; null until it frees its first one, and again once it has
  * ended. */

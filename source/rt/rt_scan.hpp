@@ -198,18 +198,27 @@ inline void widen( const char *from, int64_t length, RT_CHAR *into )
         ByteBlock::at( from + at ).widen( into + at );
 }
 
-// The same to a place without slack, and from one.
+// The same to a place without slack, and from one. What is left behind whole blocks is done with some of what is done.
 inline void widenExactly( const char *from, int64_t length, RT_CHAR *into )
 {
-    int64_t at = 0;
-    for ( ; length - at >= 16; at += 16 )
-        ByteBlock::at( from + at ).widen( into + at );
-    // What is left is done with some of what is done.
-    if ( at && at < length )
-        ByteBlock::at( from + length - 16 ).widen( into + length - 16 );
-    else
-        for ( ; at < length; ++at )
-            into[at] = static_cast<unsigned char>( from[at] );
+#ifdef RT_SCAN_VECTORS
+    auto widenEight = [=]( int64_t at )
+    {
+        __m128i bytes = _mm_loadl_epi64( reinterpret_cast<const __m128i *>( from + at ) );
+        __m128i words = _mm_unpacklo_epi8( bytes, _mm_setzero_si128() );
+        auto *to = reinterpret_cast<__m128i *>( into + at );
+        _mm_storeu_si128( to, _mm_unpacklo_epi16( words, _mm_setzero_si128() ) );
+        _mm_storeu_si128( to + 1, _mm_unpackhi_epi16( words, _mm_setzero_si128() ) );
+    };
+    if ( length >= 8 )
+    {
+        for ( int64_t at = 0; length - at > 8; at += 8 )
+            widenEight( at );
+        return widenEight( length - 8 );
+    }
+#endif
+    for ( int64_t at = 0; at < length; ++at )
+        into[at] = static_cast<unsigned char>( from[at] );
 }
 
 } // namespace rt

@@ -14,7 +14,7 @@ struct RT_STORE_
     static auto fields( auto &self ) { return std::tie( self.entries ); }
 };
 
-static void freeFunc( RT_OBJ obj ) { rt::clearFields( rtStoreFrom( obj ) ); }
+static void freeFunc( RT_OBJ obj ) { rt::releaseFields( rtStoreFrom( obj ) ); }
 
 static int64_t compareFunc( RT_OBJ objA, RT_OBJ objB )
 {

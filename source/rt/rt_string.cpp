@@ -115,8 +115,7 @@ RT_STRING rtStringCreateFromInner( RT_STRING string, int64_t offset, int64_t len
     bool worthIt = length >= leastShared && std::max( holder->length, holder->capacity ) / mostHeld <= length;
     if ( !worthIt && !( isLiteral && length ) )
         return createFrom( string->chs + offset, length );
-    auto *part =
-        reinterpret_cast<RT_STRING>( rt::createObject( sizeof( RT_STRING_ ), &rt___sort_RT_STRING ) );
+    auto *part = reinterpret_cast<RT_STRING>( rt___ObjCreate( sizeof( RT_STRING_ ), &rt___sort_RT_STRING ) );
     part->chs = string->chs + offset;
     part->length = length;
     part->capacity = 0;

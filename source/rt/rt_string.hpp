@@ -33,7 +33,7 @@ inline RT_CHAR *newString( int64_t length, RT_STRING *string )
 {
     RT_CHECK( length >= 0 && length <= mostChars, "out of memory", "length" );
     auto *made = reinterpret_cast<RT_STRING>(
-        createObject( static_cast<int64_t>( sizeof( RT_STRING_ ) ) + length * 4, &rt___sort_RT_STRING ) );
+        rt___ObjCreate( static_cast<int64_t>( sizeof( RT_STRING_ ) ) + length * 4, &rt___sort_RT_STRING ) );
     made->chs = made->inner();
     made->length = length;
     made->capacity = innerCapacity( made );

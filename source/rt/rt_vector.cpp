@@ -71,7 +71,7 @@ RT_VECTOR rtVectorCreateWithCapacity( int64_t capacity )
     bool isInner = capacity <= mostInner;
     int64_t inner = isInner ? capacity * static_cast<int64_t>( sizeof( RT_OBJ ) ) : 0;
     auto *vector = reinterpret_cast<RT_VECTOR>(
-        rt::createObject( static_cast<int64_t>( sizeof( RT_VECTOR_ ) ) + inner, rtVectorSort() ) );
+        rt___ObjCreate( static_cast<int64_t>( sizeof( RT_VECTOR_ ) ) + inner, rtVectorSort() ) );
     vector->block = isInner ? vector->inner() : rt::allocate<RT_OBJ>( capacity );
     vector->capacity = capacity;
     vector->first = 0;

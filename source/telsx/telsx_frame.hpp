@@ -51,7 +51,7 @@ using rt::share;
     {                                           \
         auto SELF = telsx##NAME##From( obj );   \
         TELSX_CHECK( SELF, nullptr, #SELF );    \
-        rt::clearFields( SELF );                \
+        rt::releaseFields( SELF );              \
     }
 #define TELSX_DEFINE_COMPARE_FUNC( NAME, SELF )                     \
     int64_t telsx___##NAME##CompareFunc( RT_OBJ objA, RT_OBJ objB ) \

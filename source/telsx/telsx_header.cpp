@@ -53,9 +53,9 @@ bool hasHeader( TELSX_MESSAGE msg, HeaderName name )
     return findHeader( msg->fragment->headers.get(), name ) != nullptr;
 }
 
-void putHeader( TELSX_MESSAGE *msg, Ref<TELSX_MESSAGE_HEADER> header )
+void putHeader( TELSX_MESSAGE *msg, HeaderName name, Ref<TELSX_MESSAGE_HEADER> header )
 {
-    setHeader( TELSX_OWN( TELSX_OWN( msg )->fragment.address() )->headers, std::move( header ) );
+    setHeader( TELSX_OWN( TELSX_OWN( msg )->fragment.address() )->headers, name, std::move( header ) );
 }
 
 void removeHeader( TELSX_MESSAGE *msg, HeaderName name )

@@ -55,7 +55,7 @@ private:
 TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store );
 
 bool hasHeader( TELSX_MESSAGE msg, HeaderName name );
-void putHeader( TELSX_MESSAGE *msg, Ref<TELSX_MESSAGE_HEADER> header );
+void putHeader( TELSX_MESSAGE *msg, HeaderName name, Ref<TELSX_MESSAGE_HEADER> header );
 void removeHeader( TELSX_MESSAGE *msg, HeaderName name );
 
 // The lines alone: none is an empty text, one is itself, more are as the runtime shows a vector.
@@ -73,53 +73,53 @@ HANDLE tryDecodeTaken( TELSX_MESSAGE_HEADER header, HANDLE ( *tryDecode )( TELSX
 } // namespace telsx
 
 // The decoding, store, message and text functions of the kind; decode is the unit's.
-#define TELSX_DEFINE_HEADER( NAME, SIP_NAME )                                                       \
-    RT_STORE telsx##NAME##Store( TELSX_HANDLE( NAME ) hdr )                                         \
-    {                                                                                               \
-        TELSX_ASSERT( hdr );                                                                        \
-        return telsxMessageHeaderStoreLines( telsx::adopt( telsx##NAME##Encode( hdr ) ).get() );    \
-    }                                                                                               \
-    static TELSX_HANDLE( NAME ) decode( telsx::HeaderLines &lines );                                \
-    TELSX_HANDLE( NAME ) telsx##NAME##TryDecode( TELSX_MESSAGE_HEADER header )                      \
-    {                                                                                               \
-        TELSX_CHECK( telsx::hasName( header, telsx::literal<SIP_NAME>() ), nullptr,                 \
-                     "telsxMessageHeaderNameEqualsCstr( header, \"" SIP_NAME "\", -1 )" );          \
-        telsx::HeaderLines lines( header );                                                         \
-        return decode( lines );                                                                     \
-    }                                                                                               \
-    TELSX_HANDLE( NAME ) telsx##NAME##TryRestore( RT_STORE store )                                  \
-    {                                                                                               \
-        TELSX_ASSERT( store );                                                                      \
-        return telsx::tryDecodeTaken( telsx::tryRestoreHeader( telsx::literal<SIP_NAME>(), store ), \
-                                      telsx##NAME##TryDecode );                                     \
-    }                                                                                               \
-    RT_BOOL telsx##NAME##PresentInMessage( TELSX_MESSAGE msg )                                      \
-    {                                                                                               \
-        TELSX_ASSERT( msg );                                                                        \
-        return telsx::hasHeader( msg, telsx::headerName<SIP_NAME>() );                              \
-    }                                                                                               \
-    void telsx##NAME##EncodeToMessage( TELSX_HANDLE( NAME ) hdr, TELSX_MESSAGE *msg )               \
-    {                                                                                               \
-        TELSX_ASSERT( hdr );                                                                        \
-        TELSX_ASSERT_HANDLE( msg );                                                                 \
-        telsx::putHeader( msg, telsx::adopt( telsx##NAME##Encode( hdr ) ) );                        \
-    }                                                                                               \
-    TELSX_HANDLE( NAME ) telsx##NAME##TryDecodeFromMessage( TELSX_MESSAGE msg )                     \
-    {                                                                                               \
-        TELSX_ASSERT( msg );                                                                        \
-        telsx::HeaderLines lines( msg, telsx::headerName<SIP_NAME>() );                             \
-        return lines.empty() ? nullptr : decode( lines );                                           \
-    }                                                                                               \
-    void telsx##NAME##RemoveFromMessage( TELSX_MESSAGE *msg )                                       \
-    {                                                                                               \
-        TELSX_ASSERT_HANDLE( msg );                                                                 \
-        telsx::removeHeader( msg, telsx::headerName<SIP_NAME>() );                                  \
-    }                                                                                               \
-    RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj )                                            \
-    {                                                                                               \
-        auto hdr = telsx##NAME##From( obj );                                                        \
-        TELSX_ASSERT( hdr );                                                                        \
-        return telsx::linesToString( telsx::adopt( telsx##NAME##Encode( hdr ) ) );                  \
+#define TELSX_DEFINE_HEADER( NAME, SIP_NAME )                                                               \
+    RT_STORE telsx##NAME##Store( TELSX_HANDLE( NAME ) hdr )                                                 \
+    {                                                                                                       \
+        TELSX_ASSERT( hdr );                                                                                \
+        return telsxMessageHeaderStoreLines( telsx::adopt( telsx##NAME##Encode( hdr ) ).get() );            \
+    }                                                                                                       \
+    static TELSX_HANDLE( NAME ) decode( telsx::HeaderLines &lines );                                        \
+    TELSX_HANDLE( NAME ) telsx##NAME##TryDecode( TELSX_MESSAGE_HEADER header )                              \
+    {                                                                                                       \
+        TELSX_CHECK( telsx::hasName( header, telsx::literal<SIP_NAME>() ), nullptr,                         \
+                     "telsxMessageHeaderNameEqualsCstr( header, \"" SIP_NAME "\", -1 )" );                  \
+        telsx::HeaderLines lines( header );                                                                 \
+        return decode( lines );                                                                             \
+    }                                                                                                       \
+    TELSX_HANDLE( NAME ) telsx##NAME##TryRestore( RT_STORE store )                                          \
+    {                                                                                                       \
+        TELSX_ASSERT( store );                                                                              \
+        return telsx::tryDecodeTaken( telsx::tryRestoreHeader( telsx::literal<SIP_NAME>(), store ),         \
+                                      telsx##NAME##TryDecode );                                             \
+    }                                                                                                       \
+    RT_BOOL telsx##NAME##PresentInMessage( TELSX_MESSAGE msg )                                              \
+    {                                                                                                       \
+        TELSX_ASSERT( msg );                                                                                \
+        return telsx::hasHeader( msg, telsx::headerName<SIP_NAME>() );                                      \
+    }                                                                                                       \
+    void telsx##NAME##EncodeToMessage( TELSX_HANDLE( NAME ) hdr, TELSX_MESSAGE *msg )                       \
+    {                                                                                                       \
+        TELSX_ASSERT( hdr );                                                                                \
+        TELSX_ASSERT_HANDLE( msg );                                                                         \
+        telsx::putHeader( msg, telsx::headerName<SIP_NAME>(), telsx::adopt( telsx##NAME##Encode( hdr ) ) ); \
+    }                                                                                                       \
+    TELSX_HANDLE( NAME ) telsx##NAME##TryDecodeFromMessage( TELSX_MESSAGE msg )                             \
+    {                                                                                                       \
+        TELSX_ASSERT( msg );                                                                                \
+        telsx::HeaderLines lines( msg, telsx::headerName<SIP_NAME>() );                                     \
+        return lines.empty() ? nullptr : decode( lines );                                                   \
+    }                                                                                                       \
+    void telsx##NAME##RemoveFromMessage( TELSX_MESSAGE *msg )                                               \
+    {                                                                                                       \
+        TELSX_ASSERT_HANDLE( msg );                                                                         \
+        telsx::removeHeader( msg, telsx::headerName<SIP_NAME>() );                                          \
+    }                                                                                                       \
+    RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj )                                                    \
+    {                                                                                                       \
+        auto hdr = telsx##NAME##From( obj );                                                                \
+        TELSX_ASSERT( hdr );                                                                                \
+        return telsx::linesToString( telsx::adopt( telsx##NAME##Encode( hdr ) ) );                          \
     }
 
 // What a kind is beside its fields: TELSX_DEFINE_OBJECT with the three slots, their functions, and the line

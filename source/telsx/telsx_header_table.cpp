@@ -29,11 +29,12 @@ static constexpr RT_SORT_ sort = {
 Ref<HeaderTable *> createHeaderTable( Bytes bytes, bool isAscii )
 {
     int64_t size = lengthOf( bytes ), own = sizeof( HeaderTable );
-    auto *table = reinterpret_cast<HeaderTable *>( rt::createObject( own + size + rt::scanSlack, &sort ) );
+    auto *table = reinterpret_cast<HeaderTable *>( rt___ObjCreate( own + size + rt::scanSlack, &sort ) );
     rt::copyItems( table->bytes(), bytes.data(), size );
     std::memset( table->bytes() + size, 0, rt::scanSlack );
     table->size = size;
     table->isAscii = isAscii;
+    table->isWritten = true;
     table->holdsHeaders = false;
     table->entries.start( table->firstEntries, std::ssize( table->firstEntries ) );
     table->moreLines = {};
@@ -148,6 +149,7 @@ static Ref<HeaderTable *> copyOf( HeaderTable *table )
 {
     Ref<HeaderTable *> copy =
         createHeaderTable( { table->bytes(), static_cast<std::size_t>( table->size ) }, table->isAscii );
+    copy->isWritten = table->isWritten;
     copy->moreLines.append( table->moreLines );
     copy->entries.reserve( table->length + 1 );
     for ( HeaderEntry &entry : table->entries )
@@ -166,10 +168,9 @@ static void own( Ref<HeaderTable *> &table )
         table = copyOf( table.get() );
 }
 
-void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header )
+void setHeader( Ref<HeaderTable *> &table, HeaderName name, Ref<TELSX_MESSAGE_HEADER> header )
 {
     own( table );
-    HeaderName name = headerName( header->name.get() );
     HeaderEntry *entry = findHeader( table.get(), name );
     if ( !entry )
         return append( table.get(), { name.name, header.take(), { -1, 0, -1 }, -1, name.number } );

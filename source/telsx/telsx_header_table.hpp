@@ -50,7 +50,9 @@ private:
     RT_CHAR chs[mostChars + rt::scanSlack];
 };
 
-constexpr Bytes lineEnd = "\r\n", headEnd = "\r\n\r\n";
+// With slack behind them.
+constexpr Bytes nameEnd = asciiBytes<": ">.data(), lineEnd = asciiBytes<"\r\n">.data(),
+                headEnd = asciiBytes<"\r\n\r\n">.data();
 
 // A canonical name and its number among the known names, whose name is a constant then, or -1.
 struct HeaderName
@@ -103,8 +105,9 @@ struct HeaderEntry
 struct HeaderTable
 {
     RT_OBJECT object;
-    int64_t size;      // of the bytes
-    bool isAscii;      // all of them are
+    int64_t size;   // of the bytes
+    bool isAscii;   // all of them are
+    bool isWritten; // each line stands in them as it goes out: canonical name, colon, blank, line, line end
     bool holdsHeaders; // an entry may have its header
     rt::Array<HeaderEntry> entries;
     rt::Array<HeaderLine> moreLines;
@@ -124,6 +127,13 @@ struct HeaderTable
         return { bytes() + line.begin, static_cast<std::size_t>( line.length ) };
     }
     Ref<RT_STRING> stringOf( const HeaderLine &line ) const;
+
+    // A line with its name, as it goes out.
+    Bytes writtenLine( const HeaderLine &line, int64_t nameLength ) const
+    {
+        int64_t before = nameLength + lengthOf( nameEnd ), size = before + line.length + lengthOf( lineEnd );
+        return { bytes() + line.begin - before, static_cast<std::size_t>( size ) };
+    }
 };
 
 // An empty table with a copy of bytes, in which its lines will stand.
@@ -161,7 +171,7 @@ TELSX_MESSAGE_HEADER headerAt( HeaderTable *table, HeaderEntry &entry );
 RT_VECTOR headersVector( HeaderTable *table );
 
 // Change the table, a private copy of it if somebody else has it too.
-void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header );
+void setHeader( Ref<HeaderTable *> &table, HeaderName name, Ref<TELSX_MESSAGE_HEADER> header );
 void delHeader( Ref<HeaderTable *> &table, HeaderName name );
 
 } // namespace telsx

@@ -21,6 +21,14 @@ TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void )
 
 // Start lines
 
+// The fragment made private, with a start line that is no longer the one it was decoded with.
+static TELSX_MESSAGE_FRAGMENT ownStartLine( TELSX_MESSAGE_FRAGMENT *frag )
+{
+    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    own->startLineSize = -1;
+    return own;
+}
+
 void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version, RT_STRING method,
                                      RT_STRING iri )
 {
@@ -28,7 +36,7 @@ void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION
     TELSX_ASSERT( version );
     TELSX_ASSERT( telsxMethodOk( method ) );
     TELSX_ASSERT( telsxIriOk( iri ) );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->version = share( version );
     own->requestMethod = share( method );
     own->requestIri = share( iri );
@@ -43,7 +51,7 @@ void telsxMessageFragmentSetResponseWithReasonPhrase( TELSX_MESSAGE_FRAGMENT *fr
     TELSX_ASSERT( version );
     TELSX_ASSERT( telsxStatusCodeOk( sc ) );
     TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->version = share( version );
     own->requestMethod = {};
     own->requestIri = {};
@@ -60,7 +68,7 @@ void telsxMessageFragmentSetResponse( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSIO
 void telsxMessageFragmentSetNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT *frag )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->version = {};
     own->requestMethod = {};
     own->requestIri = {};
@@ -133,7 +141,7 @@ void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( version );
     TELSX_ASSERT( version );
-    rt::put( TELSX_OWN( frag )->version, version );
+    rt::put( ownStartLine( frag )->version, version );
 }
 
 void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING method )
@@ -141,7 +149,7 @@ void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRI
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( requestMethod );
     TELSX_ASSERT( telsxMethodOk( method ) );
-    rt::put( TELSX_OWN( frag )->requestMethod, method );
+    rt::put( ownStartLine( frag )->requestMethod, method );
 }
 
 void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING iri )
@@ -149,7 +157,7 @@ void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING 
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( requestMethod );
     TELSX_ASSERT( telsxIriOk( iri ) );
-    rt::put( TELSX_OWN( frag )->requestIri, iri );
+    rt::put( ownStartLine( frag )->requestIri, iri );
 }
 
 void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, int64_t sc,
@@ -158,7 +166,7 @@ void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, in
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( responseStatusCode != TELSX_STATUS_CODE_INVALID );
     TELSX_ASSERT( telsxStatusCodeOk( sc ) );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->responseStatusCode = sc;
     if ( updateReasonPhrase )
         own->responseReasonPhrase = adopt( telsxStatusCodeReasonPhrase( sc ) );
@@ -169,7 +177,7 @@ void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, 
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( responseReasonPhrase );
     TELSX_ASSERT( telsxReasonPhraseOk( reasonPhrase ) );
-    rt::put( TELSX_OWN( frag )->responseReasonPhrase, reasonPhrase );
+    rt::put( ownStartLine( frag )->responseReasonPhrase, reasonPhrase );
 }
 
 // Headers
@@ -199,7 +207,7 @@ void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_
 {
     TELSX_ASSERT_HANDLE( frag );
     TELSX_ASSERT( header );
-    setHeader( TELSX_OWN( frag )->headers, share( header ) );
+    setHeader( TELSX_OWN( frag )->headers, headerName( header->name.get() ), share( header ) );
 }
 
 void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name )

@@ -14,11 +14,14 @@ struct TELSX_MESSAGE_FRAGMENT_
     rt::Ref<TELSX_VERSION> version;          // of both
     rt::Ref<telsx::HeaderTable *> headers;   // never null
     rt::Ref<RT_BUFFER> body;
+    int64_t
+        startLineSize; // as it came, with its line end, before the headers' lines; -1 once it is another one
 
     static auto fields( auto &self )
     {
         return std::tie( self.requestMethod, self.requestIri, self.responseStatusCode,
-                         self.responseReasonPhrase, self.version, self.headers, self.body );
+                         self.responseReasonPhrase, self.version, self.headers, self.body,
+                         self.startLineSize );
     }
 };
 

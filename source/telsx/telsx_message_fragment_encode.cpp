@@ -11,9 +11,91 @@
 
 using namespace telsx;
 
-static constexpr Bytes colon = ": ", blank = " ";
+static constexpr Bytes blank = asciiBytes<" ">.data();
 
-// The three words of a start line.
+// What goes out, in pieces: bytes, behind which rt::scanSlack more can be read, and strings. Bytes that follow each other
+// in memory become one piece, so that all lines of a header table between two that were changed are copied at once.
+class Output
+{
+public:
+    Output() { pieces.start( firstPieces, std::ssize( firstPieces ) ); }
+    Output( const Output & ) = delete;
+    ~Output() { pieces.clear(); }
+
+    void add( const char *from, int64_t length )
+    {
+        if ( from != end )
+        {
+            endPiece();
+            begin = from;
+        }
+        end = from + length;
+    }
+    void add( Bytes bytes ) { add( bytes.data(), lengthOf( bytes ) ); }
+    void add( RT_STRING string )
+    {
+        endPiece();
+        begin = end = nullptr;
+        pieces.append( { nullptr, string, textOf( string ).length } );
+    }
+    template <class... PIECE>
+    void add( const PIECE &...more ) requires( sizeof...( more ) > 2 )
+    {
+        ( add( more ), ... );
+    }
+
+    // All that was added, and then the body.
+    RT_BUFFER encoded( Bytes body )
+    {
+        endPiece();
+        // Most strings are ASCII, which is seen when they are written.
+        if ( RT_BUFFER buffer = tryWrite( body ) )
+            return buffer;
+        for ( Piece &piece : pieces )
+            if ( piece.string )
+                piece.length = rt___StringUtf8Length( piece.string );
+        return tryWrite( body );
+    }
+
+private:
+    struct Piece
+    {
+        const char *bytes;
+        RT_STRING string; // or null
+        int64_t length;   // in bytes
+    };
+
+    void endPiece()
+    {
+        if ( begin != end )
+            pieces.append( { begin, nullptr, end - begin } );
+    }
+
+    RT_BUFFER tryWrite( Bytes body )
+    {
+        int64_t size = lengthOf( body );
+        for ( const Piece &piece : pieces )
+            size += piece.length;
+        unsigned char *at;
+        Ref<RT_BUFFER> buffer = adopt( rt___BufferCreateWithLength( size, &at ) );
+        for ( const Piece &piece : pieces )
+        {
+            if ( piece.string && !rt___StringTryUtf8Encode( piece.string, piece.length, at ) )
+                return nullptr;
+            if ( piece.bytes )
+                rt::copy( piece.bytes, piece.length, at );
+            at += piece.length;
+        }
+        rt::copyItems( at, reinterpret_cast<const unsigned char *>( body.data() ), lengthOf( body ) );
+        return buffer.take();
+    }
+
+    const char *begin = nullptr, *end = nullptr; // of the last piece if that is of bytes
+    rt::Array<Piece> pieces;
+    Piece firstPieces[32];
+};
+
+// The three words of a start line that is not the one that came in.
 using StartLine = std::array<Ref<RT_STRING>, 3>;
 
 static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
@@ -29,95 +111,80 @@ static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
              adopt( telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) };
 }
 
-// Bytes behind which rt::scanSlack more can be read, as they can be written behind an encoded message.
-struct WithSlack
+static void addName( Output &output, const HeaderEntry &entry )
 {
-    Bytes bytes;
-};
-
-// What the text is written to: once to learn its size, and then into a buffer of that size.
-struct Counter
-{
-    std::size_t size = 0;
-
-    void add( Bytes bytes ) { size += bytes.size(); }
-    void add( WithSlack piece ) { size += piece.bytes.size(); }
-    void add( RT_STRING string ) { size += static_cast<std::size_t>( rt___StringUtf8Length( string ) ); }
-};
-struct Writer
-{
-    unsigned char *at;
-
-    void add( Bytes bytes )
-    {
-        std::memcpy( at, bytes.data(), bytes.size() );
-        at += bytes.size();
-    }
-    void add( WithSlack piece )
-    {
-        rt::copy( piece.bytes.data(), lengthOf( piece.bytes ), at );
-        at += piece.bytes.size();
-    }
-    void add( RT_STRING string ) { at += rt___StringUtf8Encode( string, at ); }
-};
-
-template <class OUTPUT, class... PIECE>
-static void write( OUTPUT &to, const PIECE &...pieces )
-{
-    ( to.add( pieces ), ... );
+    if ( entry.number != -1 )
+        output.add( knownNames[entry.number].bytes );
+    else
+        output.add( entry.name );
+    output.add( nameEnd );
 }
 
 // The lines of a header that was decoded and not replaced go out as they came, any other's as its object has them.
-template <class OUTPUT, class NAME>
-static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const HeaderEntry &entry )
+static void addHeader( Output &output, HeaderTable *table, const HeaderEntry &entry )
 {
     if ( entry.first.begin == -1 )
     {
         RT_VECTOR lines = entry.header->lines.get();
         for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
-            write( to, name, colon, rtStringFrom( rt___VectorObjBorrowed( lines, i ) ), lineEnd );
+        {
+            addName( output, entry );
+            output.add( rtStringFrom( rt___VectorObjBorrowed( lines, i ) ) );
+            output.add( lineEnd );
+        }
         return;
     }
-    write( to, name, colon, WithSlack{ table->lineOf( entry.first ) }, lineEnd );
-    for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
-        write( to, name, colon, WithSlack{ table->lineOf( table->moreLines[next] ) }, lineEnd );
+    int64_t nameLength =
+        entry.number != -1 ? lengthOf( knownNames[entry.number].bytes ) : textOf( entry.name ).length;
+    for ( const HeaderLine *line = &entry.first;; line = &table->moreLines[line->next] )
+    {
+        if ( table->isWritten )
+            output.add( table->writtenLine( *line, nameLength ) );
+        else
+        {
+            addName( output, entry );
+            output.add( table->lineOf( *line ) );
+            output.add( lineEnd );
+        }
+        if ( line->next == -1 )
+            return;
+    }
 }
 
 // The true length stands where the fragment has that header, else behind all others.
-template <class OUTPUT>
-static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, const StartLine &startLine, Bytes bodyLength )
+static void addLength( Output &output, HeaderTable *table, const HeaderEntry *entry, Bytes bodyLength )
 {
-    static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
-    auto writeLength = [&] { write( to, knownNames[lengthNumber].bytes, colon, bodyLength, lineEnd ); };
-    HeaderTable *headers = frag->headers.get();
-    if ( const auto &[first, second, third] = startLine; first )
-        write( to, first.get(), blank, second.get(), blank, third.get(), lineEnd );
-    for ( const HeaderEntry &entry : headers->entries )
-        if ( entry.number == lengthNumber && entry.name )
-            writeLength();
-        else if ( entry.number != -1 && entry.name )
-            writeHeader( to, WithSlack{ knownNames[entry.number].bytes }, headers, entry );
-        else if ( entry.name )
-            writeHeader( to, entry.name, headers, entry );
-    if ( !headers->is[lengthNumber] )
-        writeLength();
-    write( to, lineEnd );
-    if ( frag->body )
-        write( to, bytesOf( frag->body.get() ) );
+    static constexpr Bytes name = knownNames[knownNumber<"Content-Length">()].bytes;
+    if ( entry && entry->first.begin != -1 && entry->last == -1
+         && table->lineOf( entry->first ) == bodyLength )
+        return addHeader( output, table, *entry );
+    output.add( name, nameEnd, bodyLength, lineEnd );
 }
 
 RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
+    HeaderTable *table = frag->headers.get();
+    Output output;
     StartLine startLine;
-    if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
+    if ( frag->startLineSize != -1 )
+        output.add( table->bytes(), frag->startLineSize );
+    else if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
+    {
         startLine = startLineOf( frag );
-    Decimal bodyLength( frag->body ? rtBufferLength( frag->body.get() ) : 0 );
-
-    Counter counter;
-    write( counter, frag, startLine, bodyLength.chars() );
-    Writer writer;
-    RT_BUFFER encoded = rt___BufferCreateWithLength( static_cast<int64_t>( counter.size ), &writer.at );
-    write( writer, frag, startLine, bodyLength.chars() );
-    return encoded;
+        const auto &[first, second, third] = startLine;
+        output.add( first.get(), blank, second.get(), blank, third.get(), lineEnd );
+    }
+    Bytes body = frag->body ? bytesOf( frag->body.get() ) : Bytes();
+    Decimal bodyLength( lengthOf( body ) );
+    static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
+    for ( const HeaderEntry &entry : table->entries )
+        if ( entry.name && entry.number == lengthNumber )
+            addLength( output, table, &entry, bodyLength.chars() );
+        else if ( entry.name )
+            addHeader( output, table, entry );
+    if ( !table->is[lengthNumber] )
+        addLength( output, table, nullptr, bodyLength.chars() );
+    output.add( lineEnd );
+    return output.encoded( body );
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <algorithm>
-#include <charconv>
 #include <string_view>
 
+#include "rt/rt_scan.hpp"
 #include "rt/rt_string.hpp"
 #include "rt/rt_text.hpp"
 #include "telsx/telsx_frame.hpp"
@@ -33,53 +33,52 @@ inline Ref<RT_STRING> text( const wchar_t *chars, int64_t length )
 class Decimal
 {
 public:
-    explicit Decimal( int64_t number )
-        : size( std::to_chars( digits, std::end( digits ), number ).ptr - digits )
-    {
-    }
+    Decimal() = default;
+    explicit Decimal( int64_t number );
     std::string_view chars() const { return { digits, static_cast<std::size_t>( size ) }; }
 
 private:
-    char digits[20];
+    char digits[20 + rt::scanSlack];
     int64_t size;
 };
 
-// The pieces that texts are put together from, as ASCII or as code points.
+inline int64_t lengthOf( std::string_view text ) { return static_cast<int64_t>( text.size() ); }
+
+// A piece of a text that is put together, of ASCII or of code points.
+struct Piece
+{
+    const void *chars;
+    int64_t length;
+    bool isWide;
+};
+
 template <std::size_t SIZE>
-std::string_view pieceOf( const char ( &literal )[SIZE] )
+Piece pieceOf( const char ( &literal )[SIZE] )
 {
-    return { literal, SIZE - 1 };
+    return { literal, SIZE - 1, false };
 }
-inline std::string_view pieceOf( const char &ch ) { return { &ch, 1 }; }
-inline std::string_view pieceOf( const Decimal &number ) { return number.chars(); }
-inline Text pieceOf( RT_STRING string ) { return textOf( string ); }
-inline Text pieceOf( const Ref<RT_STRING> &string ) { return textOf( string ); }
-
-inline int64_t lengthOf( std::string_view piece ) { return static_cast<int64_t>( piece.size() ); }
-inline int64_t lengthOf( Text piece ) { return piece.length; }
-
-inline RT_CHAR *copyTo( RT_CHAR *into, std::string_view piece )
+inline Piece pieceOf( const char &ch ) { return { &ch, 1, false }; }
+inline Piece pieceOf( const Decimal &number )
 {
-    return std::copy( piece.begin(), piece.end(), into );
+    return { number.chars().data(), lengthOf( number.chars() ), false };
 }
-inline RT_CHAR *copyTo( RT_CHAR *into, Text piece ) { return std::copy_n( piece.chs, piece.length, into ); }
+inline Piece pieceOf( RT_STRING string )
+{
+    Text text = textOf( string );
+    return { text.chs, text.length, true };
+}
+inline Piece pieceOf( const Ref<RT_STRING> &string ) { return pieceOf( string.get() ); }
+
+// One function for all texts, which goes through a list: code for each text would be as fast by itself, but all of it
+// together does not stay in the processor's cache.
+void appendPieces( Ref<RT_STRING> &text, const Piece *pieces, std::size_t count );
 
 // Appends pieces, one behind the other: literals, characters, numbers and other strings.
 template <class... PIECE>
 void append( Ref<RT_STRING> &text, const PIECE &...pieces )
 {
-    int64_t length = ( lengthOf( pieceOf( pieces ) ) + ... );
-    RT_CHAR *into = rt___StringExtend( text.address(), length );
-    ( ( into = copyTo( into, pieceOf( pieces ) ) ), ... );
-}
-
-// An empty text that grows to this length without moving.
-inline Ref<RT_STRING> textWithRoom( int64_t length )
-{
-    Ref<RT_STRING> text;
-    rt::newString( length, text.address() );
-    text.get()->length = 0;
-    return text;
+    const Piece list[] = { pieceOf( pieces )... };
+    appendPieces( text, list, std::size( list ) );
 }
 
 // The string of such pieces.
@@ -87,10 +86,49 @@ template <class... PIECE>
 Ref<RT_STRING> joined( const PIECE &...pieces )
 {
     Ref<RT_STRING> text;
-    RT_CHAR *into = rt::newString( ( lengthOf( pieceOf( pieces ) ) + ... ), text.address() );
-    ( ( into = copyTo( into, pieceOf( pieces ) ) ), ... );
+    append( text, pieces... );
     return text;
 }
+
+// Pieces that are collected one after the other and must stay where they are until then, so that a text with parts
+// that may be absent is put together once. Numbers are kept here.
+class Pieces
+{
+public:
+    template <std::size_t SIZE>
+    void add( const char ( &literal )[SIZE] )
+    {
+        put( pieceOf( literal ) );
+    }
+    void add( const Ref<RT_STRING> &string ) { put( pieceOf( string ) ); }
+    void add( Ref<RT_STRING> && ) = delete;
+    void add( int64_t number ) { put( pieceOf( numbers[numberCount++] = Decimal( number ) ) ); }
+
+    template <class... PIECE>
+    void add( PIECE &&...more ) requires( sizeof...( more ) > 1 )
+    {
+        ( add( std::forward<PIECE>( more ) ), ... );
+    }
+    Ref<RT_STRING> joined() const
+    {
+        Ref<RT_STRING> text;
+        appendPieces( text, list, count );
+        return text;
+    }
+
+private:
+    static constexpr std::size_t most = 24, mostNumbers = 4;
+
+    void put( Piece piece )
+    {
+        TELSX_ASSERT( count < most );
+        list[count++] = piece;
+    }
+
+    Piece list[most];
+    Decimal numbers[mostNumbers];
+    std::size_t count = 0, numberCount = 0;
+};
 
 // The string in lower or upper case, a new reference; the string itself stays as it is.
 inline RT_STRING lowerCase( RT_STRING string )

@@ -1,43 +1,13 @@
 // What the headers that are a list of values share. The values are kept as text, in a field called values,
-// and read one by one when somebody asks; a header may have read the first one before, in a field called firstValue. A
-// header is written with one line for each value.
+// and read one by one when somebody asks; a header may know where the parts of the first one stand, in a field called
+// firstPlaces. A header is written with one line for each value.
 #pragma once
-
-#include <atomic>
 
 #include "telsx/telsx_header.hpp"
 #include "telsx/telsx_items.hpp"
 
 namespace telsx
 {
-
-// A value that was read before anybody asked. Who asks first gets it, so that everybody has an object of his own, and a
-// copy of the header has none.
-template <class VALUE>
-class ReadValue
-{
-public:
-    ReadValue() = default;
-    ReadValue &operator=( const ReadValue & )
-    {
-        clear( *this );
-        return *this;
-    }
-
-    // Several threads may ask at once. Null if it is gone.
-    VALUE take() const { return std::atomic_ref( value ).exchange( nullptr, std::memory_order_acq_rel ); }
-
-    // While the header is the caller's alone.
-    void put( Ref<VALUE> read )
-    {
-        clear( *this );
-        value = read.take();
-    }
-    friend void clear( ReadValue &read ) { adopt( std::exchange( read.value, nullptr ) ); }
-
-private:
-    mutable VALUE value = nullptr;
-};
 
 // A new header with an empty list.
 template <class T>
@@ -73,8 +43,8 @@ bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, W
 template <class T>
 RT_VECTOR *valuesToChange( T *hdr )
 {
-    if constexpr ( requires { hdr->firstValue; } )
-        clear( hdr->firstValue );
+    if constexpr ( requires { hdr->firstPlaces; } )
+        hdr->firstPlaces = {};
     return hdr->values.address();
 }
 
@@ -98,10 +68,11 @@ void insertValue( T *hdr, int64_t index, Ref<RT_STRING> text )
 template <class T, class VALUE>
 VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
 {
-    if constexpr ( requires { hdr.firstValue; } )
-        if ( VALUE value = index == 0 ? hdr.firstValue.take() : nullptr )
-            return value;
-    return textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) ).as( tryDecode );
+    Text text = textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) );
+    if constexpr ( requires { hdr.firstPlaces; } )
+        if ( index == 0 )
+            return tryDecodeVia( text, hdr.firstPlaces );
+    return text.as( tryDecode );
 }
 
 } // namespace telsx

@@ -2,7 +2,9 @@
 #include "telsx/telsx_via.h"
 
 #include "telsx/telsx_branch.h"
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_host.hpp"
+#include "telsx/telsx_number.hpp"
 #include "telsx/telsx_port.h"
 #include "telsx/telsx_transport.hpp"
 #include "telsx/telsx_ttl.h"
@@ -134,24 +136,27 @@ void telsxViaDelRport( TELSX_VIA *via )
 RT_STRING telsx___ViaEncode( TELSX_VIA via )
 {
     TELSX_ASSERT( via );
-    Ref<RT_STRING> text = textWithRoom( 96 );
-    append( text, adopt( telsx___VersionEncode( via->version.get() ) ), '/',
-            transportInUpperCase( via->transport.get() ), ' ',
-            adopt( telsx___HostEncode( via->host.get() ) ) );
+    auto version = adopt( telsx___VersionEncode( via->version.get() ) );
+    auto transport = transportInUpperCase( via->transport.get() );
+    auto host = adopt( telsx___HostEncode( via->host.get() ) );
+    Ref<RT_STRING> maddr, received;
+    Pieces pieces;
+    pieces.add( version, "/", transport, " ", host );
     if ( rt::present( via->port ) )
-        append( text, ':', adopt( telsx___PortEncode( via->port ) ) );
+        pieces.add( ":", via->port );
     if ( rt::present( via->ttl ) )
-        append( text, ";ttl=", adopt( telsx___TtlEncode( via->ttl ) ) );
+        pieces.add( ";ttl=", via->ttl );
     if ( via->maddr )
-        append( text, ";maddr=", adopt( telsx___HostEncode( via->maddr.get() ) ) );
+        pieces.add( ";maddr=", maddr = adopt( telsx___HostEncode( via->maddr.get() ) ) );
     if ( via->received )
-        append( text, ";received=", adopt( netAddressToStringShrink( via->received.get() ) ) );
+        pieces.add( ";received=", received = adopt( netAddressToStringShrink( via->received.get() ) ) );
     if ( via->rportEmpty )
-        append( text, ";rport" );
+        pieces.add( ";rport" );
     else if ( rt::present( via->rportNumeric ) )
-        append( text, ";rport=", adopt( telsx___PortEncode( via->rportNumeric ) ) );
+        pieces.add( ";rport=", via->rportNumeric );
     if ( via->branch )
-        append( text, ";branch=", via->branch );
+        pieces.add( ";branch=", via->branch );
+    Ref<RT_STRING> text = pieces.joined();
     appendGenericParams( text, via->genericParams.get(),
                          { { literal<"ttl">(), rt::present( via->ttl ) },
                            { literal<"maddr">(), rt::present( via->maddr ) },
@@ -167,8 +172,10 @@ static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
     return v6 ? v6 : telsx___SkipIpV4Address( chs, length );
 }
 
-Ref<TELSX_VIA> telsx::takeVia( Text &rest )
+TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
+    Text rest = { chs, length };
     auto version = adopt( rest.take( telsx___SkipVersion ).as( telsx___VersionTryDecode ) );
     if ( !version || !rest.take( telsx___SkipSlash ) )
         return {};
@@ -205,16 +212,78 @@ Ref<TELSX_VIA> telsx::takeVia( Text &rest )
             param.store( via->branch, param.value.copy() );
         param.storeGeneric( via->genericParams );
     }
-    if ( param.failed() && !param.stopped() )
-        return {};
-    rest = param.behind();
-    return via;
+    return param.failed() ? nullptr : via.take();
 }
 
-TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
+// Of SIP/2.0.
+static constexpr int64_t versionLength = 7;
+
+int64_t telsx::skipVia( Text text, ViaPlaces &places )
 {
-    TELSX_ASSERT_CHARS( chs, length );
-    Text rest = { chs, length };
-    Ref<TELSX_VIA> via = takeVia( rest );
-    return rest ? nullptr : via.take();
+    Text rest = text;
+    auto at = [&text, &rest] { return static_cast<uint16_t>( text.length - rest.length ); };
+    places = {};
+    if ( !rest.take( telsx___SkipVersion ) || !rest.take( telsx___SkipSlash ) )
+        return 0;
+    bool isPlain = at() == versionLength + 1 && text.length <= UINT16_MAX;
+    if ( !rest.take( telsx___SkipTransport ) )
+        return 0;
+    places.transportEnd = at();
+    if ( !rest.take( telsx___SkipLws ) )
+        return 0;
+    isPlain = isPlain && at() == places.transportEnd + 1;
+    if ( !rest.take( telsx___SkipHost ) )
+        return 0;
+    places.hostEnd = places.portEnd = at();
+    if ( int64_t colon = telsx___SkipColon( rest.chs, rest.length ) )
+    {
+        rest.take( colon );
+        isPlain = isPlain && colon == 1;
+        if ( !rest.take( telsx___SkipPort ) )
+            return 0;
+        places.portEnd = at();
+    }
+    for ( ;; )
+    {
+        Text param = rest;
+        if ( !param.take( telsx___SkipSemi ) )
+            break;
+        int64_t length = telsx___SkipViaParams( param.chs, param.length );
+        if ( !length )
+            break;
+        rest = param.behind( length );
+        param = param.first( length );
+        auto begin = static_cast<uint16_t>( param.chs - text.chs );
+        if ( beginsInAnyCase<"branch=">( param ) && length > 7 && isIn( param.chs[7], classToken ) )
+            places.branch = static_cast<uint16_t>( begin + 7 ), places.branchEnd = at();
+        else if ( beginsInAnyCase<"rport">( param )
+                  && ( length == 5 || ( length > 6 && param.chs[5] == '=' ) ) )
+            places.rport = static_cast<uint16_t>( length == 5 ? at() : begin + 6 ), places.rportEnd = at();
+        else
+            isPlain = false;
+    }
+    places.areKnown = isPlain;
+    return text.length - rest.length;
+}
+
+TELSX_VIA telsx::tryDecodeVia( Text text, const ViaPlaces &places )
+{
+    auto between = [text]( int64_t begin, int64_t end ) { return text.first( end ).behind( begin ); };
+    bool hasPort = places.portEnd > places.hostEnd, hasNumericRport = places.rportEnd > places.rport;
+    int64_t port = hasPort ? tryDecodeNumber( between( places.hostEnd + 1, places.portEnd ) ) : -1,
+            rport = hasNumericRport ? tryDecodeNumber( between( places.rport, places.rportEnd ) ) : -1;
+    if ( !places.areKnown || ( hasPort && port == -1 ) || ( hasNumericRport && rport == -1 ) )
+        return text.as( telsx___ViaTryDecode );
+    Ref<RT_STRING> host = hostOf( between( places.transportEnd + 1, places.hostEnd ) );
+    if ( !host )
+        return nullptr;
+    TELSX_VIA via = create( adopt( text.first( versionLength ).as( telsx___VersionTryDecode ) ),
+                            transportInLowerCase( between( versionLength + 1, places.transportEnd ) ),
+                            std::move( host ) );
+    via->port = port;
+    via->rportNumeric = rport;
+    via->rportEmpty = places.rport && !hasNumericRport;
+    if ( places.branch )
+        via->branch = between( places.branch, places.branchEnd ).copy();
+    return via;
 }
