@@ -11,179 +11,61 @@ class Reading
 public:
     explicit Reading( std::ostream &to ) : out( to ) {}
 
-    void operator()( TELSX_HEADER_CALL_ID header ) const
-    {
-        field( "call id", telsxHeaderCallIdCallId( header ) );
-    }
-
-    void operator()( TELSX_HEADER_CSEQ header ) const
-    {
-        field( "number", telsxHeaderCseqCseq( header ) );
-        field( "method", telsxHeaderCseqMethod( header ) );
-    }
-
-    void operator()( TELSX_HEADER_FROM header ) const
-    {
-        field( "display name", telsxHeaderFromDisplayName( header ) );
-        field( "iri", telsxHeaderFromIri( header ) );
-        field( "tag", telsxHeaderFromTag( header ) );
-        field( "epid", telsxHeaderFromEpid( header ) );
-        parameters( telsxHeaderFromGenericParams( header ) );
-    }
-
-    void operator()( TELSX_HEADER_TO header ) const
-    {
-        field( "display name", telsxHeaderToDisplayName( header ) );
-        field( "iri", telsxHeaderToIri( header ) );
-        field( "tag", telsxHeaderToTag( header ) );
-        field( "epid", telsxHeaderToEpid( header ) );
-        parameters( telsxHeaderToGenericParams( header ) );
-    }
-
-    void operator()( TELSX_HEADER_MAX_FORWARDS header ) const
-    {
-        field( "hops", telsxHeaderMaxForwardsMaxForwards( header ) );
-    }
-
-    void operator()( TELSX_ACCEPT accept ) const
-    {
-        field( "type", telsxAcceptMediaType( accept ) );
-        field( "subtype", telsxAcceptMediaSubtype( accept ) );
-        weight( telsxAcceptQvalue( accept ) );
-        parameters( telsxAcceptGenericParams( accept ) );
-    }
-
-    void operator()( TELSX_ACCEPT_ENCODING encoding ) const
-    {
-        field( "coding", telsxAcceptEncodingContentCoding( encoding ) );
-        weight( telsxAcceptEncodingQvalue( encoding ) );
-        parameters( telsxAcceptEncodingGenericParams( encoding ) );
-    }
-
-    void operator()( TELSX_ALERT_INFO info ) const
-    {
-        field( "iri", telsxAlertInfoIri( info ) );
-        parameters( telsxAlertInfoGenericParams( info ) );
-    }
-
-    void operator()( TELSX_CALL_INFO info ) const
-    {
-        field( "iri", telsxCallInfoIri( info ) );
-        field( "purpose", telsxCallInfoPurpose( info ) );
-        parameters( telsxCallInfoGenericParams( info ) );
-    }
-
-    void operator()( TELSX_CONTACT contact ) const
-    {
-        field( "display name", telsxContactDisplayName( contact ) );
-        field( "iri", telsxContactIri( contact ) );
-        weight( telsxContactQvalue( contact ) );
-        field( "expires", telsxContactExpires( contact ) );
-        field( "rc", telsxContactRc( contact ) );
-        field( "mp", telsxContactMp( contact ) );
-        field( "np", telsxContactNp( contact ) );
-        field( "instance", telsxContactSipInstance( contact ) );
-        parameters( telsxContactGenericParams( contact ) );
-    }
-
-    void operator()( TELSX_DIVERSION diversion ) const
-    {
-        field( "display name", telsxDiversionDisplayName( diversion ) );
-        field( "iri", telsxDiversionIri( diversion ) );
-        field( "reason", telsxDiversionReason( diversion ) );
-        field( "counter", telsxDiversionCounter( diversion ) );
-        field( "limit", telsxDiversionLimit( diversion ) );
-        field( "privacy", telsxDiversionPrivacy( diversion ) );
-        field( "screen", telsxDiversionScreen( diversion ) );
-        parameters( telsxDiversionGenericParams( diversion ) );
-    }
-
-    void operator()( TELSX_ERROR_INFO info ) const
-    {
-        field( "iri", telsxErrorInfoIri( info ) );
-        parameters( telsxErrorInfoGenericParams( info ) );
-    }
-
-    void operator()( TELSX_HISTORY_INFO info ) const
-    {
-        field( "display name", telsxHistoryInfoDisplayName( info ) );
-        field( "iri", telsxHistoryInfoIri( info ) );
-        field( "index", telsxHistoryInfoIndex( info ) );
-        field( "rc", telsxHistoryInfoRc( info ) );
-        field( "mp", telsxHistoryInfoMp( info ) );
-        field( "np", telsxHistoryInfoNp( info ) );
-        parameters( telsxHistoryInfoGenericParams( info ) );
-    }
-
-    void operator()( TELSX_IDENTITY_VALUE identity ) const
-    {
-        field( "display name", telsxIdentityValueDisplayName( identity ) );
-        field( "iri", telsxIdentityValueIri( identity ) );
-    }
-
-    void operator()( TELSX_REASON reason ) const
-    {
-        field( "protocol", telsxReasonProtocol( reason ) );
-        field( "cause", telsxReasonCause( reason ) );
-        field( "text", telsxReasonText( reason ) );
-        parameters( telsxReasonGenericParams( reason ) );
-    }
-
-    void operator()( TELSX_ROUTE route ) const
-    {
-        field( "display name", telsxRouteDisplayName( route ) );
-        field( "iri", telsxRouteIri( route ) );
-        parameters( telsxRouteGenericParams( route ) );
-    }
-
-    void operator()( TELSX_VIA via ) const
-    {
-        Owned version( telsxViaVersion( via ) );
-        field( "protocol", telsxVersionToString( version.get() ) );
-        field( "transport", telsxViaTransport( via ) );
-        field( "host", telsxViaHost( via ) );
-        field( "port", telsxViaPort( via ) );
-        field( "ttl", telsxViaTtl( via ) );
-        field( "maddr", telsxViaMaddr( via ) );
-        if ( Owned received{ telsxViaReceived( via ) } )
-            field( "received", netAddressToString( received.get() ) );
-        if ( telsxViaHasRportEmpty( via ) )
-            line( "rport", "asked for" );
-        field( "rport", telsxViaRportNumeric( via ) );
-        field( "branch", telsxViaBranch( via ) );
-        parameters( telsxViaGenericParams( via ) );
-    }
-
-    void operator()( TELSX_WARNING_VALUE warning ) const
-    {
-        field( "code", telsxWarningValueWarnCode( warning ) );
-        field( "agent", telsxWarningValueWarnAgent( warning ) );
-        field( "text", telsxWarningValueWarnText( warning ) );
-    }
+    // One for each value and each header with fields. The library's lists of types name the fields too.
+#define FIELD( NAME, WORD, ... ) field( #WORD, telsx##NAME##WORD( object ) );
+#define TELSX_TEXT FIELD
+#define TELSX_OPTIONAL_TEXT FIELD
+#define TELSX_NUMBER( NAME, WORD, ELEMENT ) \
+    number<std::string_view( #ELEMENT ) == "Qvalue">( #WORD, telsx##NAME##WORD( object ) );
+#define TELSX_OPTIONAL_NUMBER TELSX_NUMBER
+#define TELSX_READ_NUMBER( NAME, WORD ) number( #WORD, telsx##NAME##WORD( object ) );
+#define TELSX_FLAG( NAME, WORD ) mark( #WORD, telsx##NAME##WORD( object ) );
+#define TELSX_MARK( NAME, WORD ) mark( #WORD, telsx##NAME##Has##WORD( object ) );
+#define TELSX_OBJECT_OF( NAME, WORD, TYPE )           \
+    if ( Owned owned{ telsx##NAME##WORD( object ) } ) \
+        field( #WORD, TYPE##ToString( owned.get() ) );
+#define TELSX_PARAMS( NAME ) parameters( telsx##NAME##GenericParams( object ) );
+#define OPERATOR( SORT, FIELDS ) \
+    void operator()( TELSX_##SORT object ) const { FIELDS }
+#define TELSX_VALUE( NAME, SORT, FIELDS ) OPERATOR( SORT, FIELDS )
+#include <telsx/telsx_values.def>
+#define TELSX_KIND( NAME, SORT, SIP_NAME )
+#define TELSX_KIND_OF_FIELDS( NAME, SORT, SIP_NAME, FIELDS ) OPERATOR( SORT, FIELDS )
+#include <telsx/telsx_headers.def>
 
 private:
-    void line( const char *name, const std::string &text ) const
+    // The label of DisplayName is "display name".
+    void line( std::string_view word, const std::string &text ) const
     {
-        out << "    " << std::left << std::setw( 14 ) << name << text << '\n';
+        std::string label;
+        for ( char ch : word )
+        {
+            bool isCapital = ch >= 'A' && ch <= 'Z';
+            label += isCapital && !label.empty() ? " " : "";
+            label += static_cast<char>( isCapital ? ch + 0x20 : ch );
+        }
+        out << "    " << std::left << std::setw( 18 ) << label << text << '\n';
     }
 
-    // What the getters return: a new reference or null, a number or -1.
-    void field( const char *name, RT_STRING text ) const
+    // What the getters return: a new reference or null, a number or -1, whether a mark is there.
+    void field( const char *word, RT_STRING text ) const
     {
         if ( Owned owned{ text } )
-            line( name, printable( owned ) );
+            line( word, printable( owned ) );
     }
-    void field( const char *name, int64_t number ) const
+    template <bool IS_IN_THOUSANDTHS = false>
+    void number( const char *word, int64_t number ) const
     {
-        if ( number != -1 )
-            line( name, std::to_string( number ) );
+        if ( number == -1 )
+            return;
+        line( word, IS_IN_THOUSANDTHS ? std::to_string( number / 1000 ) + '.'
+                                            + std::to_string( 1000 + number % 1000 ).substr( 1 )
+                                      : std::to_string( number ) );
     }
-
-    void weight( int64_t thousandths ) const
+    void mark( const char *word, RT_BOOL isThere ) const
     {
-        if ( thousandths != -1 )
-            line( "q", std::to_string( thousandths / 1000 ) + '.'
-                           + std::to_string( 1000 + thousandths % 1000 ).substr( 1 ) );
+        if ( isThere )
+            line( word, "yes" );
     }
 
     void parameters( TELSX_GENERIC_PARAMS params ) const
@@ -201,15 +83,26 @@ private:
     std::ostream &out;
 };
 
-// Of a kind that is one value. A kind that Reading doesn't know shows its text.
+#undef FIELD
+#undef OPERATOR
+#undef TELSX_KIND
+#undef TELSX_VALUE
+#undef TELSX_TEXT
+#undef TELSX_OPTIONAL_TEXT
+#undef TELSX_NUMBER
+#undef TELSX_OPTIONAL_NUMBER
+#undef TELSX_READ_NUMBER
+#undef TELSX_FLAG
+#undef TELSX_MARK
+#undef TELSX_OBJECT_OF
+#undef TELSX_PARAMS
+
+// Of a kind that has fields.
 template <class HANDLE>
-void showHeader( const char *name, const Owned<HANDLE> &header, RT_STRING ( *toString )( HANDLE ) )
+void showFields( const char *name, const Owned<HANDLE> &header )
 {
     std::cout << "  " << name << '\n';
-    if constexpr ( std::is_invocable_v<Reading, HANDLE> )
-        Reading{ std::cout }( header.get() );
-    else
-        std::cout << "    " << printable( Owned( toString( header.get() ) ) ) << '\n';
+    Reading{ std::cout }( header.get() );
 }
 
 inline bool isStar( TELSX_HEADER_CONTACT header ) { return telsxHeaderContactIsStarForm( header ); }
@@ -251,17 +144,18 @@ inline void showTyped( const Message &message )
 {
     TELSX_MESSAGE msg = message.get();
     std::cout << "typed\n";
-#define SHOW( NAME, SORT, SIP_NAME, SHOW_HEADER, ... )              \
+#define SHOW( NAME, SIP_NAME, CALL )                                \
     if ( Owned header{ telsx##NAME##TryDecodeFromMessage( msg ) } ) \
-        SHOW_HEADER( SIP_NAME, header, __VA_ARGS__ );               \
+        CALL;                                                       \
     else if ( telsx##NAME##PresentInMessage( msg ) )                \
         std::cout << "  " SIP_NAME " does not decode\n";
-#define TELSX_KIND( NAME, SORT, SIP_NAME ) SHOW( NAME, SORT, SIP_NAME, showHeader, telsx##NAME##ToString )
+#define TELSX_KIND_OF_FIELDS( NAME, SORT, SIP_NAME, FIELDS ) \
+    SHOW( NAME, SIP_NAME, showFields( SIP_NAME, header ) )
 #define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE ) \
-    SHOW( NAME, SORT, SIP_NAME, showValues, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At )
+    SHOW( NAME, SIP_NAME,                                         \
+          showValues( SIP_NAME, header, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At ) )
 #define TELSX_KIND_OF_TEXTS( NAME, SORT, SIP_NAME, WORD ) \
-    SHOW( NAME, SORT, SIP_NAME, showTexts, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At )
+    SHOW( NAME, SIP_NAME, showTexts( SIP_NAME, header, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At ) )
 #include <telsx/telsx_headers.def>
-#undef TELSX_KIND
 #undef SHOW
 }

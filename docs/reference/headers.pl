@@ -46,6 +46,25 @@ sub spew
     close $out or die "$name: $!\n";
 }
 
+# What a macro's comment says of the function with this suffix. A row may name a part of the suffix by the macro's
+# parameter, such as Del<WORD>At; in its text <word> and <words> are that argument in words.
+sub row
+{
+    my ( $macro, $value, $suffix ) = @_;
+    for my $key ( keys %{ $macro->{rows} } )
+    {
+        ( my $name = $key ) =~ s/<([A-Z_]+)>/$value->{$1}/g;
+        next if $name ne $suffix;
+        my $text = $macro->{rows}{$key};
+        my $words = lc join ' ', ( $value->{WORD} // '' ) =~ /[A-Z][a-z0-9]*/g;
+        $text =~ s/texts \(<words>\)/${words}s/g;
+        $text =~ s/<word>/$words/g;
+        $text =~ s/<([A-Z_]+)>/$value->{$1}/g;
+        return $text;
+    }
+    return;
+}
+
 # What a macro declares: a section, the declaration and what the macro's comment says of it.
 sub expanded
 {
@@ -58,14 +77,14 @@ sub expanded
     $body =~ s/##/\0/g;
     $body =~ s/\b(\w+)\b/exists $value{$1} ? $value{$1} : $1/ge;
     $body =~ s/\0//g;
-    my ($prefix) = grep { /^[a-z]/ } @arguments, "telsx$arguments[0]";
+    my ($prefix) = grep { /^[a-z]+[A-Z]/ } @arguments, "telsx$arguments[0]";
     my @items;
-    for ( $body =~ /([A-Z_]+\( [^;]*? \)(?= [A-Z]|$)|\S[^;]*;)/g )
+    for ( $body =~ /([A-Z_]+\( [^;]*? \)(?= [A-Za-z]|$)|\S[^;]*;)/g )
     {
         if (/^[A-Z_]+\(/) { push @items, expanded( $_, $comment ); next; }
         my ($suffix) = /\b$prefix(\w*)\(/;
-        my $section = /___/ ? 'internal' : $name;
-        my $text = !$suffix ? $macro->{comment} : $macro->{rows}{$suffix} || die "$call: nothing tells of $suffix\n";
+        my $section = /___/ ? 'internal' : ( grep { $_->[0] eq $name } @sections ) ? $name : '';
+        my $text = $suffix ? row( $macro, \%value, $suffix ) || die "$call: nothing tells of $suffix\n" : $macro->{comment};
         push @items, /^typedef/ ? [ '', $_, $comment || 'The handle of an object of the type.' ] : [ $section, $_, $text ];
     }
     return @items;
@@ -80,7 +99,7 @@ sub learn
     $body =~ s/\s+/ /g;
     $body =~ s/^ | $//g;
     my %rows;
-    while ( $comment =~ /^   ?(\w+(?:, \w+)*)   *(\S.*(?:\n {6,}.*)*)/mg )
+    while ( $comment =~ /^   ?([\w<>]+(?:, [\w<>]+)*)   *(\S.*(?:\n {6,}.*)*)/mg )
     {
         my ( $names, $text ) = ( $1, ucfirst $2 );
         $text =~ s/\s+/ /g;
@@ -115,7 +134,7 @@ sub read_header
         my $end = $line =~ /^#/ ? qr/$/ : $line =~ /^(typedef )?struct \w+$/ ? qr/^\}.*;$/m : qr/;$/;
         $line .= "\n" . shift @lines until $line =~ $end;
         $line =~ s/\b(RT_API|RT_NORETURN|RT_THREAD_LOCAL) //g;
-        learn( $line, $comment ) if $line =~ /^#define.*_(TYPE|OBJECT|HEADER|FUNC)\(/;
+        learn( $line, $comment ) if $line =~ /^#define \w+_(TYPE|OBJECT|HEADER|FUNC|SET|LIST|VALUES)\(/;
         push @items, [ $line =~ /___/ ? 'internal' : '', $line, $comment ];
     }
     return unless @items;

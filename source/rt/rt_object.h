@@ -74,11 +74,14 @@ struct RT_SORT_
 /* The functions that every type has.
  *
  *   Sort              the type's identity; borrowed
- *   Retain, Release   one reference more, one less, atomically; null aborts
- *   Obj, From         to any object and back, without a new reference; null passes, and From aborts for an
- *                     object of another type
+ *   Retain            takes one reference more, atomically; null aborts
+ *   Release           gives one reference up, atomically, and frees the object with the last one; null aborts
+ *   Obj               the object as an object of any type, without a new reference; null gives null
+ *   From              an object of any type as one of this type, without a new reference; null gives null, and an
+ *                     object of another type aborts
  *   ToString          the object's text, a new reference; null aborts
- *   Compare, Equals   negative, 0 or positive; whether Compare gives 0. Null aborts in Compare only */
+ *   Compare           how two objects sort: negative, 0 or positive; null aborts
+ *   Equals            whether Compare gives 0; null equals null alone */
 #define RT_OBJECT_TYPE( API, NAME, HANDLE )                \
     typedef struct HANDLE##_ *HANDLE;                      \
     API RT_SORT NAME##Sort( void );                        \

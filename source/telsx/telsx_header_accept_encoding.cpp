@@ -5,32 +5,9 @@
 
 using namespace telsx;
 
-struct TELSX_HEADER_ACCEPT_ENCODING_
+struct TELSX_HEADER_ACCEPT_ENCODING_ : ValueList
 {
-    RT_OBJECT object;
-    Ref<RT_VECTOR> values; // texts, never null
-
-    static auto fields( auto &self ) { return std::tie( self.values ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderAcceptEncoding, HEADER_ACCEPT_ENCODING, hdr, "Accept-Encoding" )
-TELSX_DEFINE_VALUE_LIST( HeaderAcceptEncoding, AcceptEncoding, AcceptEncoding, telsx___AcceptEncodingEncode,
-                         ClearAcceptEncodings )
-
-TELSX_HEADER_ACCEPT_ENCODING telsxHeaderAcceptEncodingCreate( void )
-{
-    return createList<TELSX_HEADER_ACCEPT_ENCODING_>( telsxHeaderAcceptEncodingSort() );
-}
-
-TELSX_MESSAGE_HEADER telsxHeaderAcceptEncodingEncode( TELSX_HEADER_ACCEPT_ENCODING hdr )
-{
-    TELSX_ASSERT( hdr );
-    return createHeader( literal<"Accept-Encoding">(), hdr->values );
-}
-
-static TELSX_HEADER_ACCEPT_ENCODING decode( HeaderLines &lines )
-{
-    Ref<TELSX_HEADER_ACCEPT_ENCODING> hdr = adopt( telsxHeaderAcceptEncodingCreate() );
-    return decodeValues( hdr->values, lines, telsx___SkipAcceptEncoding, WithoutLines::isNull ) ? hdr.take()
-                                                                                                : nullptr;
-}
+TELSX_DEFINE_HEADER_OF_VALUES( HeaderAcceptEncoding, "Accept-Encoding", AcceptEncoding, AcceptEncoding )

@@ -13,6 +13,7 @@ struct TELSX_HEADER_CONTACT_
 
     static auto fields( auto &self ) { return std::tie( self.starForm, self.values ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
+    void beforeChange() { starForm = 0; }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderContact, HEADER_CONTACT, hdr, "Contact" )

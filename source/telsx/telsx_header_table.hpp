@@ -50,9 +50,9 @@ private:
     RT_CHAR chs[mostChars + rt::scanSlack];
 };
 
-// With slack behind them.
-constexpr Bytes nameEnd = asciiBytes<": ">.data(), lineEnd = asciiBytes<"\r\n">.data(),
-                headEnd = asciiBytes<"\r\n\r\n">.data();
+// With slack, so that an encoder can copy them as blocks.
+inline constexpr char nameEndBytes[3 + rt::scanSlack] = ": ", lineEndBytes[3 + rt::scanSlack] = "\r\n";
+constexpr Bytes nameEnd = nameEndBytes, lineEnd = lineEndBytes, headEnd = "\r\n\r\n";
 
 // A canonical name and its number among the known names, whose name is a constant then, or -1.
 struct HeaderName
@@ -76,7 +76,7 @@ template <rt::Ascii NAME>
 consteval int64_t knownNumber()
 {
     constexpr int64_t number = knownNameNumber( NAME.chs, std::size( NAME.chs ) - 1 );
-    static_assert( number != -1, "names of typed headers belong into knownNames" );
+    static_assert( number != -1, "the name is neither in telsx_headers.def nor in telsx_header_names.def" );
     return number;
 }
 

@@ -14,6 +14,11 @@ struct TELSX_HEADER_VIA_
 
     static auto fields( auto &self ) { return std::tie( self.values, self.firstPlaces ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
+    void beforeChange() { firstPlaces = {}; }
+    TELSX_VIA tryDecodeValue( int64_t index, Text text ) const
+    {
+        return index == 0 ? tryDecodeVia( text, firstPlaces ) : text.as( telsx___ViaTryDecode );
+    }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderVia, HEADER_VIA, hdr, "Via" )

@@ -5,12 +5,8 @@
 
 using namespace telsx;
 
-struct TELSX_HEADER_WARNING_
+struct TELSX_HEADER_WARNING_ : ValueList
 {
-    RT_OBJECT object;
-    Ref<RT_VECTOR> values; // texts, never null
-
-    static auto fields( auto &self ) { return std::tie( self.values ); }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderWarning, HEADER_WARNING, hdr, "Warning" )

@@ -13,8 +13,8 @@
 namespace telsx
 {
 
-// One way to write a known name, in lower case, and the canonical name (telsxMessageHeaderNameNormalize), as a
-// string and in bytes.
+// One way to write a known name, in lower case, and the canonical name (telsxMessageHeaderNameNormalize), as a string and
+// in bytes.
 struct KnownName
 {
     std::string_view spelling;
@@ -22,117 +22,52 @@ struct KnownName
     std::string_view bytes;
 };
 
-// The name's bytes, with slack.
-template <rt::Ascii NAME>
-inline constexpr auto asciiBytes = []
-{
-    std::array<char, std::size( NAME.chs ) + rt::scanSlack> bytes = {};
-    for ( std::size_t i = 0; i < std::size( NAME.chs ); ++i )
-        bytes[i] = static_cast<char>( NAME.chs[i] );
-    return bytes;
-}();
+constexpr char lowerAscii( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
+constexpr char upperAscii( char ch ) { return ch >= 'a' && ch <= 'z' ? static_cast<char>( ch - 0x20 ) : ch; }
 
-template <rt::Ascii NAME>
-constexpr KnownName known( std::string_view spelling )
+// What stands at a place of a canonical name whose character there, in any case, is ch, after the character before: a
+// capital at the start and after each hyphen.
+constexpr char canonicalAscii( char before, char ch )
 {
-    return { spelling, &rt::literalObject<NAME>, asciiBytes<NAME>.data() };
+    return before == '-' ? upperAscii( ch ) : lowerAscii( ch );
 }
 
-// Compact forms (RFC 3261, 7.3.3) stand behind all long names.
-inline constexpr KnownName knownNames[] = {
-    known<"Accept">( "accept" ),
-    known<"Accept-Contact">( "accept-contact" ),
-    known<"Accept-Encoding">( "accept-encoding" ),
-    known<"Accept-Language">( "accept-language" ),
-    known<"Alert-Info">( "alert-info" ),
-    known<"Allow">( "allow" ),
-    known<"Allow-Events">( "allow-events" ),
-    known<"Authorization">( "authorization" ),
-    known<"Call-Id">( "call-id" ),
-    known<"Call-Info">( "call-info" ),
-    known<"Contact">( "contact" ),
-    known<"Content-Disposition">( "content-disposition" ),
-    known<"Content-Encoding">( "content-encoding" ),
-    known<"Content-Length">( "content-length" ),
-    known<"Content-Type">( "content-type" ),
-    known<"Cseq">( "cseq" ),
-    known<"Date">( "date" ),
-    known<"Diversion">( "diversion" ),
-    known<"Error-Info">( "error-info" ),
-    known<"Event">( "event" ),
-    known<"Expires">( "expires" ),
-    known<"From">( "from" ),
-    known<"History-Info">( "history-info" ),
-    known<"Identity">( "identity" ),
-    known<"Identity-Info">( "identity-info" ),
-    known<"In-Reply-To">( "in-reply-to" ),
-    known<"Max-Forwards">( "max-forwards" ),
-    known<"Mime-Version">( "mime-version" ),
-    known<"Min-Expires">( "min-expires" ),
-    known<"Min-Se">( "min-se" ),
-    known<"Organization">( "organization" ),
-    known<"P-Access-Network-Info">( "p-access-network-info" ),
-    known<"P-Asserted-Identity">( "p-asserted-identity" ),
-    known<"P-Called-Party-Id">( "p-called-party-id" ),
-    known<"P-Charging-Vector">( "p-charging-vector" ),
-    known<"P-Preferred-Identity">( "p-preferred-identity" ),
-    known<"Path">( "path" ),
-    known<"Priority">( "priority" ),
-    known<"Privacy">( "privacy" ),
-    known<"Proxy-Authenticate">( "proxy-authenticate" ),
-    known<"Proxy-Authorization">( "proxy-authorization" ),
-    known<"Proxy-Require">( "proxy-require" ),
-    known<"Rack">( "rack" ),
-    known<"Reason">( "reason" ),
-    known<"Record-Route">( "record-route" ),
-    known<"Refer-To">( "refer-to" ),
-    known<"Referred-By">( "referred-by" ),
-    known<"Reject-Contact">( "reject-contact" ),
-    known<"Remote-Party-Id">( "remote-party-id" ),
-    known<"Replaces">( "replaces" ),
-    known<"Reply-To">( "reply-to" ),
-    known<"Request-Disposition">( "request-disposition" ),
-    known<"Require">( "require" ),
-    known<"Retry-After">( "retry-after" ),
-    known<"Route">( "route" ),
-    known<"Rseq">( "rseq" ),
-    known<"Server">( "server" ),
-    known<"Service-Route">( "service-route" ),
-    known<"Session-Expires">( "session-expires" ),
-    known<"Session-Id">( "session-id" ),
-    known<"Sip-Etag">( "sip-etag" ),
-    known<"Sip-If-Match">( "sip-if-match" ),
-    known<"Subject">( "subject" ),
-    known<"Subscription-State">( "subscription-state" ),
-    known<"Supported">( "supported" ),
-    known<"Timestamp">( "timestamp" ),
-    known<"To">( "to" ),
-    known<"Unsupported">( "unsupported" ),
-    known<"User-Agent">( "user-agent" ),
-    known<"Via">( "via" ),
-    known<"Warning">( "warning" ),
-    known<"Www-Authenticate">( "www-authenticate" ),
+// The bytes of a name and of its spelling in lower case, with slack.
+template <rt::Ascii NAME>
+struct NameBytes
+{
+    std::array<char, std::size( NAME.chs ) + rt::scanSlack> canonical = {}, lower = {};
 
-    known<"Accept-Contact">( "a" ),
-    known<"Allow-Events">( "u" ),
-    known<"Call-Id">( "i" ),
-    known<"Contact">( "m" ),
-    known<"Content-Encoding">( "e" ),
-    known<"Content-Length">( "l" ),
-    known<"Content-Type">( "c" ),
-    known<"Event">( "o" ),
-    known<"From">( "f" ),
-    known<"Identity">( "y" ),
-    known<"Identity-Info">( "n" ),
-    known<"Refer-To">( "r" ),
-    known<"Referred-By">( "b" ),
-    known<"Reject-Contact">( "j" ),
-    known<"Request-Disposition">( "d" ),
-    known<"Session-Expires">( "x" ),
-    known<"Subject">( "s" ),
-    known<"Supported">( "k" ),
-    known<"To">( "t" ),
-    known<"Via">( "v" ),
+    consteval NameBytes()
+    {
+        char before = '-';
+        for ( std::size_t i = 0; i < std::size( NAME.chs ) - 1; ++i )
+        {
+            char ch = static_cast<char>( NAME.chs[i] );
+            if ( ch != canonicalAscii( before, ch ) )
+                std::abort(); // the name is not canonical
+            canonical[i] = before = ch;
+            lower[i] = lowerAscii( ch );
+        }
+    }
+};
+template <rt::Ascii NAME>
+inline constexpr NameBytes<NAME> nameBytes;
+
+template <rt::Ascii NAME>
+constexpr KnownName known( std::string_view spelling = nameBytes<NAME>.lower.data() )
+{
+    return { spelling, &rt::literalObject<NAME>, nameBytes<NAME>.canonical.data() };
+}
+
+// All long names, and after them the compact forms.
+inline constexpr KnownName knownNames[] = {
+#define TELSX_KIND( NAME, SORT, SIP_NAME ) known<SIP_NAME>(),
+#include "telsx/telsx_headers.def"
+#undef TELSX_KIND
+#define TELSX_NAME( SIP_NAME ) known<SIP_NAME>(),
+#define TELSX_COMPACT_NAME( COMPACT, SIP_NAME ) known<SIP_NAME>( COMPACT ),
+#include "telsx/telsx_header_names.def"
 };
 
 // How many names there are, whatever their forms.
@@ -143,8 +78,6 @@ inline constexpr std::size_t knownCount = []
         ++count;
     return count;
 }();
-
-constexpr char lowerAscii( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
 
 // The first eight characters of a name as bytes in small letters, the first one the lowest.
 template <class CHAR>

@@ -7,6 +7,7 @@
 #include "telsx/telsx_header_table.hpp"
 #include "telsx/telsx_message_fragment.h"
 #include "telsx/telsx_message_fragment.hpp"
+#include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_method.hpp"
 #include "telsx/telsx_number.hpp"
 #include "telsx/telsx_reason_phrase.h"
@@ -93,10 +94,8 @@ static bool makeCanonical( char *name, std::size_t size )
     char before = '-';
     for ( std::size_t i = 0; i < size; ++i )
     {
-        char lower = lowerAscii( name[i] );
-        bool isCapital = before == '-' && lower >= 'a' && lower <= 'z';
-        name[i] = isCapital ? static_cast<char>( lower - 0x20 ) : lower;
-        before = lower;
+        name[i] = canonicalAscii( before, name[i] );
+        before = name[i];
     }
     return true;
 }

@@ -11,7 +11,8 @@
 
 using namespace telsx;
 
-static constexpr Bytes blank = asciiBytes<" ">.data();
+static constexpr char blankBytes[2 + rt::scanSlack] = " ";
+static constexpr Bytes blank = blankBytes;
 
 // What goes out, in pieces: bytes, behind which rt::scanSlack more can be read, and strings. Bytes that follow each other
 // in memory become one piece, so that all lines of a header table between two that were changed are copied at once.

@@ -21,36 +21,14 @@ int64_t telsx___MessageHeaderCompFunc( RT_OBJ objA, RT_OBJ objB )
 
 // Names
 
-// From the compact forms in lower case to the long names (RFC 3261, 7.3.3, and the RFCs of the later
-// headers).
+// From the compact forms in lower case to the long names.
 static constinit RT_DICT shortToLongDict = nullptr;
 
 void telsx___MessageHeaderStartup( void )
 {
-    static constexpr struct
-    {
-        const char *shortName, *longName;
-    } names[] = {
-        { "a", "Accept-Contact" },
-        { "b", "Referred-By" },
-        { "c", "Content-Type" },
-        { "d", "Request-Disposition" },
-        { "e", "Content-Encoding" },
-        { "f", "From" },
-        { "i", "Call-Id" },
-        { "j", "Reject-Contact" },
-        { "k", "Supported" },
-        { "l", "Content-Length" },
-        { "m", "Contact" },
-        { "n", "Identity-Info" },
-        { "o", "Event" },
-        { "r", "Refer-To" },
-        { "s", "Subject" },
-        { "t", "To" },
-        { "u", "Allow-Events" },
-        { "v", "Via" },
-        { "x", "Session-Expires" },
-        { "y", "Identity" },
+    static constexpr const char *names[][2] = {
+#define TELSX_COMPACT_NAME( COMPACT, SIP_NAME ) { COMPACT, SIP_NAME },
+#include "telsx/telsx_header_names.def"
     };
     shortToLongDict = rtDictCreate();
     for ( auto [shortName, longName] : names )
@@ -70,18 +48,10 @@ RT_BOOL telsxMessageHeaderNameOk( RT_STRING name ) { return covers( telsx___Skip
 RT_STRING telsxMessageHeaderNameNormalize( RT_STRING name )
 {
     TELSX_ASSERT( telsxMessageHeaderNameOk( name ) );
-    Ref<RT_STRING> normal = adopt( lowerCase( name ) );
-    if ( auto longName = adopt( rtDictStringKey( shortToLongDict, normal.get() ) ) )
-        normal = adopt( lowerCase( rtStringFrom( longName.get() ) ) );
-    bool atStart = true;
-    for ( int64_t i = 0; i < rtStringLength( normal.get() ); ++i )
-    {
-        RT_CHAR ch = rtStringCharAt( normal.get(), i ), capital;
-        if ( atStart && rt___UnicodeUpperCaseDbLookup( ch, &capital ) == 1 )
-            rtStringSetCharAt( normal.address(), i, capital );
-        atStart = ch == '-';
-    }
-    return normal.take();
+    Ref<RT_STRING> lower = adopt( lowerCase( name ) );
+    if ( auto longName = adopt( rtDictStringKey( shortToLongDict, lower.get() ) ) )
+        return rtStringFrom( longName.take() );
+    return canonicalName( rtStringBacking( lower.get() ), rtStringLength( lower.get() ) ).take();
 }
 
 TELSX_MESSAGE_HEADER telsx::createHeader( RT_STRING name )

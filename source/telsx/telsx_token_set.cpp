@@ -4,25 +4,35 @@
 namespace telsx
 {
 
-void setToken( Ref<RT_DICT> &tokens, const Ref<RT_STRING> &token )
+RT_BOOL hasToken( const TokenSet *set, const Ref<RT_STRING> &token )
 {
-    rtDictSetStringKey( tokens.address(), token.get(), rtStringObj( token.get() ) );
+    return rtDictHasStringKey( set->tokens.get(), token.get() );
 }
 
-bool decodeTokens( Ref<RT_DICT> &tokens, HeaderLines &lines, Skipper skipToken, Normalizer normalize,
+void setToken( TokenSet *set, const Ref<RT_STRING> &token )
+{
+    rtDictSetStringKey( set->tokens.address(), token.get(), rtStringObj( token.get() ) );
+}
+
+void delToken( TokenSet *set, const Ref<RT_STRING> &token )
+{
+    rtDictDelStringKey( set->tokens.address(), token.get() );
+}
+
+bool decodeTokens( TokenSet *set, HeaderLines &lines, Skipper skipToken, Normalizer normalize,
                    Separator separator )
 {
     if ( lines.empty() )
         return false;
     ItemReader items( lines, skipToken, separator.skip );
     while ( items.next() )
-        setToken( tokens, adopt( normalize( items.takeItem().get() ) ) );
+        setToken( set, adopt( normalize( items.takeItem().get() ) ) );
     return !items.failed();
 }
 
-TELSX_MESSAGE_HEADER encodeTokens( RT_STRING name, const Ref<RT_DICT> &tokens, Separator separator )
+TELSX_MESSAGE_HEADER encodeTokens( RT_STRING name, const TokenSet *set, RT_CHAR separator )
 {
-    return createHeaderOfItems( name, adopt( rtDictKeysVector( tokens.get() ) ), separator.ch );
+    return createHeaderOfItems( name, adopt( rtDictKeysVector( set->tokens.get() ) ), separator );
 }
 
 } // namespace telsx

@@ -1,6 +1,5 @@
-// What the headers that are a list of values share. The values are kept as text, in a field called values,
-// and read one by one when somebody asks; a header may know where the parts of the first one stand, in a field called
-// firstPlaces. A header is written with one line for each value.
+// The headers that are a list of values: all of such a unit but the name and the value. The values are kept as text and read
+// one by one when a caller asks. A header is written with one line for each value.
 #pragma once
 
 #include "telsx/telsx_header.hpp"
@@ -8,6 +7,18 @@
 
 namespace telsx
 {
+
+// The list of a kind that has nothing else. A kind that has more, beside values, declares the same functions.
+struct ValueList
+{
+    RT_OBJECT object;
+    Ref<RT_VECTOR> values; // texts, never null
+
+    static auto fields( auto &self ) { return std::tie( self.values ); }
+
+    // Drops what doesn't hold any more when the list changes.
+    void beforeChange() {}
+};
 
 // A new header with an empty list.
 template <class T>
@@ -39,40 +50,30 @@ bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, W
     return !items.failed();
 }
 
-// The list, for operations that change it. The first value may be another one then.
+// The list, for operations that change it.
 template <class T>
 RT_VECTOR *valuesToChange( T *hdr )
 {
-    if constexpr ( requires { hdr->firstPlaces; } )
-        hdr->firstPlaces = {};
+    hdr->beforeChange();
     return hdr->values.address();
 }
 
-// The same for operations that end the star form of a header that has one.
-template <class T>
-RT_VECTOR *valuesWithoutStar( T *hdr )
-{
-    if constexpr ( requires { hdr->starForm; } )
-        hdr->starForm = 0;
-    return valuesToChange( hdr );
-}
-
-// Puts a value in at the index, or with -1 behind all others.
+// Puts a value in at the index, or with -1 after all others.
 template <class T>
 void insertValue( T *hdr, int64_t index, Ref<RT_STRING> text )
 {
-    rt___VectorInsertTaken( valuesWithoutStar( hdr ), index, rt::asObj( text.take() ) );
+    rt___VectorInsertTaken( valuesToChange( hdr ), index, rt::asObj( text.take() ) );
 }
 
-// The value at the index, read by its own decoder.
+// The value at the index, read by its own decoder, or by a shorter way that the header knows.
 template <class T, class VALUE>
 VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
 {
     Text text = textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) );
-    if constexpr ( requires { hdr.firstPlaces; } )
-        if ( index == 0 )
-            return tryDecodeVia( text, hdr.firstPlaces );
-    return text.as( tryDecode );
+    if constexpr ( requires { hdr.tryDecodeValue( index, text ); } )
+        return hdr.tryDecodeValue( index, text );
+    else
+        return text.as( tryDecode );
 }
 
 } // namespace telsx
@@ -82,7 +83,7 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     void telsx##NAME##CLEAR( TELSX_HANDLE( NAME ) * hdr )                                                    \
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
-        rtVectorClear( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ) );                                       \
+        rtVectorClear( telsx::valuesToChange( TELSX_OWN( hdr ) ) );                                          \
     }                                                                                                        \
     int64_t telsx##NAME##WORD##sLength( TELSX_HANDLE( NAME ) hdr )                                           \
     {                                                                                                        \
@@ -99,7 +100,7 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorSetStringAt( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), index, text.get() );              \
+        rtVectorSetStringAt( telsx::valuesToChange( TELSX_OWN( hdr ) ), index, text.get() );                 \
     }                                                                                                        \
     void telsx##NAME##Del##WORD##At( TELSX_HANDLE( NAME ) * hdr, int64_t index )                             \
     {                                                                                                        \
@@ -122,5 +123,25 @@ VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const
     {                                                                                                        \
         TELSX_ASSERT_HANDLE( hdr );                                                                          \
         auto text = telsx::adopt( ENCODE( value ) );                                                         \
-        rtVectorInsertString( telsx::valuesWithoutStar( TELSX_OWN( hdr ) ), index, text.get() );             \
+        rtVectorInsertString( telsx::valuesToChange( TELSX_OWN( hdr ) ), index, text.get() );                \
+    }
+
+// The whole unit of a header that is a list of VALUEs and nothing else, after its frame line.
+#define TELSX_DEFINE_HEADER_OF_VALUES( NAME, SIP_NAME, WORD, VALUE )                                       \
+    TELSX_DEFINE_VALUE_LIST( NAME, WORD, VALUE, telsx___##VALUE##Encode, Clear##WORD##s )                  \
+    TELSX_HANDLE( NAME ) telsx##NAME##Create( void )                                                       \
+    {                                                                                                      \
+        return telsx::createList<std::remove_pointer_t<TELSX_HANDLE( NAME )>>( telsx##NAME##Sort() );      \
+    }                                                                                                      \
+    TELSX_MESSAGE_HEADER telsx##NAME##Encode( TELSX_HANDLE( NAME ) hdr )                                   \
+    {                                                                                                      \
+        TELSX_ASSERT( hdr );                                                                               \
+        return telsx::createHeader( telsx::literal<SIP_NAME>(), hdr->values );                             \
+    }                                                                                                      \
+    static TELSX_HANDLE( NAME ) decode( telsx::HeaderLines &lines )                                        \
+    {                                                                                                      \
+        auto hdr = telsx::adopt( telsx##NAME##Create() );                                                  \
+        return telsx::decodeValues( hdr->values, lines, telsx___Skip##VALUE, telsx::WithoutLines::isNull ) \
+                   ? hdr.take()                                                                            \
+                   : nullptr;                                                                              \
     }

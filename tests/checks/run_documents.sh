@@ -63,7 +63,7 @@ awk '
     /^TELSX_(KIND|VALUE)/ {
         split( $0, part, /[(,)" ]+/ )
         name = part[2]; key = part[1] == "TELSX_VALUE" ? "TELSX_" part[3] : part[4]
-        if( part[1] ~ /KIND_OF/ )
+        if( part[1] ~ /KIND_OF_(VALUES|SET|LIST)/ )
             print key, part[5]
         else
             for( function_ in exported )

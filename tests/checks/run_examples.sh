@@ -25,16 +25,16 @@ decode=$1 stream=$2 hop=$3 call=$4 kinds=$5
 
 expect 0 "$decode"
 prints "  target   sip:renée@mühle.example;transport=tcp"
-prints "    The mill, and who is to bring the flour"
+prints "    subject           The mill, and who is to bring the flour"
 prints "  INVITE sip:ren%C3%A9e@xn--mhle-0ra.example;transport=tcp SIP/2.0"
 prints "  Content-Length: 116"
 prints "  m=audio 49172 RTP/AVP 0"
-prints "    display name  Tomás"
+prints "    display name      Tomás"
 prints_in_order "\
   Via 1 of 2
-    host          gate.example.net
+    host              gate.example.net
   Via 2 of 2
-    host          [2001:db8::17]"
+    host              [2001:db8::17]"
 
 # The elements of lists one by one, and what does not decode; then every kind at once.
 printf '%s\r\n' 'REGISTER sip:a SIP/2.0' 'm: "A, B" <sip:a>;q=0.5;x="1, 2"' 'k: timer, 100rel' 'm: sip:b' 'Expires: never' \
@@ -44,22 +44,23 @@ typed=$( sed '1,/^typed$/d; /^encoded$/,$d' "$scratch/out" )
 diff - <( echo "$typed" ) <<'END' || fail "the typed reading differs"
   Accept is empty
   Contact 1 of 2
-    display name  A, B
-    iri           sip:a
-    q             0.500
-    parameter     x=1, 2
+    iri               sip:a
+    display name      A, B
+    qvalue            0.500
+    parameter         x=1, 2
   Contact 2 of 2
-    iri           sip:b
+    iri               sip:b
   Event
-    dialog;id=1
+    event type        dialog
+    id                1
   Expires does not decode
   Supported
     timer
     100rel
   Via 1 of 2
-    protocol      SIP/2.0
-    transport     udp
-    host          a
+    version           SIP/2.0
+    transport         udp
+    host              a
   Via 2 of 2 does not decode
 END
 printf 'REGISTER sip:a SIP/2.0\r\nm: *\r\n\r\n' >"$scratch/star"
@@ -118,7 +119,7 @@ request()
 hops() { request "$@" >"$scratch/request"; expect 0 "$hop" --source 192.0.2.1 5060 "$scratch/request"; }
 
 expect 0 "$hop"
-grep -qx '    branch        z9hG4bK87asdks7' "$scratch/err" || fail "nothing tells what hop reads"
+grep -qx '    branch            z9hG4bK87asdks7' "$scratch/err" || fail "nothing tells what hop reads"
 prints "Via: SIP/2.0/UDP pc33.example.net:5060;received=192.0.2.4;rport=49172;branch=z9hG4bK87asdks7"
 prints "Route: <sip:gate.mill.example;lr>"
 prints "Max-Forwards: 69"

@@ -70,7 +70,7 @@ inline std::string sampleText( const std::vector<Texts> &tables, std::string_vie
 inline std::string sampleValue( std::string_view name ) { return sampleText( valueTexts, name ); }
 inline std::string sampleLine( std::string_view name ) { return sampleText( headerTexts, name ); }
 
-#define TELSX_VALUE( NAME, SORT )                                                                  \
+#define TELSX_VALUE( NAME, SORT, FIELDS )                                                          \
     template <>                                                                                    \
     inline Ref<TELSX_##SORT> sample<TELSX_##SORT>()                                                \
     {                                                                                              \
