@@ -221,14 +221,6 @@ int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into )
                                                           : encode<true>( string->chs, string->length, into );
 }
 
-RT_BOOL rt___StringTryUtf8Encode( RT_STRING string, int64_t length, unsigned char *into )
-{
-    if ( length == string->length )
-        return tryNarrow( string->chs, length, into );
-    encode<true>( string->chs, string->length, into );
-    return 1;
-}
-
 void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string )
 {
     RT_ASSERT( buffer );

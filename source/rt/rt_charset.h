@@ -42,7 +42,6 @@ RT_API int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_C
  * number it returns. */
 RT_API int64_t rt___StringUtf8Length( RT_STRING string );
 RT_API int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into );
-RT_API RT_BOOL rt___StringTryUtf8Encode( RT_STRING string, int64_t length, unsigned char *into );
 
 RT_END
 

@@ -56,11 +56,22 @@ int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB )
     return std::less<>()( objA, objB ) ? -1 : 1;
 }
 
+// Apart from the other, which then needs no room on the stack.
+[[gnu::noinline]] static RT_OBJ createInNewBlock( int64_t size, RT_SORT sort )
+{
+    RT_OBJ obj = rt::allocateNewBlock( size );
+    *obj = { sort, 1, size };
+    return obj;
+}
+
 RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort )
 {
-    RT_OBJ obj = rt::allocateBlock( &size );
-    *obj = { sort, 1, size };
     countAlive( 1 );
+    size = rt::roundedToBlock( size );
+    RT_OBJ obj = rt::takeListedBlock( size );
+    if ( !obj )
+        return createInNewBlock( size, sort );
+    *obj = { sort, 1, size };
     return obj;
 }
 
@@ -96,10 +107,9 @@ static RT_OBJ *wordsOf( RT_OBJ obj ) { return reinterpret_cast<RT_OBJ *>( obj + 
 template <class VISIT>
 static void eachRef( RT_OBJ obj, RT_LAYOUT layout, VISIT visit )
 {
-    RT_OBJ *word = wordsOf( obj );
-    for ( uint32_t refs = layout->refs; refs; refs >>= 1, ++word )
-        if ( ( refs & 1 ) && *word )
-            visit( *word );
+    for ( uint32_t refs = layout->refs; refs; refs &= refs - 1 )
+        if ( RT_OBJ &ref = wordsOf( obj )[std::countr_zero( refs )] )
+            visit( ref );
 }
 
 RT_OBJ rt___ObjCopy( RT_OBJ obj, RT_LAYOUT layout )

@@ -34,7 +34,6 @@ Ref<HeaderTable *> createHeaderTable( Bytes bytes, bool isAscii )
     std::memset( table->bytes() + size, 0, rt::scanSlack );
     table->size = size;
     table->isAscii = isAscii;
-    table->isWritten = true;
     table->holdsHeaders = false;
     table->entries.start( table->firstEntries, std::ssize( table->firstEntries ) );
     table->moreLines = {};
@@ -149,7 +148,6 @@ static Ref<HeaderTable *> copyOf( HeaderTable *table )
 {
     Ref<HeaderTable *> copy =
         createHeaderTable( { table->bytes(), static_cast<std::size_t>( table->size ) }, table->isAscii );
-    copy->isWritten = table->isWritten;
     copy->moreLines.append( table->moreLines );
     copy->entries.reserve( table->length + 1 );
     for ( HeaderEntry &entry : table->entries )

@@ -105,9 +105,8 @@ struct HeaderEntry
 struct HeaderTable
 {
     RT_OBJECT object;
-    int64_t size;   // of the bytes
-    bool isAscii;   // all of them are
-    bool isWritten; // each line stands in them as it goes out: canonical name, colon, blank, line, line end
+    int64_t size;      // of the bytes
+    bool isAscii;      // all of them are
     bool holdsHeaders; // an entry may have its header
     rt::Array<HeaderEntry> entries;
     rt::Array<HeaderLine> moreLines;
@@ -127,13 +126,6 @@ struct HeaderTable
         return { bytes() + line.begin, static_cast<std::size_t>( line.length ) };
     }
     Ref<RT_STRING> stringOf( const HeaderLine &line ) const;
-
-    // A line with its name, as it goes out.
-    Bytes writtenLine( const HeaderLine &line, int64_t nameLength ) const
-    {
-        int64_t before = nameLength + lengthOf( nameEnd ), size = before + line.length + lengthOf( lineEnd );
-        return { bytes() + line.begin - before, static_cast<std::size_t>( size ) };
-    }
 };
 
 // An empty table with a copy of bytes, in which its lines will stand.

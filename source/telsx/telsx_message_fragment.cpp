@@ -3,6 +3,7 @@
 
 #include "telsx/telsx_iri.h"
 #include "telsx/telsx_message_fragment.hpp"
+#include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_method.h"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"

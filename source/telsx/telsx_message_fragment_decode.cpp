@@ -84,51 +84,13 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
     return isPlain && equals<"SIP/2.0">( first ) ? StartLine::same : StartLine::good;
 }
 
-// Puts the name of a header that is not known in its canonical form, where it stands; false for what is no name. All
-// of a token is ASCII.
-static bool makeCanonical( char *name, std::size_t size )
+// The name of a header that is not known, in canonical form, or null for what is no name.
+static Ref<RT_STRING> tryDecodeOtherName( Bytes bytes )
 {
     auto isInName = []( char ch ) { return isIn( static_cast<unsigned char>( ch ), classToken ); };
-    if ( size == 0 || !std::all_of( name, name + size, isInName ) )
-        return false;
-    char before = '-';
-    for ( std::size_t i = 0; i < size; ++i )
-    {
-        name[i] = canonicalAscii( before, name[i] );
-        before = name[i];
-    }
-    return true;
-}
-
-// A known name in its canonical form with colon and blank, and the bits that stay behind them.
-struct alignas( 16 ) NameBlocks
-{
-    char bytes[32] = {}, behind[32] = {};
-};
-static constexpr auto nameBlocks = []
-{
-    std::array<NameBlocks, knownCount> all = {};
-    for ( std::size_t i = 0; i < all.size(); ++i )
-    {
-        std::size_t size = knownNames[i].bytes.size();
-        for ( std::size_t at = 0; at < sizeof all[i].bytes; ++at )
-        {
-            bool isInName = at < size, isInEnd = !isInName && at < size + nameEnd.size();
-            all[i].bytes[at] = isInName ? knownNames[i].bytes[at] : isInEnd ? nameEnd[at - size] : '\0';
-            all[i].behind[at] = isInName || isInEnd ? 0 : ~0;
-        }
-    }
-    return all;
-}();
-
-// Writes such a name over the one that came, which is as long.
-static void writeName( char *name, int64_t number )
-{
-    const NameBlocks &blocks = nameBlocks[static_cast<std::size_t>( number )];
-    for ( std::size_t at = 0; at < knownNames[number].bytes.size() + nameEnd.size(); at += 16 )
-        ( ( rt::ByteBlock::at( name + at ) & rt::ByteBlock::at( blocks.behind + at ) )
-          | rt::ByteBlock::at( blocks.bytes + at ) )
-            .store( name + at );
+    if ( bytes.empty() || !std::all_of( bytes.begin(), bytes.end(), isInName ) )
+        return {};
+    return canonicalName( bytes.data(), lengthOf( bytes ) );
 }
 
 // One header line, trimmed and with its folds undone, becomes one line more of the header of its name.
@@ -140,29 +102,16 @@ static bool decodeHeader( HeaderTable *table, Bytes text )
     Bytes nameBytes = trimmedRight( Bytes( text.data(), colon ) ),
           line = trimmedLeft( Bytes( colon + 1, end ) );
     int64_t begin = line.data() - table->bytes();
-    // A line whose name, colon and blank are as long as they go out is made ready to go out where it stands. If all are,
-    // the encoder copies many at once, which halves its work.
-    char *name = table->bytes() + ( nameBytes.data() - table->bytes() );
-    auto isAsLong = [&]( Bytes canonical )
-    { return line.data() == name + canonical.size() + nameEnd.size(); };
     int64_t number = scanKnownNameNumber( nameBytes.data(), nameBytes.size() );
     if ( number != -1 )
     {
-        const KnownName &known = knownNames[number];
-        if ( isAsLong( known.bytes ) )
-            writeName( name, number );
-        else
-            table->isWritten = false;
-        addLine( table, { const_cast<RT_STRING>( known.name ), number }, begin, lengthOf( line ) );
+        addLine( table, { const_cast<RT_STRING>( knownNames[number].name ), number }, begin,
+                 lengthOf( line ) );
         return true;
     }
-    if ( !makeCanonical( name, nameBytes.size() ) )
+    Ref<RT_STRING> other = tryDecodeOtherName( nameBytes );
+    if ( !other )
         return false;
-    if ( isAsLong( nameBytes ) )
-        std::memcpy( name + nameBytes.size(), nameEnd.data(), nameEnd.size() );
-    else
-        table->isWritten = false;
-    auto other = adopt( rt___StringCreateFromAscii( name, lengthOf( nameBytes ) ) );
     addLine( table, { other.get(), -1 }, begin, lengthOf( line ) );
     return true;
 }
@@ -202,14 +151,7 @@ static bool decodeHeaders( HeaderTable *table, const char *at, const char *end )
                 header = { header.data(), header.size() + 1 + fold.size() };
             }
         }
-        if ( header.empty() )
-            continue;
-        char *behind = table->bytes() + ( header.data() + header.size() - table->bytes() );
-        if ( end - behind >= lengthOf( lineEnd ) )
-            std::memcpy( behind, lineEnd.data(), lineEnd.size() );
-        else
-            table->isWritten = false;
-        if ( !decodeHeader( table, header ) )
+        if ( !header.empty() && !decodeHeader( table, header ) )
             return false;
     }
     return true;

@@ -11,91 +11,6 @@
 
 using namespace telsx;
 
-static constexpr char blankBytes[2 + rt::scanSlack] = " ";
-static constexpr Bytes blank = blankBytes;
-
-// What goes out, in pieces: bytes, behind which rt::scanSlack more can be read, and strings. Bytes that follow each other
-// in memory become one piece, so that all lines of a header table between two that were changed are copied at once.
-class Output
-{
-public:
-    Output() { pieces.start( firstPieces, std::ssize( firstPieces ) ); }
-    Output( const Output & ) = delete;
-    ~Output() { pieces.clear(); }
-
-    void add( const char *from, int64_t length )
-    {
-        if ( from != end )
-        {
-            endPiece();
-            begin = from;
-        }
-        end = from + length;
-    }
-    void add( Bytes bytes ) { add( bytes.data(), lengthOf( bytes ) ); }
-    void add( RT_STRING string )
-    {
-        endPiece();
-        begin = end = nullptr;
-        pieces.append( { nullptr, string, textOf( string ).length } );
-    }
-    template <class... PIECE>
-    void add( const PIECE &...more ) requires( sizeof...( more ) > 2 )
-    {
-        ( add( more ), ... );
-    }
-
-    // All that was added, and then the body.
-    RT_BUFFER encoded( Bytes body )
-    {
-        endPiece();
-        // Most strings are ASCII, which is seen when they are written.
-        if ( RT_BUFFER buffer = tryWrite( body ) )
-            return buffer;
-        for ( Piece &piece : pieces )
-            if ( piece.string )
-                piece.length = rt___StringUtf8Length( piece.string );
-        return tryWrite( body );
-    }
-
-private:
-    struct Piece
-    {
-        const char *bytes;
-        RT_STRING string; // or null
-        int64_t length;   // in bytes
-    };
-
-    void endPiece()
-    {
-        if ( begin != end )
-            pieces.append( { begin, nullptr, end - begin } );
-    }
-
-    RT_BUFFER tryWrite( Bytes body )
-    {
-        int64_t size = lengthOf( body );
-        for ( const Piece &piece : pieces )
-            size += piece.length;
-        unsigned char *at;
-        Ref<RT_BUFFER> buffer = adopt( rt___BufferCreateWithLength( size, &at ) );
-        for ( const Piece &piece : pieces )
-        {
-            if ( piece.string && !rt___StringTryUtf8Encode( piece.string, piece.length, at ) )
-                return nullptr;
-            if ( piece.bytes )
-                rt::copy( piece.bytes, piece.length, at );
-            at += piece.length;
-        }
-        rt::copyItems( at, reinterpret_cast<const unsigned char *>( body.data() ), lengthOf( body ) );
-        return buffer.take();
-    }
-
-    const char *begin = nullptr, *end = nullptr; // of the last piece if that is of bytes
-    rt::Array<Piece> pieces;
-    Piece firstPieces[32];
-};
-
 // The three words of a start line that is not the one that came in.
 using StartLine = std::array<Ref<RT_STRING>, 3>;
 
@@ -112,80 +27,203 @@ static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
              adopt( telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) };
 }
 
-static void addName( Output &output, const HeaderEntry &entry )
+static constexpr char blankBytes[2 + rt::scanSlack] = " ";
+static constexpr Bytes blank = blankBytes;
+
+// A known name as it goes out, with colon and blank, and which bits of two blocks it takes.
+struct alignas( 16 ) NameBlocks
 {
-    if ( entry.number != -1 )
-        output.add( knownNames[entry.number].bytes );
-    else
-        output.add( entry.name );
-    output.add( nameEnd );
+    char bytes[32] = {}, mask[32] = {};
+};
+static constexpr auto nameBlocks = []
+{
+    std::array<NameBlocks, knownCount> all = {};
+    for ( std::size_t i = 0; i < all.size(); ++i )
+    {
+        Bytes name = knownNames[i].bytes;
+        for ( std::size_t at = 0; at < name.size() + nameEnd.size(); ++at )
+        {
+            all[i].bytes[at] = at < name.size() ? name[at] : nameEnd[at - name.size()];
+            all[i].mask[at] = ~0;
+        }
+    }
+    return all;
+}();
+
+// The name of an entry as it goes out.
+struct OutName
+{
+    int64_t number;
+    RT_STRING other;  // if it is not known
+    int64_t size = 0; // with colon and blank, if it is known
+
+    explicit OutName( const HeaderEntry &entry ) : number( entry.number ), other( entry.name )
+    {
+        if ( number != -1 )
+            size = lengthOf( knownNames[number].bytes ) + lengthOf( nameEnd );
+    }
+    const NameBlocks &blocks() const { return nameBlocks[static_cast<std::size_t>( number )]; }
+
+    // Whether it stands there.
+    bool isAt( const char *at ) const
+    {
+        auto isSame = [&, this]( int i )
+        {
+            auto bytes = rt::ByteBlock::at( at + i ) & rt::ByteBlock::at( blocks().mask + i );
+            return same( bytes, rt::ByteBlock::at( blocks().bytes + i ) ).mask() == 0xFFFF;
+        };
+        return isSame( 0 ) && ( size <= 16 || isSame( 16 ) );
+    }
+};
+
+// What the text is written to: once to learn its size, and then into a buffer of that size. rt::scanSlack bytes more than
+// the given ones can be read.
+struct Counter
+{
+    int64_t size = 0;
+
+    void add( Bytes bytes ) { size += lengthOf( bytes ); }
+    void add( RT_STRING string ) { size += rt___StringUtf8Length( string ); }
+    void add( const OutName &name ) { size += name.number != -1 ? name.size : otherSize( name ); }
+    void addLine( const OutName &name, Bytes line )
+    {
+        add( name );
+        size += lengthOf( line ) + lengthOf( lineEnd );
+    }
+
+private:
+    static int64_t otherSize( const OutName &name )
+    {
+        return textOf( name.other ).length + lengthOf( nameEnd );
+    }
+};
+
+// Bytes are copied when others come that don't follow them in memory. So all lines of a message between two that were
+// changed are copied at once, which halves the time of the encoder.
+class Writer
+{
+public:
+    explicit Writer( unsigned char *into ) : at( into ) {}
+
+    void add( Bytes bytes )
+    {
+        if ( bytes.data() != end )
+            startAt( bytes.data() );
+        end = bytes.end();
+    }
+    void add( RT_STRING string )
+    {
+        startAt( nullptr );
+        at += rt___StringUtf8Encode( string, at );
+    }
+    void add( const OutName &name )
+    {
+        if ( name.number != -1 )
+            return add( Bytes( name.blocks().bytes, static_cast<std::size_t>( name.size ) ) );
+        add( name.other );
+        add( nameEnd );
+    }
+
+    // A line that came in: the table's bytes before it are mostly its name, and those after it the line end.
+    void addLine( const OutName &name, Bytes line )
+    {
+        const char *begin = line.data();
+        if ( name.number != -1 && name.isAt( begin - name.size ) )
+            begin -= name.size;
+        else
+            add( name );
+        bool isEnded = std::memcmp( line.end(), lineEnd.data(), lineEnd.size() ) == 0;
+        add( Bytes( begin, isEnded ? line.end() + lineEnd.size() : line.end() ) );
+        if ( !isEnded )
+            add( lineEnd );
+    }
+
+    unsigned char *finish()
+    {
+        startAt( nullptr );
+        return at;
+    }
+
+private:
+    // Copies what waits.
+    [[gnu::noinline]] void startAt( const char *next )
+    {
+        rt::copy( begin, end - begin, at );
+        at += end - begin;
+        begin = end = next;
+    }
+
+    unsigned char *at;
+    const char *begin = nullptr, *end = nullptr; // what waits
+};
+
+template <class OUTPUT, class... PIECE>
+static void write( OUTPUT &to, const PIECE &...pieces )
+{
+    ( to.add( pieces ), ... );
 }
 
 // The lines of a header that was decoded and not replaced go out as they came, any other's as its object has them.
-static void addHeader( Output &output, HeaderTable *table, const HeaderEntry &entry )
+template <class OUTPUT>
+static void writeHeader( OUTPUT &to, HeaderTable *table, const HeaderEntry &entry )
 {
+    OutName name( entry );
     if ( entry.first.begin == -1 )
     {
         RT_VECTOR lines = entry.header->lines.get();
         for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
-        {
-            addName( output, entry );
-            output.add( rtStringFrom( rt___VectorObjBorrowed( lines, i ) ) );
-            output.add( lineEnd );
-        }
+            write( to, name, rtStringFrom( rt___VectorObjBorrowed( lines, i ) ), lineEnd );
         return;
     }
-    int64_t nameLength =
-        entry.number != -1 ? lengthOf( knownNames[entry.number].bytes ) : textOf( entry.name ).length;
-    for ( const HeaderLine *line = &entry.first;; line = &table->moreLines[line->next] )
-    {
-        if ( table->isWritten )
-            output.add( table->writtenLine( *line, nameLength ) );
-        else
-        {
-            addName( output, entry );
-            output.add( table->lineOf( *line ) );
-            output.add( lineEnd );
-        }
-        if ( line->next == -1 )
-            return;
-    }
+    to.addLine( name, table->lineOf( entry.first ) );
+    for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
+        to.addLine( name, table->lineOf( table->moreLines[next] ) );
 }
 
-// The true length stands where the fragment has that header, else behind all others.
-static void addLength( Output &output, HeaderTable *table, const HeaderEntry *entry, Bytes bodyLength )
+// All but the body. The true length stands where the fragment has that header, else behind all others.
+template <class OUTPUT>
+static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, const StartLine &startLine, Bytes bodyLength )
 {
-    static constexpr Bytes name = knownNames[knownNumber<"Content-Length">()].bytes;
-    if ( entry && entry->first.begin != -1 && entry->last == -1
-         && table->lineOf( entry->first ) == bodyLength )
-        return addHeader( output, table, *entry );
-    output.add( name, nameEnd, bodyLength, lineEnd );
+    static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
+    HeaderTable *table = frag->headers.get();
+    if ( const auto &[first, second, third] = startLine; first )
+        write( to, first.get(), blank, second.get(), blank, third.get(), lineEnd );
+    else if ( frag->startLineSize != -1 )
+        to.add( Bytes( table->bytes(), static_cast<std::size_t>( frag->startLineSize ) ) );
+    for ( const HeaderEntry &entry : table->entries )
+    {
+        if ( !entry.name )
+            continue;
+        bool isLength = entry.number == lengthNumber,
+             isTrue = !isLength
+                      || ( entry.first.begin != -1 && entry.last == -1
+                           && table->lineOf( entry.first ) == bodyLength );
+        if ( isTrue )
+            writeHeader( to, table, entry );
+        else
+            write( to, OutName( entry ), bodyLength, lineEnd );
+    }
+    if ( !table->is[lengthNumber] )
+        write( to, knownNames[lengthNumber].bytes, nameEnd, bodyLength, lineEnd );
+    to.add( lineEnd );
 }
 
 RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
-    HeaderTable *table = frag->headers.get();
-    Output output;
     StartLine startLine;
-    if ( frag->startLineSize != -1 )
-        output.add( table->bytes(), frag->startLineSize );
-    else if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
-    {
+    if ( frag->startLineSize == -1 && !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
         startLine = startLineOf( frag );
-        const auto &[first, second, third] = startLine;
-        output.add( first.get(), blank, second.get(), blank, third.get(), lineEnd );
-    }
     Bytes body = frag->body ? bytesOf( frag->body.get() ) : Bytes();
     Decimal bodyLength( lengthOf( body ) );
-    static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
-    for ( const HeaderEntry &entry : table->entries )
-        if ( entry.name && entry.number == lengthNumber )
-            addLength( output, table, &entry, bodyLength.chars() );
-        else if ( entry.name )
-            addHeader( output, table, entry );
-    if ( !table->is[lengthNumber] )
-        addLength( output, table, nullptr, bodyLength.chars() );
-    output.add( lineEnd );
-    return output.encoded( body );
+
+    Counter counter;
+    write( counter, frag, startLine, bodyLength.chars() );
+    unsigned char *into;
+    RT_BUFFER encoded = rt___BufferCreateWithLength( counter.size + lengthOf( body ), &into );
+    Writer writer( into );
+    write( writer, frag, startLine, bodyLength.chars() );
+    rt::copyItems( writer.finish(), reinterpret_cast<const unsigned char *>( body.data() ),
+                   lengthOf( body ) );
+    return encoded;
 }

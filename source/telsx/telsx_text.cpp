@@ -26,4 +26,10 @@ void appendPieces( Ref<RT_STRING> &text, const Piece *pieces, std::size_t count 
             rt::widenExactly( static_cast<const char *>( pieces[i].chars ), pieces[i].length, into );
 }
 
+void Pieces::put( Piece piece )
+{
+    TELSX_ASSERT( count < most );
+    list[count++] = piece;
+}
+
 } // namespace telsx

@@ -119,11 +119,7 @@ public:
 private:
     static constexpr std::size_t most = 24, mostNumbers = 4;
 
-    void put( Piece piece )
-    {
-        TELSX_ASSERT( count < most );
-        list[count++] = piece;
-    }
+    void put( Piece piece );
 
     Piece list[most];
     Decimal numbers[mostNumbers];
