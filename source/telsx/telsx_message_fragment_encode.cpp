@@ -127,13 +127,13 @@ public:
     // A line that came in: the table's bytes before it are mostly its name, and those after it the line end.
     void addLine( const OutName &name, Bytes line )
     {
-        const char *begin = line.data();
-        if ( name.number != -1 && name.isAt( begin - name.size ) )
-            begin -= name.size;
+        const char *from = line.data();
+        if ( name.number != -1 && name.isAt( from - name.size ) )
+            from -= name.size;
         else
             add( name );
         bool isEnded = std::memcmp( line.end(), lineEnd.data(), lineEnd.size() ) == 0;
-        add( Bytes( begin, isEnded ? line.end() + lineEnd.size() : line.end() ) );
+        add( Bytes( from, isEnded ? line.end() + lineEnd.size() : line.end() ) );
         if ( !isEnded )
             add( lineEnd );
     }
