@@ -41,7 +41,9 @@ Message Registrar::bind( const Request &request )
     Contacts contacts;
     if ( known != registrations.end() )
         contacts = known->second.contacts;
-    std::erase_if( contacts, [now]( const Binding &binding ) { return now >= binding.end; } );
+    contacts.erase( std::remove_if( contacts.begin(), contacts.end(),
+                                    [now]( const Binding &binding ) { return now >= binding.end; } ),
+                    contacts.end() );
     int64_t statusCode = change( request, contacts, now );
     if ( statusCode == 503 )
         return refuseForNow( request, statusCode, 60 );
