@@ -228,7 +228,7 @@ private:
 #undef TELSX_VALUE
 // clang-format on
 
-static const struct
+static constexpr struct
 {
     std::string_view type;
     Fields fields;
