@@ -357,7 +357,7 @@ static bool readVia( GrammarReader &reader )
 
 static bool readWarning( GrammarReader &reader )
 {
-    return reader.need( telsx___SkipWarnCode, grammarPiece( "number" ) ) && reader.blank()
+    return reader.need( telsx___SkipWarnCode, grammarPiece( "warn-code" ) ) && reader.blank()
            && reader.need( telsx___SkipWarnAgent, grammarPiece( "agent" ) ) && reader.blank()
            && reader.quoted( grammarPiece( "warn-text" ) ) && reader.end();
 }

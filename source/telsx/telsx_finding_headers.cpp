@@ -312,6 +312,7 @@ Ref<RT_STRING> spelledOut( std::string_view element, char between )
 
 void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
 {
+    Text found = value.behind( obstacle.at );
     Ref<RT_STRING> words, pieceCode;
     if ( !obstacle.piece )
     {
@@ -325,10 +326,11 @@ void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
         words = stringOf( obstacle.piece->words );
         if ( !obstacle.element.empty() )
             append( words, ", ", spelledOut( obstacle.element, '-' ) );
-        if ( obstacle.most != -1 && obstacle.most != INT64_MAX )
+        // Nobody wants to know the largest number of all but who wrote a larger one.
+        bool isTold = obstacle.most != INT64_MAX || telsx___SkipDigits( found.chs, found.length );
+        if ( obstacle.most != -1 && isTold )
             append( words, " from ", Decimal( obstacle.least ), " to ", Decimal( obstacle.most ) );
     }
-    Text found = value.behind( obstacle.at );
     findings.addUnreadable( nameOf( number ), pieceCode, words, headerReference( kind->name ),
                             line.placeOf( found ), found );
 }

@@ -46,7 +46,10 @@ static Fault findFaultOfRequestLine( Text rest )
     if ( !uri || behindUri )
         return { findingRule( "request-uri" ), uri ? behindUri : rest };
     rest.take( std::min<int64_t>( rest.length, 1 ) );
-    return isVersion( rest ) ? Fault() : Fault{ findingRule( "sip-version" ), rest };
+    if ( isVersion( rest ) )
+        return {};
+    Text afterVersion = rest;
+    return { findingRule( "sip-version" ), isVersion( takeWord( afterVersion ) ) ? afterVersion : rest };
 }
 
 static Fault findFaultOfStartLine( Text line )

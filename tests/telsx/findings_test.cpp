@@ -105,7 +105,7 @@ TEST( Findings, ErrorsSayWhyThereIsNoMessage )
                                { "request-uri", "INVITE ^<sip:bob@biloxi.example> SIP/2.0" },
                                { "request-uri", "INVITE sip:bob@biloxi^\\.example SIP/2.0" },
                                { "sip-version", "INVITE sip:bob@biloxi.example^" },
-                               { "sip-version", "INVITE sip:bob@biloxi.example ^SIP/2.0 " },
+                               { "sip-version", "INVITE sip:bob@biloxi.example SIP/2.0^ " },
                                { "sip-version", "INVITE sip:bob ^biloxi.example SIP/2.0" },
                                { "line-end", "INVITE sip:bob@biloxi.example SIP/2.0^\nSubject: x" },
                                { "header-colon", "Subject^" },
