@@ -1,4 +1,4 @@
-# The package that find_package( telsx ) reads, and the two Debian packages that cpack makes.
+# The package that find_package( telsx ) reads, and the Debian packages that cpack makes.
 
 include( CMakePackageConfigHelpers )
 
@@ -42,7 +42,7 @@ telsx (@PROJECT_VERSION@) unstable; urgency=medium
 ]] @ONLY )
 configure_file( "${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${documents}/CHANGELOG.md" COPYONLY )
 execute_process( COMMAND gzip -9nf changelog CHANGELOG.md WORKING_DIRECTORY "${documents}" COMMAND_ERROR_IS_FATAL ANY )
-foreach( component IN ITEMS runtime:${runtime} development:libtelsx-dev )
+foreach( component IN ITEMS runtime:${runtime} development:libtelsx-dev tools:telsx-tools )
     string( REPLACE ":" ";" component "${component}" )
     list( POP_FRONT component name )
     install( FILES "${documents}/copyright" "${documents}/changelog.gz" "${documents}/CHANGELOG.md.gz"
@@ -53,8 +53,8 @@ set( CPACK_VERBATIM_VARIABLES ON )
 set( CPACK_GENERATOR DEB )
 set( CPACK_PACKAGE_CONTACT "${TELSX_MAINTAINER}" )
 set( CPACK_STRIP_FILES ON )
-set( CPACK_COMPONENTS_ALL runtime development )
-# It would be put before both descriptions, whose first lines are summaries already.
+set( CPACK_COMPONENTS_ALL runtime development tools )
+# It would be put before the descriptions, whose first lines are summaries already.
 set( CPACK_PACKAGE_DESCRIPTION_SUMMARY "" )
 set( about "Shared libraries with a C interface for programs that speak SIP: they read
 messages, their headers and values, check them, and write them." )
@@ -67,6 +67,10 @@ ${about}
 
 Programs are built with this package: it has the headers, and what CMake and
 pkg-config need." )
+set( CPACK_COMPONENT_TOOLS_DESCRIPTION "SIP messages: what they say and what is wrong with them (program)
+The program telsx reads SIP messages in files and captures. It shows what is
+wrong with each of them and where, and counts faults in large captures. It also
+shows what messages say, and prints JSON for other programs." )
 set( CPACK_DEB_COMPONENT_INSTALL ON )
 set( CPACK_DEBIAN_FILE_NAME DEB-DEFAULT )
 set( CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON )
@@ -78,6 +82,10 @@ set( CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON )
 set( CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtelsx-dev )
 set( CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel )
 set( CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} (= ${PROJECT_VERSION})" )
+set( CPACK_DEBIAN_TOOLS_PACKAGE_NAME telsx-tools )
+set( CPACK_DEBIAN_TOOLS_PACKAGE_SECTION net )
+set( CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON )
+set( CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} (>= ${PROJECT_VERSION})" )
 # A trigger renews the loader's cache, so the scripts that cpack writes for it are removed again.
 file( WRITE "${documents}/triggers" "activate-noawait ldconfig\n" )
 set( CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${documents}/triggers" )

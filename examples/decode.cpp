@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "example.hpp"
 #include "readings.hpp"
 
 namespace
@@ -68,8 +69,9 @@ int main( int argc, char **argv )
         return 1;
     }
 
-    show( message );
-    showTyped( message );
+    TextListing listing( std::cout );
+    listRaw( message, listing );
+    listTyped( message, listing );
     std::cout << "encoded\n";
     showBytes( toBytes( Buffer( telsxMessageEncode( message.get() ) ) ) );
     std::cout << std::flush;

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "example.hpp"
 #include "readings.hpp"
 
 namespace
@@ -259,7 +260,8 @@ Message hop( Message message, const Place &place, std::ostream &read )
     auto show = [&read]( const char *name, const auto &value )
     {
         read << name << '\n';
-        Reading{ read }( value.get() );
+        TextListing listing( read );
+        Reading{ listing }( value.get() );
     };
     show( "top Via", top );
     show( "From", from );

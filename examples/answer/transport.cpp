@@ -25,32 +25,6 @@ bool bindTo( const SocketAddress &address, int type, Descriptor &to )
     return bind( to.get(), &address.any, address.length() ) == 0;
 }
 
-// The start line of a message that can't be decoded, and what a response takes over from it, so that the sender can be
-// told; null if these can't be read either.
-Message decodeForRefusal( std::string_view bytes )
-{
-    std::string kept;
-    bool keeps = true; // the start line, then the lines of these headers and their continuation lines
-    for ( std::size_t end; ( end = bytes.find( "\r\n" ) ) != bytes.npos; bytes.remove_prefix( end + 2 ) )
-    {
-        std::string_view line = bytes.substr( 0, end + 2 );
-        if ( line.size() == 2 && !kept.empty() )
-            break;
-        if ( !kept.empty() && line[0] != ' ' && line[0] != '\t' )
-        {
-            String name = toString( line.substr( 0, line.find_first_of( ": \t" ) ) );
-            keeps = name && telsxMessageHeaderNameOk( name.get() );
-            std::string normal =
-                keeps ? toUtf8( Owned( telsxMessageHeaderNameNormalize( name.get() ) ) ) : "";
-            keeps = normal == "Via" || normal == "From" || normal == "To" || normal == "Call-Id"
-                    || normal == "Cseq";
-        }
-        if ( keeps && line.size() > 2 )
-            kept += line;
-    }
-    return Message( telsxMessageTryDecode( toBuffer( kept + "\r\n" ).get() ) );
-}
-
 } // namespace
 
 std::string SocketAddress::host() const
@@ -169,7 +143,7 @@ void Network::readDatagrams( const Receive &receive )
         std::string_view bytes( piece, std::size_t( length ) );
         if ( Message message{ telsxMessageTryDecode( toBuffer( bytes ).get() ) } )
             receive( { std::move( message ), peer, bytes.size() } );
-        else if ( Message rest = decodeForRefusal( bytes ) )
+        else if ( Message rest{ telsxMessageTryDecodeLoosely( toBuffer( bytes ).get() ) } )
             receive( { std::move( rest ), peer, bytes.size(), 400 } );
     }
 }
@@ -210,7 +184,10 @@ void Network::readStream( uint64_t id, Connection &connection, const Receive &re
     // what the peer is still sending would end it before the response is read.
     connection.deaf = true;
     connection.deadline = Clock::now() + linger;
-    Message rest = decodeForRefusal( connection.begun );
+    // The last line may not have come whole.
+    std::size_t end = connection.begun.rfind( "\r\n" );
+    connection.begun.resize( end == connection.begun.npos ? 0 : end + 2 );
+    Message rest( telsxMessageTryDecodeLoosely( toBuffer( connection.begun ).get() ) );
     connection.begun.clear();
     if ( rest )
         receive( { std::move( rest ), peer, 0, bad ? 400 : 513 } );

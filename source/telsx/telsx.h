@@ -25,6 +25,7 @@
 #include "telsx/telsx_error_info.h"
 #include "telsx/telsx_event_reason_value.h"
 #include "telsx/telsx_event_type.h"
+#include "telsx/telsx_finding.h"
 #include "telsx/telsx_generic_param.h"
 #include "telsx/telsx_generic_param_name.h"
 #include "telsx/telsx_generic_param_value.h"

@@ -51,6 +51,7 @@ std::string_view pieceOf( const char ( &literal )[SIZE] )
     return { literal, SIZE - 1 };
 }
 inline std::string_view pieceOf( const char &ch ) { return { &ch, 1 }; }
+inline std::string_view pieceOf( std::string_view ascii ) { return ascii; }
 inline std::string_view pieceOf( const Decimal &number ) { return number.chars(); }
 inline Text pieceOf( Text text ) { return text; }
 inline Text pieceOf( RT_STRING string ) { return textOf( string ); }

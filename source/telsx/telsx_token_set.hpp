@@ -52,8 +52,13 @@ void setEach( T **hdr, RT_VECTOR vec, void ( *set )( T **hdr, RT_STRING element 
 
 } // namespace telsx
 
-// The unit of the header NAME, a set of WORDs, after its frame line.
+// The unit of the header NAME, a set of WORDs, after its frame line. separatorOf tells findings what stands between two.
 #define TELSX_DEFINE_TOKEN_SET( NAME, SIP_NAME, WORD, NORMALIZE, SEPARATOR )                       \
+    namespace telsx                                                                                \
+    {                                                                                              \
+    Separator separatorOf( TELSX_HANDLE( NAME ) );                                                 \
+    Separator separatorOf( TELSX_HANDLE( NAME ) ) { return SEPARATOR; }                            \
+    }                                                                                              \
     TELSX_HANDLE( NAME ) telsx##NAME##Create( void )                                               \
     {                                                                                              \
         auto hdr = rt::create<std::remove_pointer_t<TELSX_HANDLE( NAME )>>( telsx##NAME##Sort() ); \

@@ -29,6 +29,13 @@ inline Ref<TELSX_MESSAGE_HEADER> sample<TELSX_MESSAGE_HEADER>()
 }
 
 template <>
+inline Ref<TELSX_FINDING> sample<TELSX_FINDING>()
+{
+    auto findings = adopt( telsxMessageFindings( buffer( "INVITE" ).get() ) );
+    return adopt( telsxFindingFrom( rtVectorObjAt( findings.get(), 0 ) ) );
+}
+
+template <>
 inline Ref<TELSX_MESSAGE_STREAM_DECODER> sample<TELSX_MESSAGE_STREAM_DECODER>()
 {
     auto decoder = adopt( telsxMessageStreamDecoderCreate() );

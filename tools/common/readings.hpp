@@ -1,21 +1,19 @@
 // The typed reading of a message: what its headers say, for each kind that the library has a type for.
 #pragma once
 
-#include <iomanip>
+#include "listing.hpp"
 
-#include "example.hpp"
-
-// Writes what a value, an address or a header says, one field per line; absent fields have no line.
+// Tells what a value, an address or a header says, field by field; what is absent is left out.
 class Reading
 {
 public:
-    explicit Reading( std::ostream &to, int blanksBefore = 4 ) : out( to ), blanks( blanksBefore ) {}
+    explicit Reading( Listing &listing ) : to( listing ) {}
 
     // One for each value, each address and each header with fields. The library's lists of types name the fields too.
 #define TELSX_TEXT( NAME, WORD, ELEMENT )                  \
     field( #WORD, telsx##NAME##WORD( object ) );           \
     if constexpr ( std::string_view( #ELEMENT ) == "Iri" ) \
-        parts( telsx##NAME##WORD( object ) );
+        parts( #WORD, telsx##NAME##WORD( object ) );
 #define TELSX_OPTIONAL_TEXT TELSX_TEXT
 #define TELSX_NUMBER( NAME, WORD, ELEMENT ) \
     number<std::string_view( #ELEMENT ) == "Qvalue">( #WORD, telsx##NAME##WORD( object ) );
@@ -27,9 +25,11 @@ public:
     if ( Owned owned{ telsx##NAME##WORD( object ) } ) \
         field( #WORD, TYPE##ToString( owned.get() ) );
 #define TELSX_PARAMS( NAME ) parameters( telsx##NAME##GenericParams( object ) );
-#define TELSX_PAIRS( NAME, WORD )                                        \
-    for ( int64_t i = 0; i < telsx##NAME##WORD##sLength( object ); ++i ) \
-        pair( #WORD, telsx##NAME##WORD##NameAt( object, i ), telsx##NAME##WORD##ValueAt( object, i ) );
+#define TELSX_PAIRS( NAME, WORD )                                            \
+    pairs(                                                                   \
+        #WORD, telsx##NAME##WORD##sLength( object ),                         \
+        [&]( int64_t i ) { return telsx##NAME##WORD##NameAt( object, i ); }, \
+        [&]( int64_t i ) { return telsx##NAME##WORD##ValueAt( object, i ); } );
 #define OPERATOR( SORT, FIELDS ) \
     void operator()( TELSX_##SORT object ) const { FIELDS }
 #define TELSX_VALUE( NAME, SORT, FIELDS ) OPERATOR( SORT, FIELDS )
@@ -42,7 +42,7 @@ public:
 
 private:
     // The label of DisplayName is "display name".
-    void line( std::string_view word, const std::string &text ) const
+    static std::string labelOf( std::string_view word )
     {
         std::string label;
         for ( char ch : word )
@@ -51,59 +51,64 @@ private:
             label += isCapital && !label.empty() ? " " : "";
             label += static_cast<char>( isCapital ? ch + 0x20 : ch );
         }
-        out << std::setw( blanks ) << "" << std::left << std::setw( 22 - blanks ) << label << text << '\n';
+        return label;
     }
 
     // What the getters return: a new reference or null, a number or -1, whether a mark is there.
     void field( const char *word, RT_STRING text ) const
     {
         if ( Owned owned{ text } )
-            line( word, printable( owned ) );
+            to.field( labelOf( word ).c_str(), owned );
     }
     template <bool IS_IN_THOUSANDTHS = false>
     void number( const char *word, int64_t number ) const
     {
-        if ( number == -1 )
-            return;
-        line( word, IS_IN_THOUSANDTHS ? std::to_string( number / 1000 ) + '.'
-                                            + std::to_string( 1000 + number % 1000 ).substr( 1 )
-                                      : std::to_string( number ) );
+        if ( number != -1 && IS_IN_THOUSANDTHS )
+            to.weight( labelOf( word ).c_str(), number );
+        else if ( number != -1 )
+            to.field( labelOf( word ).c_str(), number );
     }
     void mark( const char *word, RT_BOOL isThere ) const
     {
         if ( isThere )
-            line( word, "yes" );
-    }
-    void pair( const char *word, RT_STRING name, RT_STRING value ) const
-    {
-        Owned owned( name ), ownedValue( value );
-        line( word, printable( owned ) + ( ownedValue ? "=" + printable( ownedValue ) : "" ) );
+            to.mark( labelOf( word ).c_str() );
     }
 
     // The parts of an address, if the library knows its scheme.
-    void parts( RT_STRING iri ) const
+    void parts( const char *word, RT_STRING iri ) const
     {
         Owned owned( iri );
-        Reading below( out, blanks + 2 );
-        if ( Owned sip{ telsxSipIriTryDecode( iri ) } )
-            below( sip.get() );
-        if ( Owned tel{ telsxTelIriTryDecode( iri ) } )
-            below( tel.get() );
+        Owned sip( telsxSipIriTryDecode( iri ) );
+        Owned tel( telsxTelIriTryDecode( iri ) );
+        if ( !sip && !tel )
+            return;
+        to.beginParts( labelOf( word ).c_str() );
+        sip ? operator()( sip.get() ) : operator()( tel.get() );
+        to.endParts();
     }
 
+    // Names with values, from functions that return new references or null.
+    template <class NAME_AT, class VALUE_AT>
+    void pairs( const char *word, int64_t length, NAME_AT nameAt, VALUE_AT valueAt ) const
+    {
+        if ( length == 0 )
+            return;
+        to.beginPairs( labelOf( word ).c_str() );
+        for ( int64_t i = 0; i < length; ++i )
+            to.pair( String( nameAt( i ) ), String( valueAt( i ) ) );
+        to.endPairs();
+    }
     void parameters( TELSX_GENERIC_PARAMS params ) const
     {
         Owned owned( params );
-        for ( int64_t i = 0; i < telsxGenericParamsLength( params ); ++i )
-        {
-            Owned param( telsxGenericParamsParamAt( params, i ) );
-            pair( "parameter", telsxGenericParamName( param.get() ),
-                  telsxGenericParamValueNonNormalized( param.get() ) );
-        }
+        auto param = [&]( int64_t i ) { return Owned( telsxGenericParamsParamAt( params, i ) ); };
+        pairs(
+            "Parameter", telsxGenericParamsLength( params ),
+            [&]( int64_t i ) { return telsxGenericParamName( param( i ).get() ); },
+            [&]( int64_t i ) { return telsxGenericParamValueNonNormalized( param( i ).get() ); } );
     }
 
-    std::ostream &out;
-    int blanks;
+    Listing &to;
 };
 
 #undef OPERATOR
@@ -121,65 +126,75 @@ private:
 #undef TELSX_PARAMS
 #undef TELSX_PAIRS
 
-// For a kind that has fields.
+// Of a kind that has fields.
 template <class HANDLE>
-void showFields( const char *name, const Owned<HANDLE> &header )
+void listFields( Listing &to, const char *name, const Owned<HANDLE> &header )
 {
-    std::cout << "  " << name << '\n';
-    Reading{ std::cout }( header.get() );
+    to.beginHeader( name, 1 );
+    to.beginValue();
+    Reading{ to }( header.get() );
+    to.endValue();
+    to.endHeader();
 }
 
 inline bool isStar( TELSX_HEADER_CONTACT header ) { return telsxHeaderContactIsStarForm( header ); }
 inline bool isStar( const void * ) { return false; }
 
-// For a kind that is a list of values.
+// Of a kind that is a list of values.
 template <class HANDLE, class VALUE>
-void showValues( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
+void listValues( Listing &to, const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                  VALUE ( *tryDecodeAt )( HANDLE, int64_t ) )
 {
+    bool star = isStar( header.get() );
     int64_t length = lengthOf( header.get() );
-    if ( length == 0 )
-        std::cout << "  " << name << ( isStar( header.get() ) ? "\n    *\n" : " is empty\n" );
+    to.beginHeader( name, star ? 1 : length );
+    if ( star )
+        to.text( toString( "*" ) );
     for ( int64_t i = 0; i < length; ++i )
     {
-        Owned value( tryDecodeAt( header.get(), i ) );
-        std::cout << "  " << name;
-        if ( length > 1 )
-            std::cout << ' ' << i + 1 << " of " << length;
-        std::cout << ( value ? "\n" : " does not decode\n" );
-        if ( value )
-            Reading{ std::cout }( value.get() );
+        if ( Owned value{ tryDecodeAt( header.get(), i ) } )
+        {
+            to.beginValue();
+            Reading{ to }( value.get() );
+            to.endValue();
+        }
+        else
+            to.unreadableValue();
     }
+    to.endHeader();
 }
 
-// For a kind that is a list or a set of texts.
+// Of a kind that is a list or a set of texts.
 template <class HANDLE>
-void showTexts( const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
+void listTexts( Listing &to, const char *name, const Owned<HANDLE> &header, int64_t ( *lengthOf )( HANDLE ),
                 RT_STRING ( *textAt )( HANDLE, int64_t ) )
 {
     int64_t length = lengthOf( header.get() );
-    std::cout << "  " << name << ( length ? "\n" : " is empty\n" );
+    to.beginHeader( name, length );
     for ( int64_t i = 0; i < length; ++i )
-        std::cout << "    " << printable( Owned( textAt( header.get(), i ) ) ) << '\n';
+        to.text( Owned( textAt( header.get(), i ) ) );
+    to.endHeader();
 }
 
-// Goes through all kinds and shows those that the message holds.
-inline void showTyped( const Message &message )
+// Goes through all kinds and tells those that the message holds.
+inline void listTyped( const Message &message, Listing &to )
 {
     TELSX_MESSAGE msg = message.get();
-    std::cout << "typed\n";
-#define SHOW( NAME, SIP_NAME, CALL )                                \
+    to.beginTyped();
+#define LIST( NAME, SIP_NAME, CALL )                                \
     if ( Owned header{ telsx##NAME##TryDecodeFromMessage( msg ) } ) \
         CALL;                                                       \
     else if ( telsx##NAME##PresentInMessage( msg ) )                \
-        std::cout << "  " SIP_NAME " does not decode\n";
+        to.unreadable( SIP_NAME );
 #define TELSX_KIND_OF_FIELDS( NAME, SORT, SIP_NAME, FIELDS ) \
-    SHOW( NAME, SIP_NAME, showFields( SIP_NAME, header ) )
+    LIST( NAME, SIP_NAME, listFields( to, SIP_NAME, header ) )
 #define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE ) \
-    SHOW( NAME, SIP_NAME,                                         \
-          showValues( SIP_NAME, header, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At ) )
+    LIST( NAME, SIP_NAME,                                         \
+          listValues( to, SIP_NAME, header, telsx##NAME##WORD##sLength, telsx##NAME##TryDecode##WORD##At ) )
 #define TELSX_KIND_OF_TEXTS( NAME, SORT, SIP_NAME, WORD ) \
-    SHOW( NAME, SIP_NAME, showTexts( SIP_NAME, header, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At ) )
+    LIST( NAME, SIP_NAME,                                 \
+          listTexts( to, SIP_NAME, header, telsx##NAME##WORD##sLength, telsx##NAME##WORD##At ) )
 #include <telsx/telsx_headers.def>
-#undef SHOW
+#undef LIST
+    to.endTyped();
 }

@@ -1,0 +1,93 @@
+// The head of a message as it stands in the bytes, for whoever wants to know where something is. The decoders cut it
+// in the same way, without keeping the places.
+#pragma once
+
+#include "rt/rt_memory.hpp"
+#include "telsx/telsx_header_table.hpp"
+
+namespace telsx
+{
+
+// Items without a destructor, owned.
+template <class T>
+class List
+{
+public:
+    List() : array() {}
+    List( const List & ) = delete;
+    List &operator=( const List & ) = delete;
+    List( List &&other ) noexcept : array( std::exchange( other.array, {} ) ) {}
+    List &operator=( List &&other ) noexcept
+    {
+        std::swap( array, other.array );
+        return *this;
+    }
+    ~List() { array.clear(); }
+
+    T *begin() { return array.begin(); }
+    T *end() { return array.end(); }
+    const T *begin() const { return array.items; }
+    const T *end() const { return array.items + array.length; }
+    T &operator[]( int64_t index ) { return array.items[index]; }
+    const T &operator[]( int64_t index ) const { return array.items[index]; }
+    int64_t length() const { return array.length; }
+    bool empty() const { return array.length == 0; }
+    void append( const T &item ) { array.append( item ); }
+    void clear() { array.length = 0; }
+
+private:
+    rt::Array<T> array;
+};
+
+// Takes the character at the start away: a byte that begins none is U+FFFD.
+RT_CHAR takeChar( Bytes &bytes );
+
+// A text as the decoders see it, with the place of each of its characters in the bytes, and that of its end.
+class PlacedText
+{
+public:
+    // A piece of it, after a blank if something stands before it.
+    void append( Bytes piece, int64_t place );
+
+    Text text() const { return { chs.begin(), chs.length() }; }
+    int64_t placeOf( Text part ) const
+    {
+        int64_t at = part.chs - chs.begin();
+        return at < places.length() ? places[at] : end;
+    }
+
+private:
+    List<RT_CHAR> chs;
+    List<int64_t> places;
+    int64_t end = 0;
+};
+
+// A line with its folds, without the line end behind it.
+struct HeadLine
+{
+    int64_t begin, end;
+    int64_t number; // of the header's name among the known ones, or -1
+};
+
+// The head without the blank line behind it, its first line and its header lines; and what follows.
+class Head
+{
+public:
+    explicit Head( Bytes message );
+
+    Bytes all, bytes, body;
+    HeadLine first;
+    List<HeadLine> lines; // behind the first
+    bool isAscii;
+
+    Bytes bytesOf( const HeadLine &line ) const;
+
+    // The first line as it is; a header line with its folds undone, without the white space around it.
+    PlacedText startLine() const;
+    PlacedText textOf( const HeadLine &line ) const;
+};
+
+// The part behind the first colon, without the white space before it. The text has a colon.
+Text valueOf( const PlacedText &line );
+
+} // namespace telsx

@@ -1,0 +1,13 @@
+// What is wrong with the headers of a message that decodes.
+#pragma once
+
+#include "telsx/telsx_finding_list.hpp"
+#include "telsx/telsx_message.h"
+
+namespace telsx
+{
+
+// Adds a warning for each typed header and each value of one that cannot be read, and remarks about the rest.
+void findHeaderFaults( TELSX_MESSAGE msg, Bytes bytes, FindingList &findings );
+
+} // namespace telsx

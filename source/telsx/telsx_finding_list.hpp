@@ -1,0 +1,47 @@
+// Findings as they are made: in any order, told by the places that they are found at.
+#pragma once
+
+#include "telsx/telsx_finding.hpp"
+#include "telsx/telsx_finding_head.hpp"
+#include "telsx/telsx_finding_rules.hpp"
+
+namespace telsx
+{
+
+class FindingList
+{
+public:
+    explicit FindingList( Bytes message ) : all( message ) {}
+    FindingList( const FindingList & ) = delete;
+    FindingList &operator=( const FindingList & ) = delete;
+    ~FindingList();
+
+    bool empty() const { return findings.empty(); }
+
+    // The rule is broken at that place; the name is that of the header, or null; the reference is the rule's own
+    // unless it is given.
+    void add( const FindingRule &rule, int64_t place, RT_STRING headerName = nullptr,
+              std::string_view reference = {} );
+
+    // The same of a rule that says what was expected, and what stands there.
+    void addExpected( const FindingRule &rule, int64_t place, Text found, RT_STRING headerName = nullptr );
+
+    // A header that cannot be read: what was expected at that place, and what stands there.
+    void addUnreadable( RT_STRING headerName, const Ref<RT_STRING> &pieceCode, const Ref<RT_STRING> &words,
+                        std::string_view reference, int64_t place, Text found );
+
+    // All of them in the order of their places, with lines and columns.
+    RT_VECTOR take();
+
+private:
+    void append( int64_t severity, int64_t place, RT_STRING headerName, Ref<RT_STRING> code,
+                 Ref<RT_STRING> words, std::string_view reference );
+
+    Bytes all;
+    List<TELSX_FINDING> findings;
+};
+
+// The string of ASCII.
+inline Ref<RT_STRING> stringOf( std::string_view ascii ) { return text( ascii.data(), lengthOf( ascii ) ); }
+
+} // namespace telsx
