@@ -11,7 +11,7 @@ my ( $source, $into ) = @ARGV;
 my @families = (
     [ 'messages', 'Messages',  'The module, whole messages, streams, and headers as raw text.' ],
     [ 'headers',  'Headers',   'The typed headers. What all of them have in common is in @ref telsx_header.' ],
-    [ 'values',   'Values',    'What the lists in headers consist of. What all have in common is in @ref telsx_object.' ],
+    [ 'values',   'Values',    'What the lists in headers consist of, and addresses in parts. What all have in common is in @ref telsx_object.' ],
     [ 'elements', 'Elements',  'The elements of the grammar: whether a text is one, and where it ends.' ],
     [ 'rt',       'Runtime',   'Objects, strings, containers, buffers, times.' ],
     [ 'net',      'Network',   'IP addresses and domain names.' ],
@@ -250,7 +250,7 @@ sub documented
     return "$code\n" unless $text;
     # The functions of a field share a comment, which tells of the field. This is what each of them does with it.
     my %does = ( Has => 'Whether the %s is present.', Set => 'Sets the %s.', Del => 'Removes the %s.' );
-    if ( $code =~ /\btelsx(\w+?)(Has|Set|Del)([A-Z]\w*?)(?:Cstr|Wcstr)?\(/ and $known{"telsx$1$3"} )
+    if ( $code =~ /\btelsx(\w+?)(Has|Set|Del)([A-Z]\w*?)(?:Cstr|Wcstr)?\(/ and $known{"telsx$1$3"} and $3 !~ /At$/ )
     {
         my ( $verb, $word ) = ( $2, $3 );
         my $field = lc join ' ', $word =~ /[A-Z][a-z0-9]*/g;
