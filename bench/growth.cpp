@@ -98,6 +98,8 @@ constexpr Family families[] = {
     { "nested comments of a Server", "Server", []( int n ) { return repeated( "Server: ", []( int ) -> std::string { return "("; }, n, std::string( static_cast<std::size_t>( n ), ')' ) + "\r\n" ); }, nullptr },
     { "escapes of a display name", "From", REPEAT( "From: \"", "\\a", "\" <sip:a>\r\n" ), nullptr },
     { "escapes of an address", "From", REPEAT( "From: <sip:", "%20", "@a>\r\n" ), nullptr },
+    { "parameters of an address", "From", REPEAT( "From: <sip:a", ";p" + digits( i ) + "=a", ">\r\n" ), nullptr },
+    { "headers of an address", "From", REPEAT( "From: <sip:a?h", "&h" + digits( i ) + "=a", ">\r\n" ), nullptr },
     { "labels of a host", "Via", REPEAT( "Via: SIP/2.0/UDP a", ".a", "\r\n" ), nullptr },
     { "bytes of a token", "Event", REPEAT( "Event: a", "a", "\r\n" ), nullptr },
     { "messages of a stream", "Cseq", []( int n )
@@ -216,8 +218,20 @@ private:
     {
         RT_OBJ header = kind->tryDecode( message );
         hold( headers, header );
+        if ( kind->name == "From" )
+            decodeAddress( telsxHeaderFromFrom( header ) );
         for ( int64_t i = 0; i < kind->length( header ); ++i )
             hold( values, kind->at( header, i ) );
+    }
+
+    // In parts, as text again, and compared with itself.
+    void decodeAddress( TELSX_HEADER_FROM from )
+    {
+        auto iri = adopt( telsxHeaderFromIri( from ) );
+        auto address = telsxSipIriTryDecode( iri.get() );
+        hold( values, telsxSipIriObj( address ) );
+        hold( values, rtStringObj( telsxSipIriEncode( address ) ) );
+        telsxSipIriEquivalent( address, address );
     }
 
     // A header without a type is looked up by its name, and its line is taken.

@@ -15,6 +15,7 @@
 namespace
 {
 
+using Address = Owned<TELSX_SIP_IRI>; // null for one of another scheme
 using IpAddress = Owned<NET_ADDRESS>;
 using Routes = Owned<TELSX_HEADER_ROUTE>;
 using To = Owned<TELSX_HEADER_TO>;
@@ -31,10 +32,10 @@ const char sample[] = "INVITE sip:ren%C3%A9e@xn--mhle-0ra.example SIP/2.0\r\n"
                       "Contact: <sip:tomas@192.0.2.4>\r\n"
                       "\r\n";
 
-// This proxy, and where the request came from; unknown without an address.
+// This proxy, and where the request came from; unknown without an IP address.
 struct Place
 {
-    std::string host; // in lower case, a domain name in Unicode, an address in its short form
+    Address own; // what it puts into Record-Route
     IpAddress address;
     int64_t port = -1;
 };
@@ -47,12 +48,6 @@ Owned<HANDLE> need( const Message &message, const char *name, HANDLE ( *tryDecod
     if ( !header )
         throw std::runtime_error( std::string( "its " ) + name + " is missing or bad" );
     return header;
-}
-
-std::string lowerCase( String text )
-{
-    rtStringToLower( text.address() );
-    return toUtf8( text );
 }
 
 // The IP address that the text is, with or without brackets, or null.
@@ -68,45 +63,21 @@ IpAddress toIpAddress( const String &text )
         netAddressTryCreateFromChars( rtStringBacking( text.get() ) + bracket, length - 2 * bracket ) );
 }
 
-// The one form of the host that is used for comparison: an IPv6 address has many.
-std::string plainHost( const std::string &host )
+// The host in the one form that is used for comparison.
+String plainHost( const Address &address )
 {
-    IpAddress address = toIpAddress( toString( host ) );
-    std::string plain = address ? toUtf8( Owned( netAddressToStringShrink( address.get() ) ) ) : host;
-    return plain.find( ':' ) == std::string::npos ? plain : '[' + plain + ']';
+    Owned plain( telsxSipIriAddressOfRecord( address.get() ) );
+    return Owned( telsxSipIriHost( plain.get() ) );
 }
 
-// What routing needs of an address: [sip:|sips:][user@]host[:port][;parameters][?headers] (RFC 3261, 19.1.1).
-struct Target
-{
-    explicit Target( String iri )
-    {
-        std::string rest = lowerCase( std::move( iri ) );
-        secure = rest.rfind( "sips:", 0 ) == 0;
-        if ( !secure && rest.rfind( "sip:", 0 ) != 0 )
-            return;
-        rest.erase( 0, rest.find( ':' ) + 1 );
-        std::size_t at = rest.find( '@' );
-        user = at != std::string::npos;
-        rest.erase( 0, at + 1 );
-        rest = rest.substr( 0, rest.find( '?' ) );
-        host = rest.substr( 0, rest.find( ';' ) );
-        std::string parameters = rest.substr( host.size() ) + ';';
-        loose =
-            parameters.find( ";lr;" ) != std::string::npos || parameters.find( ";lr=" ) != std::string::npos;
-        host = plainHost( host.substr( 0, host[0] == '[' ? host.find( ']' ) + 1 : host.find( ':' ) ) );
-        std::size_t named = parameters.find( ";transport=" );
-        if ( named != std::string::npos )
-        {
-            named += std::strlen( ";transport=" );
-            transport = parameters.substr( named, parameters.find( ';', named ) - named );
-        }
-    }
+Address toAddress( const String &iri ) { return Address( telsxSipIriTryDecode( iri.get() ) ); }
 
-    bool secure = false, user = false, loose = false;
-    std::string host;      // as in Place; empty if this is not a SIP address
-    std::string transport; // in lower case; empty if the address names none
-};
+bool isHere( const Address &address, const Place &place )
+{
+    return address && rtStringEquals( plainHost( address ).get(), plainHost( place.own ).get() );
+}
+bool isLoose( const Address &address ) { return address && telsxSipIriLr( address.get() ); }
+bool isSecure( const Address &address ) { return address && telsxSipIriSecure( address.get() ); }
 
 String targetOf( const Message &message ) { return Owned( telsxMessageRequestIri( message.get() ) ); }
 
@@ -170,28 +141,31 @@ bool countHop( Message &message )
 
 // Takes this proxy off the Route and brings the target and the Route into the form that the next hop understands (RFC
 // 3261, 16.4 and 16.6, step 6). Returns the address to send to, secure if the target is.
-Target followRoute( Message &message, const Place &place )
+Address followRoute( Message &message, const Place &place )
 {
-    if ( !telsxHeaderRoutePresentInMessage( message.get() ) )
-        return Target( targetOf( message ) );
-    auto routes = need( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
+    Routes routes( telsxHeaderRouteCreate() );
+    if ( telsxHeaderRoutePresentInMessage( message.get() ) )
+        routes = need( message, "Route", telsxHeaderRouteTryDecodeFromMessage );
 
     // A strict router has replaced the target by this proxy's Record-Route; the target is last.
-    Target target( targetOf( message ) );
-    if ( target.host == place.host && target.loose && !target.user && lengthOf( routes ) )
+    Address target = toAddress( targetOf( message ) );
+    if ( isHere( target, place ) && isLoose( target ) && !telsxSipIriHasUser( target.get() )
+         && lengthOf( routes ) )
     {
         int64_t last = lengthOf( routes ) - 1;
         telsxMessageSetRequestIri( message.address(), iriAt( routes, last ).get() );
         telsxHeaderRouteDelRouteAt( routes.address(), last );
     }
-    if ( lengthOf( routes ) && Target( iriAt( routes, 0 ) ).host == place.host )
+    if ( lengthOf( routes ) && isHere( toAddress( iriAt( routes, 0 ) ), place ) )
         telsxHeaderRouteDelRouteAt( routes.address(), 0 );
 
-    Target next( lengthOf( routes ) ? iriAt( routes, 0 ) : targetOf( message ) );
-    next.secure = next.secure || Target( targetOf( message ) ).secure;
+    target = toAddress( targetOf( message ) );
+    Address next = lengthOf( routes ) ? toAddress( iriAt( routes, 0 ) ) : target;
+    if ( next && isSecure( target ) )
+        telsxSipIriSetSecure( next.address(), 1 );
 
     // A strict router needs its own address as the target, and the target last.
-    if ( lengthOf( routes ) && !next.loose )
+    if ( lengthOf( routes ) && !isLoose( next ) )
     {
         String strict = iriAt( routes, 0 );
         telsxHeaderRouteDelRouteAt( routes.address(), 0 );
@@ -207,13 +181,24 @@ Target followRoute( Message &message, const Place &place )
     return next;
 }
 
+// The transport for a request to the address.
+String transportTo( const Address &next )
+{
+    if ( isSecure( next ) )
+        return toString( "tls" );
+    String transport( next ? telsxSipIriTransport( next.get() ) : nullptr );
+    return transport ? transport : toString( "udp" );
+}
+
 // Makes later requests of the dialog pass through here too (RFC 3261, 16.6, step 4).
 void recordRoute( Message &message, const Place &place, bool secure )
 {
     Owned header( telsxHeaderRecordRouteCreate() );
     if ( telsxHeaderRecordRoutePresentInMessage( message.get() ) )
         header = need( message, "Record-Route", telsxHeaderRecordRouteTryDecodeFromMessage );
-    Owned route( telsxRouteCreate( toString( ( secure ? "sips:" : "sip:" ) + place.host + ";lr" ).get() ) );
+    Address own = place.own;
+    telsxSipIriSetSecure( own.address(), secure );
+    Owned route( telsxRouteCreate( String( telsxSipIriEncode( own.get() ) ).get() ) );
     telsxHeaderRecordRoutePrependRoute( header.address(), route.get() );
     telsxHeaderRecordRouteEncodeToMessage( header.get(), message.address() );
 }
@@ -305,15 +290,12 @@ Message hop( Message message, const Place &place, std::ostream &read )
     }
     if ( telsxHeaderProxyRequirePresentInMessage( message.get() ) && method != "ACK" )
         return refuseExtensions( message, std::move( to ), mark );
-    Target next = followRoute( message, place );
+    Address next = followRoute( message, place );
     if ( method != "REGISTER" )
-        recordRoute( message, place, next.secure );
+        recordRoute( message, place, isSecure( next ) );
 
     Owned version( telsxVersionCreateSip20() );
-    String transport = toString( next.secure ? "tls" : next.transport );
-    if ( !telsxTransportOk( transport.get() ) )
-        transport = toString( "udp" );
-    Owned own( telsxViaCreate( version.get(), transport.get(), toString( place.host ).get() ) );
+    Owned own( telsxViaCreate( version.get(), transportTo( next ).get(), plainHost( place.own ).get() ) );
     telsxViaSetBranch( own.address(), toString( "z9hG4bK" + mark ).get() );
     telsxHeaderViaPrependVia( vias.address(), own.get() );
     telsxHeaderViaEncodeToMessage( vias.get(), message.address() );
@@ -335,7 +317,9 @@ bool toPlace( const char *host, const char *address, const char *port, Place &pl
     String name = toString( host );
     if ( !name || !telsxHostOk( name.get() ) )
         return false;
-    place.host = plainHost( lowerCase( Owned( netDnsIdnaDomainNameToUnicode( name.get() ) ) ) );
+    place.own = Address( telsxSipIriCreate( name.get() ) );
+    telsxSipIriSetHost( place.own.address(), plainHost( place.own ).get() );
+    telsxSipIriSetLr( place.own.address(), 1 );
     if ( !address )
         return true;
     place.address = toIpAddress( toString( address ) );

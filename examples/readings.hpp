@@ -5,16 +5,18 @@
 
 #include "example.hpp"
 
-// Writes what a value or a header says, one field per line; absent fields have no line.
+// Writes what a value, an address or a header says, one field per line; absent fields have no line.
 class Reading
 {
 public:
-    explicit Reading( std::ostream &to ) : out( to ) {}
+    explicit Reading( std::ostream &to, int blanksBefore = 4 ) : out( to ), blanks( blanksBefore ) {}
 
-    // One for each value and each header with fields. The library's lists of types name the fields too.
-#define FIELD( NAME, WORD, ... ) field( #WORD, telsx##NAME##WORD( object ) );
-#define TELSX_TEXT FIELD
-#define TELSX_OPTIONAL_TEXT FIELD
+    // One for each value, each address and each header with fields. The library's lists of types name the fields too.
+#define TELSX_TEXT( NAME, WORD, ELEMENT )                  \
+    field( #WORD, telsx##NAME##WORD( object ) );           \
+    if constexpr ( std::string_view( #ELEMENT ) == "Iri" ) \
+        parts( telsx##NAME##WORD( object ) );
+#define TELSX_OPTIONAL_TEXT TELSX_TEXT
 #define TELSX_NUMBER( NAME, WORD, ELEMENT ) \
     number<std::string_view( #ELEMENT ) == "Qvalue">( #WORD, telsx##NAME##WORD( object ) );
 #define TELSX_OPTIONAL_NUMBER TELSX_NUMBER
@@ -25,10 +27,15 @@ public:
     if ( Owned owned{ telsx##NAME##WORD( object ) } ) \
         field( #WORD, TYPE##ToString( owned.get() ) );
 #define TELSX_PARAMS( NAME ) parameters( telsx##NAME##GenericParams( object ) );
+#define TELSX_PAIRS( NAME, WORD )                                        \
+    for ( int64_t i = 0; i < telsx##NAME##WORD##sLength( object ); ++i ) \
+        pair( #WORD, telsx##NAME##WORD##NameAt( object, i ), telsx##NAME##WORD##ValueAt( object, i ) );
 #define OPERATOR( SORT, FIELDS ) \
     void operator()( TELSX_##SORT object ) const { FIELDS }
 #define TELSX_VALUE( NAME, SORT, FIELDS ) OPERATOR( SORT, FIELDS )
 #include <telsx/telsx_values.def>
+#define TELSX_ADDRESS( NAME, SORT, FIELDS ) OPERATOR( SORT, FIELDS )
+#include <telsx/telsx_addresses.def>
 #define TELSX_KIND( NAME, SORT, SIP_NAME )
 #define TELSX_KIND_OF_FIELDS( NAME, SORT, SIP_NAME, FIELDS ) OPERATOR( SORT, FIELDS )
 #include <telsx/telsx_headers.def>
@@ -44,7 +51,7 @@ private:
             label += isCapital && !label.empty() ? " " : "";
             label += static_cast<char>( isCapital ? ch + 0x20 : ch );
         }
-        out << "    " << std::left << std::setw( 18 ) << label << text << '\n';
+        out << std::setw( blanks ) << "" << std::left << std::setw( 22 - blanks ) << label << text << '\n';
     }
 
     // What the getters return: a new reference or null, a number or -1, whether a mark is there.
@@ -67,6 +74,22 @@ private:
         if ( isThere )
             line( word, "yes" );
     }
+    void pair( const char *word, RT_STRING name, RT_STRING value ) const
+    {
+        Owned owned( name ), ownedValue( value );
+        line( word, printable( owned ) + ( ownedValue ? "=" + printable( ownedValue ) : "" ) );
+    }
+
+    // The parts of an address, if the library knows its scheme.
+    void parts( RT_STRING iri ) const
+    {
+        Owned owned( iri );
+        Reading below( out, blanks + 2 );
+        if ( Owned sip{ telsxSipIriTryDecode( iri ) } )
+            below( sip.get() );
+        if ( Owned tel{ telsxTelIriTryDecode( iri ) } )
+            below( tel.get() );
+    }
 
     void parameters( TELSX_GENERIC_PARAMS params ) const
     {
@@ -74,19 +97,19 @@ private:
         for ( int64_t i = 0; i < telsxGenericParamsLength( params ); ++i )
         {
             Owned param( telsxGenericParamsParamAt( params, i ) );
-            Owned value( telsxGenericParamValueNonNormalized( param.get() ) );
-            line( "parameter", printable( Owned( telsxGenericParamName( param.get() ) ) )
-                                   + ( value ? "=" + printable( value ) : "" ) );
+            pair( "parameter", telsxGenericParamName( param.get() ),
+                  telsxGenericParamValueNonNormalized( param.get() ) );
         }
     }
 
     std::ostream &out;
+    int blanks;
 };
 
-#undef FIELD
 #undef OPERATOR
 #undef TELSX_KIND
 #undef TELSX_VALUE
+#undef TELSX_ADDRESS
 #undef TELSX_TEXT
 #undef TELSX_OPTIONAL_TEXT
 #undef TELSX_NUMBER
@@ -96,6 +119,7 @@ private:
 #undef TELSX_MARK
 #undef TELSX_OBJECT_OF
 #undef TELSX_PARAMS
+#undef TELSX_PAIRS
 
 // For a kind that has fields.
 template <class HANDLE>

@@ -37,12 +37,12 @@ static void need( bool good, const char *what )
 static bool printsValues;
 static FILE *bytesTo;
 
-static void printText( TEXT text, const char *end )
+static void printText( TEXT text )
 {
     for ( int64_t i = 0; text.chars && i != text.length; ++i )
     {
         int ch = text.width == 4 ? (int)( (const uint32_t *)text.chars )[i] : ( (const char *)text.chars )[i];
-        if ( ch == '\0' || ( end && strchr( end, ch ) ) )
+        if ( ch == '\0' )
             break;
         putchar( ch );
     }
@@ -51,14 +51,11 @@ static void printText( TEXT text, const char *end )
 static void printAddress( const char *label, const ADDRESS *address )
 {
     printf( "%s", label );
-    printText( address->whole, ";?" );
-    if ( address->whole.chars )
-        return;
-    printText( address->scheme, NULL );
+    printText( address->scheme );
     printf( ":" );
-    printText( address->user, NULL );
+    printText( address->user );
     printf( "%s", address->user.chars ? "@" : "" );
-    printText( address->host, NULL );
+    printText( address->host );
     if ( address->port )
         printf( ":%d", (int)address->port );
 }
@@ -66,7 +63,7 @@ static void printAddress( const char *label, const ADDRESS *address )
 static void printLabelled( const char *label, TEXT text )
 {
     printf( "%s", label );
-    printText( text, NULL );
+    printText( text );
 }
 
 static void printValues( const VALUES *values )

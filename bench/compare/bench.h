@@ -34,10 +34,9 @@ typedef struct TEXT
     int64_t width;
 } TEXT;
 
-/* An address, whole or in parts, again as the parser hands it out. */
+/* An address in parts, again as the parser hands it out. */
 typedef struct ADDRESS
 {
-    TEXT whole;
     TEXT scheme, user, host;
     int64_t port; /* 0: none */
 } ADDRESS;

@@ -27,6 +27,23 @@ static TEXT text( RT_STRING string )
                   : ( TEXT ){ 0 };
 }
 
+/* The parts of an address, of which the strings go to the last argument, to be released; false if it is no SIP address. */
+static bool address( RT_STRING iri, ADDRESS *parts, RT_STRING strings[2] )
+{
+    TELSX_SIP_IRI sipIri = telsxSipIriTryDecode( iri );
+    rtStringRelease( iri );
+    if ( !sipIri )
+        return false;
+    strings[0] = telsxSipIriUser( sipIri );
+    strings[1] = telsxSipIriHost( sipIri );
+    *parts = ( ADDRESS ){ .scheme = { telsxSipIriSecure( sipIri ) ? "sips" : "sip", -1, 1 },
+                          .user = text( strings[0] ),
+                          .host = text( strings[1] ),
+                          .port = telsxSipIriHasPort( sipIri ) ? telsxSipIriPort( sipIri ) : 0 };
+    telsxSipIriRelease( sipIri );
+    return true;
+}
+
 static void encode( TELSX_MESSAGE msg )
 {
     RT_BUFFER buffer = telsxMessageEncode( msg );
@@ -78,19 +95,22 @@ static bool route( JOB job, TELSX_MESSAGE *msg )
     TELSX_HEADER_CSEQ cseq = telsxHeaderCseqTryDecodeFromMessage( *msg );
     TELSX_HEADER_MAX_FORWARDS maxForwards = telsxHeaderMaxForwardsTryDecodeFromMessage( *msg );
     bool request = telsxMessageIsRequest( *msg );
-    bool good = top && from && to && callId && cseq && ( maxForwards || !request );
+    RT_STRING strings[4] = { NULL };
+    ADDRESS fromAddress, toAddress;
+    bool good = top && from && to && callId && cseq && ( maxForwards || !request )
+                && address( telsxHeaderFromIri( from ), &fromAddress, strings )
+                && address( telsxHeaderToIri( to ), &toAddress, strings + 2 );
     if ( good )
     {
         RT_STRING host = telsxViaHost( top ), branch = telsxViaBranch( top );
-        RT_STRING fromIri = telsxHeaderFromIri( from ), fromTag = telsxHeaderFromTag( from );
-        RT_STRING toIri = telsxHeaderToIri( to ), toTag = telsxHeaderToTag( to );
+        RT_STRING fromTag = telsxHeaderFromTag( from ), toTag = telsxHeaderToTag( to );
         RT_STRING call = telsxHeaderCallIdCallId( callId ), method = telsxHeaderCseqMethod( cseq );
         VALUES values = { .viaHost = text( host ),
                           .viaPort = telsxViaHasPort( top ) ? telsxViaPort( top ) : 0,
                           .viaBranch = text( branch ),
-                          .from.whole = text( fromIri ),
+                          .from = fromAddress,
                           .fromTag = text( fromTag ),
-                          .to.whole = text( toIri ),
+                          .to = toAddress,
                           .toTag = text( toTag ),
                           .callId = text( call ),
                           .cseq = telsxHeaderCseqCseq( cseq ),
@@ -101,9 +121,7 @@ static bool route( JOB job, TELSX_MESSAGE *msg )
         rtStringRelease( method );
         rtStringRelease( call );
         RELEASE_STRING( toTag );
-        rtStringRelease( toIri );
         RELEASE_STRING( fromTag );
-        rtStringRelease( fromIri );
         RELEASE_STRING( branch );
         rtStringRelease( host );
 
@@ -114,6 +132,8 @@ static bool route( JOB job, TELSX_MESSAGE *msg )
         if ( job == JOB_HOP )
             encode( *msg );
     }
+    for ( int i = 0; i < 4; ++i )
+        RELEASE_STRING( strings[i] );
     RELEASE( HeaderMaxForwards, maxForwards );
     RELEASE( HeaderCseq, cseq );
     RELEASE( HeaderCallId, callId );

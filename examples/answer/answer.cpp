@@ -28,8 +28,6 @@
 //     bytes of a REGISTER's response by UDP: five times those of the request; 500
 #include <cerrno>
 
-#include <strings.h>
-
 #include "../digest.h"
 #include "authentication.hpp"
 #include "calls.hpp"
@@ -95,8 +93,7 @@ int64_t refusal( const Request &request )
         return 400;
     if ( method == "CANCEL" )
         return 0; // it has the Request-URI of its INVITE, and no Require (RFC 3261, 9.1)
-    if ( strcasecmp( request.scheme.c_str(), "sip" ) != 0
-         && strcasecmp( request.scheme.c_str(), "sips" ) != 0 )
+    if ( !request.target )
         return 416;
     if ( require && telsxHeaderRequireOptionTagsLength( require.get() ) > 0 )
         return 420;

@@ -106,10 +106,13 @@ Message Calls::respondInDialog( const Request &request, int64_t statusCode )
 {
     Message response = respond( request, statusCode );
     copyHeader( request, "Record-Route", response );
-    std::string iri = request.scheme + ':' + ( address.isV6() ? "[" + address.host() + "]" : address.host() )
-                      + ":" + std::to_string( address.port() )
-                      + ( request.peer.connection ? ";transport=tcp" : "" );
-    Owned contact( telsxContactCreate( toString( iri ).get() ) );
+    std::string host = address.isV6() ? "[" + address.host() + "]" : address.host();
+    Owned here( telsxSipIriCreate( toString( host ).get() ) );
+    telsxSipIriSetSecure( here.address(), request.target && telsxSipIriSecure( request.target.get() ) );
+    telsxSipIriSetPort( here.address(), address.port() );
+    if ( request.peer.connection )
+        telsxSipIriSetTransport( here.address(), toString( "tcp" ).get() );
+    Owned contact( telsxContactCreate( Owned( telsxSipIriEncode( here.get() ) ).get() ) );
     Owned contacts( telsxHeaderContactCreate() );
     telsxHeaderContactAppendContact( contacts.address(), contact.get() );
     telsxHeaderContactEncodeToMessage( contacts.get(), response.address() );

@@ -1,35 +1,30 @@
 #include "registrar.hpp"
 
 #include <algorithm>
-#include <cctype>
 
 #include "responses.hpp"
 
 namespace
 {
 
-// The canonical form of the address (RFC 3261, 10.3, step 5): without parameters, unescaped, with the scheme and the
-// host in lower case.
-std::string toAddressOfRecord( const std::string &iri )
+using Address = Owned<TELSX_SIP_IRI>; // null if it is not a SIP address
+
+// The canonical form of the address (RFC 3261, 10.3, step 5). An address of another scheme is its own.
+std::string toAddressOfRecord( const String &iri )
 {
-    std::size_t colon = iri.find( ':' ), at = iri.find( '@' );
-    std::size_t host = at == iri.npos ? colon : at;
-    std::string result;
-    for ( std::size_t i = 0, end = std::min( iri.find_first_of( ";?", host ), iri.size() ); i < end; ++i )
-    {
-        auto isHex = [&]( std::size_t index )
-        { return std::isxdigit( static_cast<unsigned char>( iri[index] ) ); };
-        if ( iri[i] == '%' && end - i > 2 && isHex( i + 1 ) && isHex( i + 2 ) )
-        {
-            result += static_cast<char>( std::stoi( iri.substr( i + 1, 2 ), nullptr, 16 ) );
-            i += 2;
-        }
-        else if ( ( i < colon || i > host ) && iri[i] >= 'A' && iri[i] <= 'Z' )
-            result += static_cast<char>( iri[i] - 'A' + 'a' );
-        else
-            result += iri[i];
-    }
-    return result;
+    Address address( telsxSipIriTryDecode( iri.get() ) );
+    if ( !address )
+        return toUtf8( iri );
+    Owned record( telsxSipIriAddressOfRecord( address.get() ) );
+    return toUtf8( Owned( telsxSipIriEncode( record.get() ) ) );
+}
+
+// Whether two contacts are the same (RFC 3261, 10.3, step 7).
+bool areSame( const std::string &iriA, const std::string &iriB )
+{
+    Address a( telsxSipIriTryDecode( toString( iriA ).get() ) );
+    Address b( telsxSipIriTryDecode( toString( iriB ).get() ) );
+    return a && b ? telsxSipIriEquivalent( a.get(), b.get() ) : iriA == iriB;
 }
 
 } // namespace
@@ -38,7 +33,7 @@ Message Registrar::bind( const Request &request )
 {
     auto now = Clock::now();
     forgetEnded( now );
-    std::string who = toAddressOfRecord( toUtf8( Owned( telsxHeaderToIri( request.to.get() ) ) ) );
+    std::string who = toAddressOfRecord( Owned( telsxHeaderToIri( request.to.get() ) ) );
     if ( who.size() > maxLength )
         return refuse( request, 404 );
     // The changes are made to a copy, which takes effect only if the whole request is good.
@@ -46,26 +41,22 @@ Message Registrar::bind( const Request &request )
     Contacts contacts;
     if ( known != registrations.end() )
         contacts = known->second.contacts;
-    auto withoutEnded = [&]
-    {
-        for ( auto at = contacts.begin(); at != contacts.end(); )
-            at = now >= at->second.end ? contacts.erase( at ) : std::next( at );
-    };
-    withoutEnded();
+    contacts.erase( std::remove_if( contacts.begin(), contacts.end(),
+                                    [now]( const Binding &binding ) { return now >= binding.end; } ),
+                    contacts.end() );
     int64_t statusCode = change( request, contacts, now );
+    if ( statusCode == 503 )
+        return refuseForNow( request, statusCode, 60 );
     if ( statusCode != 200 )
         return refuse( request, statusCode );
-    withoutEnded();
-    if ( contacts.size() > maxContacts )
-        return refuseForNow( request, 503, 60 );
 
     Message response = respond( request, 200 );
     Owned date( telsxHeaderDateCreateFromCurrentTime() );
     telsxHeaderDateEncodeToMessage( date.get(), response.address() );
     Owned held( telsxHeaderContactCreate() );
-    for ( const auto &[iri, binding] : contacts )
+    for ( const Binding &binding : contacts )
     {
-        Owned contact( telsxContactCreate( toString( iri ).get() ) );
+        Owned contact( telsxContactCreate( toString( binding.iri ).get() ) );
         auto left = std::chrono::ceil<std::chrono::seconds>( binding.end - now );
         telsxContactSetExpires( contact.address(), left.count() );
         telsxHeaderContactAppendContact( held.address(), contact.get() );
@@ -88,10 +79,10 @@ int64_t Registrar::change( const Request &request, Contacts &contacts, Clock::ti
     TELSX_MESSAGE message = request.message.get();
     uint64_t callId =
         std::hash<std::string>()( toUtf8( Owned( telsxHeaderCallIdCallId( request.callId.get() ) ) ) );
-    auto newer = [&]( const auto &contact ) // than the request, unless the same one has arrived twice
+    auto newer = [&]( const Binding &binding ) // than the request, unless the same one has arrived twice
     {
-        return contact.second.callId == callId && contact.second.number >= request.number
-               && contact.second.transaction != request.transaction;
+        return binding.callId == callId && binding.number >= request.number
+               && binding.transaction != request.transaction;
     };
     Owned header( telsxHeaderContactTryDecodeFromMessage( message ) );
     Owned expires( telsxHeaderExpiresTryDecodeFromMessage( message ) );
@@ -116,11 +107,17 @@ int64_t Registrar::change( const Request &request, Contacts &contacts, Clock::ti
         std::string iri = toUtf8( Owned( telsxContactIri( contact.get() ) ) );
         if ( iri.size() > maxLength )
             return 403;
-        auto &bound = *contacts.try_emplace( iri ).first;
-        if ( newer( bound ) )
+        auto bound = std::find_if( contacts.begin(), contacts.end(),
+                                   [&]( const Binding &binding ) { return areSame( binding.iri, iri ); } );
+        if ( bound != contacts.end() && newer( *bound ) )
             return 500;
+        if ( bound != contacts.end() )
+            contacts.erase( bound );
         std::chrono::seconds left( std::min( time == -1 ? usual : time, maxExpires ) );
-        bound.second = { callId, request.transaction, request.number, now + left };
+        if ( left > 0s )
+            contacts.push_back( { iri, callId, request.transaction, request.number, now + left } );
+        if ( contacts.size() > maxContacts )
+            return 503;
     }
     return 200;
 }
@@ -140,7 +137,7 @@ bool Registrar::keep( const std::string &who, Contacts contacts, const std::stri
     if ( full || count >= maxOfSource )
         forget( registrations.find( own->second.begin()->second ) );
     Registration &next = registrations[who] = { std::move( contacts ), {}, source, ++lastAge };
-    for ( const auto &[iri, binding] : next.contacts )
+    for ( const Binding &binding : next.contacts )
         next.end = std::max( next.end, binding.end );
     sources[source].emplace( next.age, who );
     return true;

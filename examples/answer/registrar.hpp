@@ -1,8 +1,8 @@
-// A registrar (RFC 3261, 10.3). Of a contact it returns the address and the expiry time; contacts are the same if their
-// texts are, not by the rules of RFC 3261, 19.1.4.
+// A registrar (RFC 3261, 10.3). Of a contact it returns the address and the expiry time.
 #pragma once
 
 #include <map>
+#include <vector>
 
 #include "requests.hpp"
 
@@ -23,11 +23,12 @@ private:
     // A contact, with the last request that has bound it, and when it expires.
     struct Binding
     {
+        std::string iri;
         uint64_t callId = 0, transaction = 0;
         int64_t number = -1;
         Clock::time_point end = {};
     };
-    using Contacts = std::map<std::string, Binding>;
+    using Contacts = std::vector<Binding>;
 
     struct Registration
     {

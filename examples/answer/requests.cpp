@@ -67,8 +67,7 @@ std::optional<Request> toRequest( Arrival arrival )
     if ( source.empty() )
         return std::nullopt;
     request.method = toUtf8( Owned( telsxMessageRequestMethod( handle ) ) );
-    request.scheme = toUtf8( Owned( telsxMessageRequestIri( handle ) ) );
-    request.scheme.resize( std::min( request.scheme.find( ':' ), request.scheme.size() ) );
+    request.target = Owned( telsxSipIriTryDecode( Owned( telsxMessageRequestIri( handle ) ).get() ) );
     Owned cseq( telsxHeaderCseqTryDecodeFromMessage( handle ) );
     if ( cseq && toUtf8( Owned( telsxHeaderCseqMethod( cseq.get() ) ) ) == request.method )
         request.number = telsxHeaderCseqCseq( cseq.get() );

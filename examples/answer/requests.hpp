@@ -9,9 +9,10 @@ struct Request
 {
     Message message;
     Peer peer = {};
-    std::size_t datagram = 0;             // its bytes, 0 if it came over a connection
-    int64_t statusCode = 0;               // with which the transport refuses it, or 0
-    std::string method = {}, scheme = {}; // the scheme is that of the Request-URI
+    std::size_t datagram = 0; // its bytes, 0 if it came over a connection
+    int64_t statusCode = 0;   // with which the transport refuses it, or 0
+    std::string method = {};
+    Owned<TELSX_SIP_IRI> target = {}; // the Request-URI, or null if that is not a SIP address
     Owned<TELSX_HEADER_VIA> vias = {};
     Owned<TELSX_HEADER_FROM> from = {};
     Owned<TELSX_HEADER_TO> to = {};

@@ -1,6 +1,6 @@
 // IRIs and URIs (RFC 3987, 3.1 and 3.2). Where the host is, and what may stand where, depends only on ASCII characters
 // that no conversion adds or removes. So a text has the same parts before and after a conversion.
-#include "rsc/rsc_iri.h"
+#include "rsc/rsc_iri.hpp"
 
 #include <algorithm>
 #include <array>
@@ -12,6 +12,9 @@
 #include "rt/rt_scan.hpp"
 #include "rt/rt_text.hpp"
 
+using rsc::isBidiControl;
+using rsc::isIprivate;
+using rsc::isUcschar;
 using rt::adopt;
 using rt::Ref;
 using rt::share;
@@ -44,27 +47,6 @@ static constexpr rt::CharSet plainCharsUntil( RT_CHAR end )
 }
 static constexpr auto plainChars = plainCharsUntil( UINT32_MAX ),
                       plainCharsUntilSemi = plainCharsUntil( ';' );
-
-// RFC 3987, 2.2.
-static bool isUcschar( RT_CHAR ch )
-{
-    if ( ch < 0x10000 )
-        return ( ch >= 0xA0 && ch <= 0xD7FF ) || ( ch >= 0xF900 && ch <= 0xFDCF )
-               || ( ch >= 0xFDF0 && ch <= 0xFFEF );
-    return ch < 0xF0000 && ( ch & 0xFFFF ) <= 0xFFFD && ch >> 12 != 0xE0;
-}
-
-static bool isIprivate( RT_CHAR ch )
-{
-    return ( ch >= 0xE000 && ch <= 0xF8FF )
-           || ( ch >= 0xF0000 && ch <= 0x10FFFD && ( ch & 0xFFFF ) <= 0xFFFD );
-}
-
-// RFC 3987, 4.1: these are always escaped.
-static bool isBidiControl( RT_CHAR ch )
-{
-    return ch == 0x200E || ch == 0x200F || ( ch >= 0x202A && ch <= 0x202E );
-}
 
 // The current part of an IRI, as far as it decides which characters may stand there.
 struct Place

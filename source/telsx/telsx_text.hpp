@@ -52,6 +52,7 @@ std::string_view pieceOf( const char ( &literal )[SIZE] )
 }
 inline std::string_view pieceOf( const char &ch ) { return { &ch, 1 }; }
 inline std::string_view pieceOf( const Decimal &number ) { return number.chars(); }
+inline Text pieceOf( Text text ) { return text; }
 inline Text pieceOf( RT_STRING string ) { return textOf( string ); }
 inline Text pieceOf( const Ref<RT_STRING> &string ) { return textOf( string ); }
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The documents are true: their C code compiles, prints the text that follows it and leaves no object behind; the
-# functions that they name exist; docs/headers.md has all kinds of headers and values with all their fields.
+# functions that they name exist; docs/headers.md has all kinds of headers, values and addresses with all their fields.
 # usage: run_documents.sh CC ROOT LIBRARY...
 set -euo pipefail
 
@@ -59,9 +59,9 @@ done || failed=1
 # those with a deleter have a question mark.
 awk '
     FILENAME ~ /exported/ { exported[$0] }
-    /^TELSX_(KIND|VALUE)/ {
+    /^TELSX_(KIND|VALUE|ADDRESS)/ {
         split( $0, part, /[(,)" ]+/ )
-        name = part[2]; key = part[1] == "TELSX_VALUE" ? "TELSX_" part[3] : part[4]
+        name = part[2]; key = part[1] ~ /KIND/ ? part[4] : "TELSX_" part[3]
         if( part[1] ~ /KIND_OF_(VALUES|SET|LIST)/ )
             print key, part[5]
         else
@@ -71,7 +71,7 @@ awk '
                     if( "telsx" name field in exported )
                         print key, field ( "telsx" name "Del" field in exported ? "?" : "" )
                 }
-    }' "$scratch/exported" source/telsx/telsx_headers.def source/telsx/telsx_values.def | sort >"$scratch/types"
+    }' "$scratch/exported" source/telsx/telsx_{headers,values,addresses}.def | sort >"$scratch/types"
 awk -F '|' '
     $2 ~ /^ ([A-Z][A-Za-z-]*|`TELSX_[A-Z_]*`) $/ {
         key = $2; gsub( /[` ]/, "", key )

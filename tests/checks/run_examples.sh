@@ -37,19 +37,27 @@ prints_in_order "\
     host              [2001:db8::17]"
 
 # The elements of lists one by one, and what does not decode; then every kind at once.
-printf '%s\r\n' 'REGISTER sip:a SIP/2.0' 'm: "A, B" <sip:a>;q=0.5;x="1, 2"' 'k: timer, 100rel' 'm: sip:b' 'Expires: never' \
+printf '%s\r\n' 'REGISTER sip:a SIP/2.0' 'm: "A, B" <sip:a;lr?b>;q=0.5;x="1, 2"' 'k: timer, 100rel' 'm: sip:b' 'm: <tel:+1;ext=2>' 'Expires: never' \
     'Accept:' 'Event: dialog;id=1' 'v: SIP/2.0/UDP a, SIP/2.0/UDP a:99999999999999999999' '' >"$scratch/typed"
 expect 0 "$decode" "$scratch/typed"
 typed=$( sed '1,/^typed$/d; /^encoded$/,$d' "$scratch/out" )
 diff - <( echo "$typed" ) <<'END' || fail "the typed reading differs"
   Accept is empty
-  Contact 1 of 2
-    iri               sip:a
+  Contact 1 of 3
+    iri               sip:a;lr?b
+      host            a
+      lr              yes
+      header          b
     display name      A, B
     qvalue            0.500
     parameter         x=1, 2
-  Contact 2 of 2
+  Contact 2 of 3
     iri               sip:b
+      host            b
+  Contact 3 of 3
+    iri               tel:+1;ext=2
+      number          +1
+      extension       2
   Event
     event type        dialog
     id                1

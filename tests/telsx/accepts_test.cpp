@@ -83,6 +83,16 @@ std::string ofHeaders( std::string_view lines )
     return result.substr( 0, result.size() - 2 );
 }
 
+// An address through its parts.
+std::string ofAddress( std::string_view text )
+{
+    auto iri = str( text );
+    if ( auto sip = adopt( telsxSipIriTryDecode( iri.get() ) ) )
+        return utf8( telsxSipIriEncode( sip.get() ) );
+    auto tel = adopt( telsxTelIriTryDecode( iri.get() ) );
+    return tel ? utf8( telsxTelIriEncode( tel.get() ) ) : "null";
+}
+
 TEST( Accepts, TheDocumentTellsTheTruth )
 {
     std::ifstream document( DOCUMENTS "/accepts.md" );
@@ -96,6 +106,8 @@ TEST( Accepts, TheDocumentTellsTheTruth )
             apply = ofStream;
         if ( line.starts_with( "| Header" ) )
             apply = ofHeaders;
+        if ( line.starts_with( "| Address" ) )
+            apply = ofAddress;
         if ( !line.starts_with( "| `" ) )
             continue;
         std::size_t cell = line.find( "` | `" );

@@ -107,23 +107,16 @@ TYPED_TEST( FragmentAndMessage, TakesTextInThreeForms )
     EXPECT_EQ( EXPECTED, dump( object.get() ) )
     EXPECT_MADE( "A sip:b SIP/2.0", CreateRequest, str( "A" ).get(), uri );
     EXPECT_MADE( "B sip:b SIP/2.0", CreateRequestCstr, "Bx", 1, uri );
-    EXPECT_MADE( "C sip:b SIP/2.0", CreateRequestWcstr, L"Cx", 1, uri );
     EXPECT_SET( "D sip:b SIP/2.0", SetRequestCstr, sip20, "Dx", 1, uri );
-    EXPECT_SET( "E sip:b SIP/2.0", SetRequestWcstr, sip20, L"Ex", 1, uri );
     EXPECT_SET( "F sip:b SIP/2.0", SetRequestMethod, str( "F" ).get() );
-    EXPECT_SET( "G sip:b SIP/2.0", SetRequestMethodCstr, "Gx", 1 );
     EXPECT_SET( "H sip:b SIP/2.0", SetRequestMethodWcstr, L"Hx", 1 );
     EXPECT_SET( "H a:ä SIP/2.0", SetRequestIri, str( "a:ä" ).get() );
-    EXPECT_SET( "H a:b SIP/2.0", SetRequestIriCstr, "a:bx", 3 );
     EXPECT_SET( "H a:ö SIP/2.0", SetRequestIriWcstr, L"a:öx", 3 );
     EXPECT_MADE( "SIP/2.0 200 <ä>", CreateResponseWithReasonPhrase, 200, str( "ä" ).get() );
     EXPECT_MADE( "SIP/2.0 200 <ä>", CreateResponseWithReasonPhraseCstr, 200, "\xE4y", 1 );
-    EXPECT_MADE( "SIP/2.0 200 <ö>", CreateResponseWithReasonPhraseWcstr, 200, L"öx", 1 );
-    EXPECT_SET( "SIP/2.0 300 <a>", SetResponseWithReasonPhraseCstr, sip20, 300, "a", -1 );
     EXPECT_SET( "SIP/2.0 301 <b>", SetResponseWithReasonPhraseWcstr, sip20, 301, L"bx", 1 );
     EXPECT_SET( "SIP/2.0 301 <c\r\n>", SetResponseReasonPhrase, str( "c\r\n" ).get() );
     EXPECT_SET( "SIP/2.0 301 <d>", SetResponseReasonPhraseCstr, "dx", 1 );
-    EXPECT_SET( "SIP/2.0 301 <e>", SetResponseReasonPhraseWcstr, L"ex", 1 );
 #undef EXPECT_MADE
 #undef EXPECT_SET
 }

@@ -3,25 +3,17 @@
 
 using namespace support;
 
-#define EXPECT_CHARS_OF_SET( NAME, WORD )                                                                \
-    {                                                                                                    \
-        auto hdr = adopt( telsx##NAME##Create() );                                                       \
-        telsx##NAME##Set##WORD##Cstr( hdr.address(), "ab", 1 );                                          \
-        telsx##NAME##Set##WORD##Wcstr( hdr.address(), L"bc", 1 );                                        \
-        EXPECT_TRUE( telsx##NAME##Has##WORD##Cstr( hdr.get(), "b", -1 ) ) << #NAME;                      \
-        EXPECT_TRUE( telsx##NAME##Has##WORD##Wcstr( hdr.get(), L"ab", 1 ) ) << #NAME;                    \
-        telsx##NAME##Del##WORD##Cstr( hdr.address(), "ac", 1 );                                          \
-        telsx##NAME##Del##WORD##Wcstr( hdr.address(), L"bc", 1 );                                        \
-        EXPECT_EQ( 0, telsx##NAME##WORD##sLength( hdr.get() ) ) << #NAME;                                \
-        EXPECT_ABORT( telsx##NAME##Has##WORD##Cstr( hdr.get(), "", 0 ), "telsx" #WORD "Ok( element )" ); \
-    }
-
-TEST( Kinds, SetsOfCharacters )
+TEST( Kinds, SetsTakeTextInThreeForms )
 {
-    EXPECT_CHARS_OF_SET( HeaderAllow, Method );
-    EXPECT_CHARS_OF_SET( HeaderPrivacy, PrivValue );
-    EXPECT_CHARS_OF_SET( HeaderRequire, OptionTag );
-    EXPECT_CHARS_OF_SET( HeaderSupported, OptionTag );
+    auto hdr = adopt( telsxHeaderAllowCreate() );
+    telsxHeaderAllowSetMethodCstr( hdr.address(), "ab", 1 );
+    telsxHeaderAllowSetMethodWcstr( hdr.address(), L"bc", 1 );
+    EXPECT_TRUE( telsxHeaderAllowHasMethodCstr( hdr.get(), "b", -1 ) );
+    EXPECT_TRUE( telsxHeaderAllowHasMethodWcstr( hdr.get(), L"ab", 1 ) );
+    telsxHeaderAllowDelMethodCstr( hdr.address(), "ac", 1 );
+    telsxHeaderAllowDelMethodWcstr( hdr.address(), L"bc", 1 );
+    EXPECT_EQ( 0, telsxHeaderAllowMethodsLength( hdr.get() ) );
+    EXPECT_ABORT( telsxHeaderAllowHasMethodCstr( hdr.get(), "", 0 ), "telsxMethodOk( element )" );
 }
 
 TEST( Kinds, ContentEncodingIsAList )

@@ -83,7 +83,10 @@ inline std::string sampleLine( std::string_view name )
     {                                                                                              \
         return adopt( rt::textOf( str( sampleValue( #NAME ) ) ).as( telsx___##NAME##TryDecode ) ); \
     }
+#define TELSX_ADDRESS TELSX_VALUE
+#include "telsx/telsx_addresses.def"
 #include "telsx/telsx_values.def"
+#undef TELSX_ADDRESS
 #undef TELSX_VALUE
 
 #define TELSX_KIND( NAME, SORT, SIP_NAME )                                                            \

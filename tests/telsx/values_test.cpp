@@ -54,6 +54,18 @@ TEST( Values, SortByTheirFields )
         { "ErrorInfo", { "<sip:a>;z", "<sip:b>", "<sip:b>;a" } },
         { "CallInfo",
           { "<sip:a>;z", "<sip:b>;z", "<sip:b>;purpose=a", "<sip:b>;purpose=a;a", "<sip:b>;purpose=b" } },
+        { "SipIri",
+          { "sip:z@z:9", "sips:z:9", "sips:a@z:9", "sips:a:b@a:9", "sips:a:b@b;transport=z",
+            "sips:a:b@b:10;user=z", "sips:a:b@b:10;transport=a;method=z",
+            "sips:a:b@b:10;transport=a;user=a;ttl=9", "sips:a:b@b:10;transport=a;user=a;method=a;maddr=z",
+            "sips:a:b@b:10;transport=a;user=a;method=a;ttl=9;lr",
+            "sips:a:b@b:10;transport=a;user=a;method=a;ttl=9;maddr=a;z",
+            "sips:a:b@b:10;transport=a;user=a;method=a;ttl=9;maddr=a;lr?z",
+            "sips:a:b@b:10;transport=a;user=a;method=a;ttl=9;maddr=a;lr;a?a",
+            "sips:a:b@b:10;transport=a;user=a;method=a;ttl=9;maddr=a;lr;a?b" } },
+        { "TelIri",
+          { "tel:+1;ext=9", "tel:1;isub=z", "tel:1;ext=1;phone-context=z", "tel:1;ext=1;isub=a;z",
+            "tel:1;ext=1;isub=a;phone-context=a", "tel:1;ext=1;isub=a;phone-context=a;a" } },
         { "WarningValue", { "099 z \"z\"", "100 a \"z\"", "100 b \"a\"", "100 b \"b\"" } },
     };
     for ( auto &[type, inOrder] : cases )
