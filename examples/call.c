@@ -1,11 +1,15 @@
 /* Makes the messages of a short call from scratch and writes their bytes to standard output, each as its sender sends
  * it: Alice's INVITE, Bob's 200, Alice's ACK and BYE. `call | stream` shows them one by one.
  *
+ *     call [--user NAME --password PASSWORD] [ADDRESS PORT]
+ *
+ * With an IP address and a port, Alice really calls Bob there, over UDP, and what is written is what she sends and
+ * receives. With a user, she answers challenges (RFC 3261, 22). The password is visible to others on this machine.
+ *
  * It is written in C, so whoever is given a new reference releases it by hand. */
-#include <stdio.h>
 #include <string.h>
 
-#include <telsx/telsx.h>
+#include "client.h"
 
 typedef struct PARTY
 {
@@ -40,11 +44,7 @@ static const PARTY bob = {
                    "m=audio 3456 RTP/AVP 0\r\n",
 };
 
-/* A text of the library, a new reference; all texts here are valid UTF-8. */
-static RT_STRING text( const char *utf8 )
-{
-    return rtStringTryCreateFromUtf8( utf8, (int64_t)strlen( utf8 ) );
-}
+static RT_STRING text( const char *utf8 ) { return clientText( utf8 ); }
 
 /* Puts a Via on top of those in the message. */
 static void addVia( TELSX_MESSAGE *msg, const char *host, const char *branch )
@@ -56,6 +56,7 @@ static void addVia( TELSX_MESSAGE *msg, const char *host, const char *branch )
     RT_STRING transport = text( "UDP" ), hostText = text( host ), branchText = text( branch );
     TELSX_VIA via = telsxViaCreate( version, transport, hostText );
     telsxViaSetBranch( &via, branchText );
+    telsxViaSetRportEmpty( &via );
     telsxHeaderViaPrependVia( &header, via );
     telsxHeaderViaEncodeToMessage( header, msg );
     telsxViaRelease( via );
@@ -206,16 +207,6 @@ static TELSX_MESSAGE invite( void )
     return msg;
 }
 
-/* The header as it is in another message, if it is there. */
-static void takeOver( TELSX_MESSAGE *msg, TELSX_MESSAGE from, const char *name )
-{
-    TELSX_MESSAGE_HEADER header = telsxMessageHeaderCstr( from, name, -1 );
-    if ( !header )
-        return;
-    telsxMessageSetHeader( msg, header );
-    telsxMessageHeaderRelease( header );
-}
-
 /* A party's response to a request (RFC 3261, 8.2.6 and 12.1.1). */
 static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY *party )
 {
@@ -224,7 +215,7 @@ static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY 
     telsxVersionRelease( version );
     static const char *const names[] = { "Via", "Record-Route", "From", "To", "Call-Id", "Cseq" };
     for ( size_t i = 0; i < sizeof names / sizeof *names; ++i )
-        takeOver( &msg, to, names[i] );
+        clientTakeOver( &msg, to, names[i] );
 
     TELSX_HEADER_TO header = telsxHeaderToTryDecodeFromMessage( msg );
     RT_STRING tag = text( party->tag );
@@ -236,14 +227,15 @@ static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY 
     return msg;
 }
 
-/* The address at which the other party wants to be reached, a new reference. */
+/* The address at which the other party wants to be reached, a new reference, or null. */
 static RT_STRING remoteTarget( TELSX_MESSAGE response )
 {
     TELSX_HEADER_CONTACT header = telsxHeaderContactTryDecodeFromMessage( response );
-    TELSX_CONTACT contact = telsxHeaderContactTryDecodeContactAt( header, 0 );
-    RT_STRING iri = telsxContactIri( contact );
-    telsxContactRelease( contact );
-    telsxHeaderContactRelease( header );
+    bool some = header && telsxHeaderContactContactsLength( header ) > 0;
+    TELSX_CONTACT contact = some ? telsxHeaderContactTryDecodeContactAt( header, 0 ) : NULL;
+    RT_STRING iri = contact ? telsxContactIri( contact ) : NULL;
+    clientRelease( contact );
+    clientRelease( header );
     return iri;
 }
 
@@ -258,41 +250,37 @@ static void setRoute( TELSX_MESSAGE *msg, TELSX_MESSAGE response )
     for ( int64_t i = telsxHeaderRecordRouteRoutesLength( recorded ); i-- > 0; )
     {
         TELSX_ROUTE route = telsxHeaderRecordRouteTryDecodeRouteAt( recorded, i );
-        telsxHeaderRouteAppendRoute( &header, route );
-        telsxRouteRelease( route );
+        if ( route )
+            telsxHeaderRouteAppendRoute( &header, route );
+        clientRelease( route );
     }
     telsxHeaderRouteEncodeToMessage( header, msg );
     telsxHeaderRouteRelease( header );
     telsxHeaderRecordRouteRelease( recorded );
 }
 
-/* A later request from the caller in the dialog that the response created (RFC 3261, 12.2.1.1 and 13.2.2.4). */
+/* A later request from the caller in the dialog that the response created (RFC 3261, 12.2.1.1 and 13.2.2.4), or null if
+ * the response doesn't say where to send it. */
 static TELSX_MESSAGE inDialog( TELSX_MESSAGE response, const char *method, int64_t number,
                                const char *branch )
 {
     RT_STRING target = remoteTarget( response );
+    if ( !target )
+        return NULL;
     TELSX_MESSAGE msg = request( method, target, number, branch );
     rtStringRelease( target );
     setRoute( &msg, response );
-    takeOver( &msg, response, "From" );
-    takeOver( &msg, response, "To" );
-    takeOver( &msg, response, "Call-Id" );
+    clientTakeOver( &msg, response, "From" );
+    clientTakeOver( &msg, response, "To" );
+    clientTakeOver( &msg, response, "Call-Id" );
     return msg;
 }
 
-static void put( TELSX_MESSAGE msg )
+/* Both sides of a call, without a network. */
+static void showCall( void )
 {
-    RT_BUFFER bytes = telsxMessageEncode( msg );
-    fwrite( rtBufferBacking( bytes ), 1, (size_t)rtBufferLength( bytes ), stdout );
-    rtBufferRelease( bytes );
-}
-
-int main( void )
-{
-    rtModuleStart( telsxModule() );
-
     TELSX_MESSAGE msg = invite();
-    put( msg );
+    clientShow( msg );
 
     /* The proxy on the way to Bob. */
     addVia( &msg, "proxy.mühle.example", "z9hG4bK-proxy-1" );
@@ -302,14 +290,110 @@ int main( void )
     TELSX_MESSAGE ok = respond( msg, 200, &bob );
     TELSX_MESSAGE ack = inDialog( ok, "ACK", 1, "z9hG4bK-alice-2" );
     TELSX_MESSAGE bye = inDialog( ok, "BYE", 2, "z9hG4bK-alice-3" );
-    put( ok );
-    put( ack );
-    put( bye );
+    clientShow( ok );
+    clientShow( ack );
+    clientShow( bye );
 
     telsxMessageRelease( bye );
     telsxMessageRelease( ack );
     telsxMessageRelease( ok );
     telsxMessageRelease( msg );
+}
+
+/* Whether the response is a 2xx; complains if it isn't. */
+static bool succeeds( const char *method, TELSX_MESSAGE response )
+{
+    int64_t statusCode = response ? telsxMessageResponseStatusCode( response ) : 0;
+    if ( statusCode / 100 == 2 )
+        return true;
+    if ( response )
+        fprintf( stderr, "call: the answer to %s is %d\n", method, (int)statusCode );
+    else
+        fprintf( stderr, "call: nothing answers %s\n", method );
+    return false;
+}
+
+/* Alice's side of a call; false if it doesn't succeed. */
+static bool callBob( CLIENT *client )
+{
+    TELSX_MESSAGE msg = invite();
+    RT_STRING callId = clientRandomText();
+    TELSX_HEADER_CALL_ID header = telsxHeaderCallIdCreate( callId );
+    telsxHeaderCallIdEncodeToMessage( header, &msg );
+    telsxHeaderCallIdRelease( header );
+    rtStringRelease( callId );
+
+    TELSX_MESSAGE ok = clientExchange( client, &msg ), ack = NULL, bye = NULL, last = NULL;
+    bool good = succeeds( "INVITE", ok );
+    if ( good )
+    {
+        TELSX_HEADER_CSEQ cseq = telsxHeaderCseqTryDecodeFromMessage( msg );
+        int64_t number = telsxHeaderCseqCseq( cseq );
+        telsxHeaderCseqRelease( cseq );
+        ack = inDialog( ok, "ACK", number, "z9hG4bK-alice-2" );
+        bye = inDialog( ok, "BYE", number + 1, "z9hG4bK-alice-3" );
+    }
+    if ( ack )
+    {
+        /* An ACK can't be challenged, so it has the credentials of its INVITE (RFC 3261, 22.1). */
+        clientTakeOver( &ack, msg, "Authorization" );
+        clientTakeOver( &ack, msg, "Proxy-Authorization" );
+        clientSetNewBranch( &ack );
+        clientSend( client, ack );
+        last = clientExchange( client, &bye );
+        good = succeeds( "BYE", last );
+    }
+    else if ( good )
+    {
+        fputs( "call: the 200 has no good Contact\n", stderr );
+        good = false;
+    }
+    clientRelease( last );
+    clientRelease( bye );
+    clientRelease( ack );
+    clientRelease( ok );
+    telsxMessageRelease( msg );
+    return good;
+}
+
+static bool isUtf8( const char *bytes )
+{
+    RT_STRING string = text( bytes );
+    clientRelease( string );
+    return string != NULL;
+}
+
+int main( int argc, char **argv )
+{
+    rtModuleStart( telsxModule() );
+    CLIENT client = { .socket = -1 };
+    int at = 1;
+    bool good = true;
+    for ( ; good && at + 1 < argc && strncmp( argv[at], "--", 2 ) == 0; at += 2 )
+    {
+        if ( strcmp( argv[at], "--user" ) == 0 )
+            client.user = argv[at + 1];
+        else if ( strcmp( argv[at], "--password" ) == 0 )
+            client.password = argv[at + 1];
+        else
+            good = false;
+        good = good && isUtf8( argv[at + 1] );
+    }
+    if ( !good || !client.user != !client.password || ( at != argc && at + 2 != argc ) )
+    {
+        fputs( "usage: call [--user NAME --password PASSWORD] [ADDRESS PORT]\n", stderr );
+        return 2;
+    }
+    if ( at == argc )
+        showCall();
+    else if ( clientOpen( &client, argv[at], argv[at + 1] ) )
+        good = callBob( &client );
+    else
+    {
+        fprintf( stderr, "call: %s %s is no address to call\n", argv[at], argv[at + 1] );
+        good = false;
+    }
+    clientClose( &client );
     rtModuleStop( telsxModule() );
-    return fflush( stdout ) == 0 ? 0 : 1;
+    return fflush( stdout ) == 0 && good ? 0 : 1;
 }

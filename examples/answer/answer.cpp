@@ -1,10 +1,15 @@
 // Answers calls: a SIP user agent server on UDP and TCP (RFC 3261, 8.2).
 //
 //     answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]
+//            [--user NAME --password PASSWORD [--algorithm NAME] [--stale SECONDS]]
 //
 // ADDRESS, by default 127.0.0.1, is an IP address of this machine at which others can reach it; port 0 picks one. The
 // first line on standard output gives both. An INVITE rings for the time (by default 1000) and is then accepted, unless
 // its caller cancels it; a REGISTER binds addresses as a registrar does. SIGINT and SIGTERM end the program.
+//
+// With a user, INVITE and REGISTER need that name and password (digest, RFC 7616): SHA-256 and MD5 are offered, or only
+// the algorithm, since some clients give up at the first that they don't know. A nonce is stale after 300 seconds, or
+// those given. Both arguments are visible to others on this machine, so this is for trying things out.
 //
 // Limits, and what happens beyond them:
 //
@@ -19,9 +24,12 @@
 //     contacts of an address        5        503 with Retry-After
 //     bytes of an address           200      404 for an address of record, 403 for a contact
 //     seconds of a registration     3,600    it is shortened
+//     uses of nonces                10,000   the oldest nonce becomes stale
 //     bytes of a REGISTER's response by UDP: five times those of the request; 500
 #include <cerrno>
 
+#include "../digest.h"
+#include "authentication.hpp"
 #include "calls.hpp"
 #include "registrar.hpp"
 #include "responses.hpp"
@@ -100,8 +108,9 @@ int64_t refusal( const Request &request )
 class Server
 {
 public:
-    Server( Network &to, const SocketAddress &here, std::chrono::milliseconds ring )
-        : network( to ), calls( to, here, ring )
+    Server( Network &to, const SocketAddress &here, std::chrono::milliseconds ring,
+            std::optional<Authentication> asked )
+        : network( to ), calls( to, here, ring ), authentication( std::move( asked ) )
     {
     }
 
@@ -117,6 +126,10 @@ public:
             return send( *request, refuse( *request, statusCode ) );
         if ( method == "CANCEL" )
             return calls.cancel( *request );
+        // ACK and CANCEL can't be sent again with credentials, and who may begin a call may end it (RFC 3261, 22.1).
+        if ( authentication && ( method == "INVITE" || method == "REGISTER" ) )
+            if ( std::optional<Message> refused = authentication->refuse( *request ) )
+                return send( *request, *refused );
         if ( method == "INVITE" )
             return calls.invite( *request );
         if ( method == "REGISTER" )
@@ -144,6 +157,7 @@ private:
     Network &network;
     Calls calls;
     Registrar registrar;
+    std::optional<Authentication> authentication;
 };
 
 // The number that the text stands for, or -1.
@@ -162,7 +176,9 @@ int main( int argc, char **argv )
 {
     Library library;
     SocketAddress address;
-    int64_t port = 5060, ring = 1000;
+    int64_t port = 5060, ring = 1000, stale = 300;
+    const char *user = nullptr, *password = nullptr;
+    std::vector<std::string> algorithms = { "SHA-256", "MD5" };
     bool good = address.setHost( "127.0.0.1" ) && argc % 2 == 1;
     for ( int i = 1; good && i < argc; i += 2 )
     {
@@ -173,13 +189,23 @@ int main( int argc, char **argv )
             good = ( port = toNumber( argv[i + 1], 0xFFFF ) ) != -1;
         else if ( word == "--ring" )
             good = ( ring = toNumber( argv[i + 1], 60000 ) ) != -1;
+        else if ( word == "--user" )
+            good = bool( toString( user = argv[i + 1] ) );
+        else if ( word == "--password" )
+            good = bool( toString( password = argv[i + 1] ) );
+        else if ( word == "--algorithm" )
+            good = digestStrength( ( algorithms = { argv[i + 1] } ).front().c_str() ) > 0;
+        else if ( word == "--stale" )
+            good = ( stale = toNumber( argv[i + 1], 86400 ) ) != -1;
         else
             good = false;
     }
+    good = good && !user == !password;
     // The calls' Contact is this address, which must not be "any".
     if ( !good || address.host() == "0.0.0.0" || address.host() == "::" )
     {
-        std::cerr << "usage: answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]\n";
+        std::cerr << "usage: answer [--bind ADDRESS] [--port PORT] [--ring MILLISECONDS]\n"
+                     "              [--user NAME --password PASSWORD [--algorithm NAME] [--stale SECONDS]]\n";
         return 2;
     }
     address.setPort( port );
@@ -191,7 +217,10 @@ int main( int argc, char **argv )
     }
     std::cout << "answering at " << address.host() << ' ' << address.port() << std::endl;
 
-    Server server( network, address, std::chrono::milliseconds( ring ) );
+    std::optional<Authentication> authentication;
+    if ( user )
+        authentication.emplace( user, password, algorithms, std::chrono::seconds( stale ) );
+    Server server( network, address, std::chrono::milliseconds( ring ), std::move( authentication ) );
     auto receive = [&server]( Arrival arrival ) { server.receive( std::move( arrival ) ); };
     while ( network.wait( server.tick(), receive ) )
         continue;

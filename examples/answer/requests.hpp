@@ -23,6 +23,7 @@ struct Request
     uint64_t random = 0;      // the rest of that tag
     uint64_t caller = 0;      // stands for Call-Id and the tag in From
     uint64_t transaction = 0; // the same if the request arrives twice (RFC 3261, 17.2.3)
+    Owned<TELSX_HEADER_AUTHENTICATION_INFO> proof = {}; // for the 2xx to a client that has proved itself
 };
 
 // Nothing for a response, or for a request whose Via, From, To or Call-Id is bad or missing.

@@ -60,6 +60,8 @@ Message respond( const Request &request, int64_t statusCode )
     else if ( request.tag.empty() )
         telsxHeaderToSetTag( to.address(), toString( toTag( request.key, request.random ) ).get() );
     telsxHeaderToEncodeToMessage( to.get(), response.address() );
+    if ( request.proof && statusCode / 100 == 2 )
+        telsxHeaderAuthenticationInfoEncodeToMessage( request.proof.get(), response.address() );
     telsxHeaderCallIdEncodeToMessage( request.callId.get(), response.address() );
     Owned cseq( telsxMessageHeaderCstr( request.message.get(), "Cseq", -1 ) ); // which may be bad
     setLine( response, "Cseq", Owned( telsxMessageHeaderLastLine( cseq.get() ) ) );

@@ -210,6 +210,7 @@ private:
 
 // clang-format off
 #define telsx___SkipIri telsx___SkipUri
+#define telsx___SkipQuotableString telsx___SkipQuotedString
 #define TELSX_TEXT( NAME, WORD, ELEMENT ) { FieldRole::text, #WORD, #ELEMENT, telsx___Skip##ELEMENT },
 #define TELSX_OPTIONAL_TEXT( NAME, WORD, ELEMENT ) { FieldRole::option, #WORD, #ELEMENT, telsx___Skip##ELEMENT },
 #define TELSX_NUMBER( NAME, WORD, ELEMENT ) { FieldRole::number, #WORD, #ELEMENT, nullptr, telsx##ELEMENT##Ok },

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # SIPp calls the example answer: many calls by UDP and TCP, abandoned calls, OPTIONS, REGISTER. Then come bytes that are
-# not SIP, and answer still answers.
-# usage: sipp.sh ANSWER ROOT      exits with 77 where there is no sipp
+# not SIP, and answer still answers. With a password it lets SIPp, baresip and the example call in, and nobody else.
+# usage: sipp.sh ANSWER CALL ROOT      exits with 77 where there is no sipp
 set -euo pipefail
 
 command -v sipp >/dev/null || { echo "skipped: there is no sipp, which Debian's sip-tester has"; exit 77; }
 
-answer=$1 scenarios=$2/tests/sipp corpus=$2/fuzz/corpus
+answer=$1 call=$2 scenarios=$3/tests/sipp corpus=$3/fuzz/corpus
 calls=2000 rate=100
 scratch=$( mktemp -d )
 trap '[ -z "${pid-}" ] || kill "$pid"; rm -rf "$scratch"' EXIT
@@ -14,11 +14,11 @@ cd "$scratch"
 
 fail() { echo "$1"; tail -n 20 ./*.err | cut -c 1-1000; exit 1; }
 
-# start MILLISECONDS: an answer that lets calls ring for so long, at $port.
+# start MILLISECONDS ARGUMENT...: an answer with these arguments that lets calls ring for so long, at $port.
 start()
 {
     : >out
-    "$answer" --port 0 --ring "$1" >out 2>answer.err &
+    "$answer" --port 0 --ring "$@" >out 2>answer.err &
     pid=$!
     for (( i = 0; i < 200; i++ )); do
         read -r _ _ _ port <out && return || sleep 0.1
@@ -117,6 +117,79 @@ broken_messages()
     exec 3>&-
 }
 
+# nonce: that of a new challenge. claim NONCE COUNT PASSWORD: a header that answers it.
+nonce() { ask 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' | sed -n 's/.*nonce="\([^"]*\)".*SHA-256.*/\1/p'; }
+hash() { printf '%s' "$1" | sha256sum | cut -d ' ' -f 1; }
+claim()
+{
+    echo "Authorization: Digest username=\"alice\", realm=\"answer\", nonce=\"$1\", uri=\"sip:b\", algorithm=SHA-256, qop=auth," \
+        "nc=$2, cnonce=\"c\", response=\"$( hash "$( hash "alice:answer:$3" ):$1:$2:c:auth:$( hash REGISTER:sip:b )" )\""
+}
+# is STATUS NONCE COUNT PASSWORD: what the registrar says to that; "stale" after the status says that there is a new nonce.
+is()
+{
+    local got
+    got=$( ask 'REGISTER sip:b SIP/2.0' 'CSeq: 1 REGISTER' "$( claim "${@:2}" )" |
+        sed -n 's/^SIP.2.0 \([0-9]*\).*/\1/p; s/.*, stale=true, .*MD5.*/stale/p' | paste -sd ' ' )
+    [ "$got" = "$1" ] || fail "to the count $3 and the password $4 the registrar says '$got', not $1"
+}
+
+# registers PASSWORD: whether baresip registers with it within three seconds.
+registers()
+{
+    local modules
+    modules=$( find /usr/lib /usr/local/lib -type d -path '*baresip/modules' | head -n 1 )
+    mkdir "baresip-$1"
+    printf '%s\n' 'sip_listen 127.0.0.1:0' "module_path $modules" 'module account.so' 'module_app menu.so' >"baresip-$1/config"
+    echo "<sip:alice@127.0.0.1:$port>;auth_user=alice;auth_pass=$1" >"baresip-$1/accounts"
+    touch "baresip-$1/contacts"
+    timeout 30 baresip -f "baresip-$1" -t 3 >"baresip-$1.err" 2>&1 || true
+    grep -q '200 OK' "baresip-$1.err"
+}
+
+passwords()
+{
+    local first wrong right
+    start 100 --user alice --password secret
+    [ "$( ask 'INVITE sip:b SIP/2.0' 'CSeq: 1 INVITE' | sed -n 's/^Www-Auth.*algorithm=\([^,]*\).*/\1/p' | paste -sd ' ' )" = 'SHA-256 MD5' ] ||
+        fail "the challenges differ"
+    first=$( nonce )
+    is 200 "$first" 00000001 secret
+    exec 3<>"/dev/udp/127.0.0.1/$port"
+    cat request >&3
+    grep -q '^SIP/2.0 200' < <( timeout 5 dd bs=65536 count=1 status=none <&3 ) || fail "a copy of a request is refused"
+    is '401 stale' "$first" 00000001 secret
+    is 200 "$first" 00000003 secret
+    is 200 "$first" 00000002 secret
+    is 401 "$first" 00000004 wrong
+    is '401 stale' "${first/-/-1}" 00000004 secret
+    expect '481 Call leg/transaction does not exist' 'BYE sip:b SIP/2.0' 'CSeq: 1 BYE'
+    "$call" --user alice --password secret 127.0.0.1 "$port" >call.out 2>call.err || fail "call does not get through"
+    ! "$call" --user alice --password wrong 127.0.0.1 "$port" >call.out 2>&1 || fail "call gets through with a wrong password"
+    [ "$( grep -ac '^Authorization' call.out )" = 1 ] || fail "call does not try once"
+    stop
+
+    start 100 --user alice --password secret --stale 0
+    is '401 stale' "$( nonce )" 00000001 secret
+    stop
+
+    # Neither of these goes past a challenge for SHA-256 to the one for MD5.
+    start 100 --user alice --password secret --algorithm MD5
+    for transport in u1 t1; do
+        use "password-$transport" "$transport" -sf "$scenarios/password.xml" -m 20 -r 20 -au alice -ap secret || fail "a password"
+    done
+    ! use wrong u1 -sf "$scenarios/password.xml" -m 1 -au alice -ap wrong >/dev/null || fail "a wrong password gets through"
+    if command -v baresip >/dev/null; then
+        registers wrong & wrong=$!
+        registers secret & right=$!
+        ! wait $wrong || fail "baresip registers with a wrong password"
+        wait $right || fail "baresip does not register"
+    else
+        echo "not checked: that baresip registers with a password, for there is no baresip"
+    fi
+    stop
+}
+
 start 100
 many_calls || { echo "once more"; many_calls; } || fail "calls fail, or their responses are bad"
 
@@ -210,3 +283,5 @@ for transport in u1 t1; do
     use "cancel-$transport" "$transport" -sf "$scenarios/cancel.xml" -m 20 -r 20 || fail "CANCEL"
 done
 stop
+
+passwords

@@ -302,6 +302,8 @@ TEST( Fields, MustBeGoodInNewObjects )
     EXPECT_BAD( "telsxHistoryInfoIndexOk( index )", HistoryInfoCreate, iri.get(), bad.get() );
     EXPECT_BAD( "telsxReasonProtocolOk( reasonProtocol )", ReasonCreate, bad.get() );
     EXPECT_BAD( "telsxContentCodingOk( contentCoding )", AcceptEncodingCreateWithContentCoding, bad.get() );
+    EXPECT_BAD( "telsxTokenOk( scheme )", ChallengeCreate, bad.get() );
+    EXPECT_BAD( "telsxTokenOk( scheme )", CredentialsCreate, bad.get() );
     EXPECT_BAD( "telsxWarnCodeOk( warnCode )", WarningValueCreate, -1, bad.get() );
     EXPECT_BAD( "telsxWarnAgentOk( warnAgent )", WarningValueCreate, 0, bad.get() );
     EXPECT_BAD( "telsxWarnTextOk( warnText )", WarningValueCreateWithWarnText, 0, good.get(), bad.get() );
@@ -330,6 +332,17 @@ TEST( Fields, EarlyOnlyOfReplaces )
         EXPECT_EQ( earlyOnly != 0, telsxHeaderReplacesEarlyOnly( replaces.get() ) );
         EXPECT_EQ( earlyOnly ? "a;early-only" : "a", utf8( telsxHeaderReplacesToString( replaces.get() ) ) );
     }
+}
+
+TEST( Fields, StaleAndParametersOfChallenges )
+{
+    Ref<TELSX_CHALLENGE> challenge = adopt( telsxChallengeCreate( str( "A" ).get() ) );
+    telsxChallengeSetStale( challenge.address(), 2 );
+    telsxChallengeSetGenericParams( challenge.address(), params( ";stale=x;a;b=[::1]" ).get() );
+    EXPECT_EQ( 1, telsxChallengeStale( challenge.get() ) );
+    EXPECT_EQ( "A stale=true, a=\"\", b=\"[::1]\"", utf8( telsx___ChallengeEncode( challenge.get() ) ) );
+    telsxChallengeSetToken68( challenge.address(), str( "b=" ).get() );
+    EXPECT_EQ( "A b=", utf8( telsx___ChallengeEncode( challenge.get() ) ) );
 }
 
 TEST( Fields, OfPriorityHaveNamedValues )

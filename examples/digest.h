@@ -1,0 +1,48 @@
+/* Digest authentication as the examples use it (RFC 7616, 3.4; RFC 8760): MD5, SHA-256 and SHA-512-256, each also as a
+ * session. Hashes come from Nettle. All texts are UTF-8 and end in zero. */
+#ifndef EXAMPLES_DIGEST_H
+#define EXAMPLES_DIGEST_H
+
+#include <stdbool.h>
+#include <stddef.h>
+
+#ifdef __cplusplus
+extern "C"
+{
+#endif
+
+    /* The longest hash in hex digits, and a zero. */
+    enum
+    {
+        digestSize = 65
+    };
+
+    /* What a response is made of. */
+    typedef struct DIGEST
+    {
+        const char *algorithm; /* null stands for MD5 */
+        const char *username, *realm, *password;
+        const char *method; /* empty for the server's rspauth */
+        const char *uri, *nonce;
+        const char *
+            qop; /* null without quality of protection; then the next two are not used except for a session */
+        const char *nonceCount, *cnonce;
+    } DIGEST;
+
+    /* 0 for an unknown algorithm; the number of a stronger one is greater. */
+    int digestStrength( const char *algorithm );
+
+    /* The response in lower-case hex digits. The algorithm must be known. */
+    void digestResponse( const DIGEST *digest, char hex[digestSize] );
+
+    /* Hex digits that only who knows the key can make of the bytes (HMAC-SHA-256). */
+    void digestSeal( const char *key, const void *bytes, size_t length, char hex[digestSize] );
+
+    /* Whether the texts are the same, in a time that does not tell how much of them is. */
+    bool digestEquals( const char *a, const char *b );
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
