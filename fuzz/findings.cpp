@@ -82,7 +82,7 @@ void test( std::string_view input )
             ++warnings[asciiOf( telsxFindingHeaderName( finding.get() ) )];
     }
     require( errors == !message, "there is an error if and only if there is no message" );
-    require( message || rtVectorLength( findings.get() ) == 1, "beside an error there is nothing else" );
+    require( message || rtVectorLength( findings.get() ) == 1, "an error is the only finding" );
     require( !message || warnings == unreadable( message ),
              "a warning tells each header that is unreadable" );
 

@@ -1,6 +1,7 @@
 // Captures, as far as libpcap reads them.
 #include "input.hpp"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -82,8 +83,9 @@ int64_t readCapture( const char *name, std::FILE *file, const Options &options, 
         while ( ( result = pcap_next_ex( capture, &header, &bytes ) ) == 1 )
         {
             ++place.packet;
-            place.seconds = header->ts.tv_sec;
-            place.microseconds = header->ts.tv_usec;
+            // A capture can hold any number; the last second is that of the year 9999.
+            place.seconds = std::clamp<int64_t>( header->ts.tv_sec, 0, 253402300799 );
+            place.microseconds = std::clamp<int64_t>( header->ts.tv_usec, 0, 999999 );
             reassembly.add( link, { reinterpret_cast<const char *>( bytes ), header->caplen }, place );
             tick( file );
         }

@@ -46,7 +46,7 @@ private:
     };
     using Held = std::map<Key, Datagram>;
 
-    // How much a piece takes beside its bytes, and a datagram beside its pieces; a good deal more than they do.
+    // An upper bound of the memory that a piece takes besides its bytes, and a datagram besides its pieces.
     static constexpr std::size_t overhead = 256;
 
     void put( Datagram &datagram, const Packet &packet );

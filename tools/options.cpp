@@ -17,14 +17,14 @@ namespace
 const char usage[] = R"(Usage: telsx check [OPTION]... FILE...
        telsx decode [OPTION]... FILE...
 
-Reads SIP messages in files: one message or several, one after the other, or a
+Reads SIP messages in files: one message or several, one after another, or a
 capture (pcap or pcapng). "-" is standard input.
 
 check shows what is wrong with each message, and where; decode shows what each
 message says.
 
   --json           print one JSON object on each line
-  --port PORT      in captures, take all bytes from and to this port for SIP;
+  --port PORT      in captures, treat all bytes from and to this port as SIP;
                    may be given more than once (default: 5060). On other ports
                    only what begins with a start line is.
   --silence CODE   check: leave out findings with this code, such as via-host;

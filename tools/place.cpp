@@ -23,7 +23,7 @@ std::string timeOf( const Place &place )
     gmtime_r( &seconds, &utc );
     char date[64] = "", fraction[16] = "";
     std::strftime( date, sizeof date, "%Y-%m-%dT%H:%M:%S", &utc );
-    std::snprintf( fraction, sizeof fraction, ".%06dZ", static_cast<int>( place.microseconds % 1000000 ) );
+    std::snprintf( fraction, sizeof fraction, ".%06dZ", static_cast<int>( place.microseconds ) );
     return std::string( date ) + fraction;
 }
 

@@ -70,7 +70,7 @@ void Streams::put( Held::iterator at, uint64_t number, const Packet &packet, std
         }
         if ( isNew )
             stream.waitingBytes += overhead;
-        if ( stream.waitingBytes > maxWaiting )
+        while ( stream.waitingBytes > maxWaiting )
             skipHole( at );
         return;
     }

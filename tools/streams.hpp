@@ -62,7 +62,7 @@ private:
     };
     using Held = std::map<Key, Stream>;
 
-    // How much a stream and a segment take beside their bytes; a good deal more than they do.
+    // An upper bound of the memory that a stream and a segment take besides their bytes.
     static constexpr std::size_t overhead = 512;
 
     Held::iterator open( const Key &key, uint32_t number, bool fromStart );

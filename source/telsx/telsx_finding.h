@@ -1,10 +1,10 @@
 /* Finding: what is wrong with the bytes of a message, and where.
  *
- * The decoders give null for bad text and say no more. Whoever wants to know why asks here: the bytes are read
- * once more, slowly and with an eye on the place.
+ * The decoders give null for bad text, without further details. To learn why, ask here: the bytes are read once
+ * more, and the place of each fault is kept.
  *
- * Findings sort by offset, then by the fields in the order below. The text of one is the line that a compiler
- * would print after the name of the file:
+ * Findings sort by offset, then by severity, header name, code, text and reference. The text of a finding is what
+ * a compiler would print after the name of the file:
  *
  *     2:18: warning: Via: expected a host, found ";branch=z9hG4bK776asdhds" [via-host] */
 #ifndef TELSX_TELSX_FINDING_H
@@ -16,8 +16,8 @@ RT_BEGIN
 
 TELSX_OBJECT( Finding, FINDING )
 
-/* How much a finding matters. An error: the bytes are no message. A warning: a header or one value of its list
- * cannot be read. A remark: all can be read, and breaks a rule of an RFC. */
+/* How much a finding matters. An error: the bytes are not a message. A warning: a header, or one value of its
+ * list, cannot be read. A remark: what can be read breaks a rule of an RFC. */
 #define TELSX_FINDING_SEVERITY_ERROR 0
 #define TELSX_FINDING_SEVERITY_WARNING 1
 #define TELSX_FINDING_SEVERITY_REMARK 2
@@ -26,8 +26,8 @@ TELSX_OBJECT( Finding, FINDING )
 RT_API int64_t telsxFindingSeverity( TELSX_FINDING finding );
 
 /* The place: bytes from the start of the buffer, at most its length; the line, and the column in characters,
- * both from 1. Lines end with a line feed. A byte that is part of no character counts as one character. What is
- * missing from the whole message is found at its first byte. */
+ * both from 1. Lines end with a line feed. A byte that is not part of a character counts as one. What is
+ * missing from the message as a whole is found at its first byte. */
 RT_API int64_t telsxFindingOffset( TELSX_FINDING finding );
 RT_API int64_t telsxFindingLine( TELSX_FINDING finding );
 RT_API int64_t telsxFindingColumn( TELSX_FINDING finding );
@@ -37,11 +37,11 @@ RT_API int64_t telsxFindingColumn( TELSX_FINDING finding );
 RT_API RT_STRING telsxFindingHeaderName( TELSX_FINDING finding );
 RT_API RT_BOOL telsxFindingHasHeaderName( TELSX_FINDING finding );
 
-/* The code by which users know and silence findings of one kind, such as "via-host": lower-case words with
+/* The code by which users recognise and silence findings of one kind, such as "via-host": lower-case words with
  * hyphens between them. A code never changes its meaning. docs/findings.md lists all of them. */
 RT_API RT_STRING telsxFindingCode( TELSX_FINDING finding );
 
-/* One plain English sentence without a full stop, which may quote the message. It is shown safely: control
+/* One plain English sentence without a full stop, which may quote the message. It is safe to show: control
  * characters are written as \xNN. */
 RT_API RT_STRING telsxFindingText( TELSX_FINDING finding );
 

@@ -10,7 +10,7 @@
 namespace telsx
 {
 
-// A field of a type, as the tables of types have it.
+// A field of a type, as in the tables of types.
 enum class FieldRole
 {
     text,
@@ -28,8 +28,8 @@ struct Field
 };
 using Fields = std::span<const Field>;
 
-// Takes pieces from the start of a value; each function tells whether what it wants is there. The first that is not
-// stays as the obstacle.
+// Takes pieces from the start of a value. Each function returns whether its piece is there; the first that is not becomes
+// the obstacle.
 class GrammarReader
 {
 public:
@@ -43,7 +43,7 @@ public:
     {
         if ( takes( field.skip ) )
             return true;
-        // Cseq with another method than the request has the code cseq-method.
+        // The code cseq-method is that of a method that differs from the request's.
         if ( field.element == "Method" )
             return isMissing( grammarPiece( "method-token" ) );
         isMissing( nullptr );
@@ -54,7 +54,7 @@ public:
     bool slash() { return need( telsx___SkipSlash, grammarPiece( "slash" ) ); }
     bool token() { return need( telsx___SkipToken, grammarPiece( "token" ) ); }
 
-    // A number that is Ok. All between the least and the most of them are.
+    // A number that is Ok. The numbers that are form one range.
     bool number( RT_BOOL ( *isOk )( int64_t ) )
     {
         Text before = rest;
@@ -118,7 +118,7 @@ public:
 
     bool isAtParams() const { return isAtEnd() || telsx___SkipSemi( rest.chs, rest.length ); }
 
-    // What is wrong here, and what with a value whose pieces are all there.
+    // What is wrong here, and what is wrong with a value whose pieces are all there.
     bool lacks( const GrammarPiece *piece ) { return isMissing( piece ); }
     bool lacks( const Field &param )
     {
@@ -155,7 +155,7 @@ private:
         return takes( telsx___SkipLaquot ) && uriInBrackets();
     }
 
-    // As the decoders do, takes what there is of a value of its own kind.
+    // As the decoders do, takes as much as there is of a value of its own kind.
     bool takesTyped( Fields typed )
     {
         for ( const Field &field : typed )

@@ -1,5 +1,4 @@
-// The head of a message as it stands in the bytes, for whoever wants to know where something is. The decoders cut it
-// in the same way, without keeping the places.
+// The head of a message, split as the decoders split it, but with the places in the bytes kept.
 #pragma once
 
 #include "rt/rt_memory.hpp"
@@ -8,7 +7,7 @@
 namespace telsx
 {
 
-// Items without a destructor, owned.
+// Owns items that have no destructor.
 template <class T>
 class List
 {
@@ -39,14 +38,14 @@ private:
     rt::Array<T> array;
 };
 
-// Takes the character at the start away: a byte that begins none is U+FFFD.
+// Removes the first character and returns it; a byte that begins none is U+FFFD.
 RT_CHAR takeChar( Bytes &bytes );
 
-// A text as the decoders see it, with the place of each of its characters in the bytes, and that of its end.
+// A text as the decoders see it, with the place in the bytes of each of its characters and of its end.
 class PlacedText
 {
 public:
-    // A piece of it, after a blank if something stands before it.
+    // Appends a piece, after a blank unless it is the first.
     void append( Bytes piece, int64_t place );
 
     Text text() const { return { chs.begin(), chs.length() }; }
@@ -62,14 +61,14 @@ private:
     int64_t end = 0;
 };
 
-// A line with its folds, without the line end behind it.
+// A line with its folds, without the line end after it.
 struct HeadLine
 {
     int64_t begin, end;
     int64_t number; // of the header's name among the known ones, or -1
 };
 
-// The head without the blank line behind it, its first line and its header lines; and what follows.
+// The head without the blank line after it, its first line and its header lines; and the body.
 class Head
 {
 public:
@@ -77,7 +76,7 @@ public:
 
     Bytes all, bytes, body;
     HeadLine first;
-    List<HeadLine> lines; // behind the first
+    List<HeadLine> lines; // after the first
     bool isAscii;
 
     Bytes bytesOf( const HeadLine &line ) const;
@@ -87,7 +86,7 @@ public:
     PlacedText textOf( const HeadLine &line ) const;
 };
 
-// The part behind the first colon, without the white space before it. The text has a colon.
+// The part after the first colon, without leading white space. The text has a colon.
 Text valueOf( const PlacedText &line );
 
 } // namespace telsx

@@ -38,7 +38,7 @@ struct HeaderKind
     Separator ( *separator )() = [] { return comma; };
 };
 
-// Something to be said of an item of a list, or, without a rule, that it cannot be read.
+// A rule that an item of a list breaks; without a rule, the item cannot be read.
 struct ItemFault
 {
     int64_t item;
@@ -52,8 +52,8 @@ bool isWord( RT_STRING string, std::string_view word )
                        []( RT_CHAR a, char b ) { return a == static_cast<unsigned char>( b ); } );
 }
 
-// Whether the IRI has that parameter, and, if a value is asked for, a value behind it. What stands before an "@" and
-// behind a question mark is no parameter.
+// Whether the IRI has that parameter, and, if a value is asked for, a value of it. What is before an "@" or after a
+// question mark is not a parameter.
 template <rt::Ascii NAME>
 bool hasIriParam( Text iri, bool hasValue = false )
 {
@@ -297,7 +297,7 @@ void HeaderCheck::addMissing( std::string_view name, std::string_view reference 
         findings.add( *findingRule( "-missing" ), 0, nameOf( missing ), reference );
 }
 
-// "OptionTag" with that character between its words, in small letters.
+// "OptionTag" in lower case, with that character between its words.
 Ref<RT_STRING> spelledOut( std::string_view element, char between )
 {
     Ref<RT_STRING> words = adopt( rtStringCreate() );
@@ -326,7 +326,7 @@ void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
         words = stringOf( obstacle.piece->words );
         if ( !obstacle.element.empty() )
             append( words, ", ", spelledOut( obstacle.element, '-' ) );
-        // Nobody wants to know the largest number of all but who wrote a larger one.
+        // The largest number of all matters only where a larger one was written.
         bool isTold = obstacle.most != INT64_MAX || telsx___SkipDigits( found.chs, found.length );
         if ( obstacle.most != -1 && isTold )
             append( words, " from ", Decimal( obstacle.least ), " to ", Decimal( obstacle.most ) );
@@ -335,7 +335,7 @@ void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
                             line.placeOf( found ), found );
 }
 
-// The text of an item or of what is in the place of one, which ends where a separator follows or should.
+// What is wrong at an item of a list, or at what is in the place of one; its length is 0 if it is none.
 Obstacle HeaderCheck::obstacleOf( Text item, int64_t itemLength ) const
 {
     Obstacle separator = { itemLength, grammarPiece( "separator" ) };
@@ -347,7 +347,8 @@ Obstacle HeaderCheck::obstacleOf( Text item, int64_t itemLength ) const
                : obstacle;
 }
 
-// Warns of the first item of the line that is none, or is not followed by a separator and another.
+// Warns of the first item of the line that is bad, or is not followed by a separator and another item; false if there is
+// none.
 bool HeaderCheck::reportItem( const HeadLine &line, bool mayContinue )
 {
     PlacedText text = head().textOf( line );
@@ -370,8 +371,8 @@ bool HeaderCheck::reportItem( const HeadLine &line, bool mayContinue )
     return false;
 }
 
-// The header cannot be read: the last line of a single value; of a list the first item that is none, or, if all are
-// some, the first that has another after it, since some lists have one value a line.
+// The header cannot be read: the last line of a single value; in a list the first bad item or, if all are good, the
+// first with another item after it, since some lists have one value per line.
 void HeaderCheck::reportUnreadable()
 {
     if ( !kind->skipItem )
@@ -388,7 +389,7 @@ void HeaderCheck::reportUnreadable()
     warn( text, valueOf( text ), {} );
 }
 
-// Tells the faults of the values, which are in their order, by going through the items once.
+// Reports the faults of the values, which are sorted, in one pass over the items.
 void HeaderCheck::reportItems()
 {
     int64_t at = 0, item = 0;
@@ -535,7 +536,7 @@ void HeaderCheck::checkStartLine()
         findings.add( *findingRule( "request-uri-headers" ), int64_t( mark ) );
 }
 
-// Line ends that are none, and long lines.
+// The first CR and the first LF that do not end a line, and all long lines.
 void HeaderCheck::checkLines()
 {
     static constexpr std::size_t longest = 8192;
@@ -543,11 +544,16 @@ void HeaderCheck::checkLines()
     Bytes headBytes = bytes.substr( 0, headSize );
     for ( std::size_t at = 0; ( at = headBytes.find( '\r', at ) ) != Bytes::npos; ++at )
         if ( at + 1 == bytes.size() || bytes[at + 1] != '\n' )
+        {
             findings.add( *findingRule( "lone-cr" ), int64_t( at ) );
+            break;
+        }
+    bool hasLoneLf = false;
     for ( std::size_t begin = 0; begin < headSize; )
     {
         std::size_t end = std::min( headBytes.find( '\n', begin ), headSize );
-        if ( end < headSize && ( end == 0 || headBytes[end - 1] != '\r' ) )
+        bool isLone = end < headSize && ( end == 0 || headBytes[end - 1] != '\r' );
+        if ( isLone && !std::exchange( hasLoneLf, true ) )
             findings.add( *findingRule( "lone-lf" ), int64_t( end ) );
         if ( end - begin > longest )
             findings.add( *findingRule( "line-length" ), int64_t( begin ) );
@@ -572,7 +578,7 @@ bool isFor( const HeaderPlacement &placement, int64_t status )
     return status >= placement.leastStatus && status <= placement.mostStatus;
 }
 
-// The method stands in none of the columns: what all of them say is meant for all methods.
+// For a method without a column, what all columns say holds.
 bool isNeeded( const HeaderPlacement &placement, std::size_t methodPlace )
 {
     return methodPlace < placement.methods.size() ? placement.methods[methodPlace] == 'm'

@@ -41,14 +41,14 @@ void FindingList::add( const FindingRule &rule, int64_t place, RT_STRING headerN
             reference.empty() ? rule.reference : reference );
 }
 
-// Control characters, and those that turn the direction of what follows on a screen.
+// Control characters, and those that change the direction of the text after them.
 static bool isUnsafe( RT_CHAR ch )
 {
     return ch < ' ' || ( ch >= 0x7F && ch < 0xA0 ) || ( ch >= 0x200E && ch <= 0x200F )
            || ( ch >= 0x2028 && ch <= 0x202E ) || ( ch >= 0x2066 && ch <= 0x2069 ) || ch == 0xFEFF;
 }
 
-// What stands at the start of a text, up to a blank and not too much of it.
+// The start of a text, up to a blank and not too much of it.
 static void appendFound( Ref<RT_STRING> &words, Text found )
 {
     static constexpr int64_t most = 24;

@@ -1,4 +1,4 @@
-// Findings as they are made: in any order, told by the places that they are found at.
+// Findings as they are made, in any order.
 #pragma once
 
 #include "telsx/telsx_finding.hpp"
@@ -23,10 +23,10 @@ public:
     void add( const FindingRule &rule, int64_t place, RT_STRING headerName = nullptr,
               std::string_view reference = {} );
 
-    // The same of a rule that says what was expected, and what stands there.
+    // The same for a rule that says what was expected; what is there is appended.
     void addExpected( const FindingRule &rule, int64_t place, Text found, RT_STRING headerName = nullptr );
 
-    // A header that cannot be read: what was expected at that place, and what stands there.
+    // A header that cannot be read: what was expected at that place, and what is there.
     void addUnreadable( RT_STRING headerName, const Ref<RT_STRING> &pieceCode, const Ref<RT_STRING> &words,
                         std::string_view reference, int64_t place, Text found );
 

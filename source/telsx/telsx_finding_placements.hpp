@@ -6,8 +6,8 @@
 namespace telsx
 {
 
-// A line of the table in RFC 3261, 20: the header may stand in responses with these status codes, and in requests if
-// they begin with 0; for the six methods "m" says that it must, "-" that it may not, anything else that it may.
+// A line of the table in RFC 3261, 20: the header may be in responses with these status codes, and in requests if they
+// begin with 0. For the six methods, "m" says that it must be there, "-" that it must not, anything else that it may.
 struct HeaderPlacement
 {
     std::string_view name;
@@ -103,7 +103,7 @@ inline constexpr NeededHeader neededHeaders[] = {
     { "SUBSCRIBE", "Contact", "RFC 6665, 4.1.2" }, { "SUBSCRIBE", "Event", "RFC 6665, 4.1.2" },
 };
 
-// Headers that may stand there more than once although their values make no list.
+// Headers that may be there more than once although their values are not a list.
 inline constexpr std::string_view repeatableHeaders[] = { "Authorization", "Proxy-Authenticate",
                                                           "Proxy-Authorization", "Remote-Party-Id",
                                                           "Www-Authenticate" };

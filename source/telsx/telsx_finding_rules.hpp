@@ -10,8 +10,7 @@
 namespace telsx
 {
 
-// A rule that a message breaks. Where the code begins with a hyphen, the name of a header belongs before it, and
-// before the words too.
+// A rule that a message breaks. If the code begins with a hyphen, the name of a header precedes both it and the words.
 struct FindingRule
 {
     int64_t severity;
@@ -92,8 +91,8 @@ consteval const FindingRule *findingRule( std::string_view code )
     std::abort();
 }
 
-// What the grammar of a header wants at a place. The code goes behind the name of the header, such as in via-host;
-// the words tell what was expected.
+// What the grammar of a header requires at a place. The code follows the name of the header, as in via-host; the words
+// say what was expected.
 struct GrammarPiece
 {
     std::string_view code, words;
@@ -122,7 +121,7 @@ inline constexpr GrammarPiece grammarPieces[] = {
     { "quote", "a closing quotation mark" },
     { "separator", "a separator or the end of the line" },
     { "slash", "a slash" },
-    { "star-alone", "nothing beside the star" },
+    { "star-alone", "nothing after the star" },
     { "text", "text without control characters" },
     { "token", "a token" },
     { "transport", "a transport" },

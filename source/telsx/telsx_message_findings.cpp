@@ -1,4 +1,4 @@
-// What is wrong with the bytes of a message, and what of it can be read in spite of that.
+// What is wrong with the bytes of a message, and what of it can be read nevertheless.
 #include <algorithm>
 
 #include "telsx/telsx.h"
@@ -37,14 +37,14 @@ static Fault findFaultOfStatusLine( Text rest )
     return isGood ? Fault() : Fault{ findingRule( "status-code" ), status };
 }
 
-// Behind the method.
+// The part after the method.
 static Fault findFaultOfRequestLine( Text rest )
 {
     rest.take( std::min<int64_t>( rest.length, 1 ) );
-    Text uri = takeWord( rest ), behindUri = uri;
-    behindUri.take( telsx___SkipUri );
-    if ( !uri || behindUri )
-        return { findingRule( "request-uri" ), uri ? behindUri : rest };
+    Text uri = takeWord( rest ), afterUri = uri;
+    afterUri.take( telsx___SkipUri );
+    if ( !uri || afterUri )
+        return { findingRule( "request-uri" ), uri ? afterUri : rest };
     rest.take( std::min<int64_t>( rest.length, 1 ) );
     if ( isVersion( rest ) )
         return {};
@@ -54,16 +54,16 @@ static Fault findFaultOfRequestLine( Text rest )
 
 static Fault findFaultOfStartLine( Text line )
 {
-    Text rest = line, behindMethod = line;
+    Text rest = line, afterMethod = line;
     Text first = takeWord( rest );
     if ( covers( telsx___SkipMethod, first ) )
         return findFaultOfRequestLine( rest );
     if ( isVersion( first ) )
         return findFaultOfStatusLine( rest );
-    Text method = behindMethod.take( telsx___SkipMethod );
+    Text method = afterMethod.take( telsx___SkipMethod );
     // A header line, or a version.
-    bool isOther = behindMethod && ( behindMethod.chs[0] == ':' || behindMethod.chs[0] == '/' );
-    return method && !isOther ? Fault{ findingRule( "method" ), behindMethod }
+    bool isOther = afterMethod && ( afterMethod.chs[0] == ':' || afterMethod.chs[0] == '/' );
+    return method && !isOther ? Fault{ findingRule( "method" ), afterMethod }
                               : Fault{ findingRule( "start-line" ), line };
 }
 
@@ -78,7 +78,7 @@ static Fault findFaultOfHeaderLine( Text line )
     return { name && !hasColon ? findingRule( "header-colon" ) : findingRule( "header-name" ), rest };
 }
 
-// Where the first byte stands that is part of no character.
+// The place of the first byte that is not part of a character.
 static int64_t findBadByte( Bytes bytes )
 {
     for ( Bytes rest = bytes; !rest.empty(); )
@@ -90,17 +90,17 @@ static int64_t findBadByte( Bytes bytes )
     return INT64_MAX;
 }
 
-// What is wrong with the value of Content-Length: it is no number, or else a larger one than the body has bytes.
+// What is wrong with the value of Content-Length: it is not a number, or else it is more than the bytes of the body.
 static Fault findFaultOfContentLength( Text value )
 {
     if ( tryDecodeNumber( value ) >= 0 )
         return { findingRule( "content-length-body" ), value };
-    Text behindDigits = value;
-    behindDigits.take( telsx___SkipDigits );
-    return { findingRule( "content-length-number" ), behindDigits ? behindDigits : value };
+    Text afterDigits = value;
+    afterDigits.take( telsx___SkipDigits );
+    return { findingRule( "content-length-number" ), afterDigits ? afterDigits : value };
 }
 
-// The first cause in the order of places, but for Content-Length, which the decoder looks at last.
+// The first cause in the order of places, except that Content-Length comes last, as in the decoder.
 static void findError( const Head &head, FindingList &findings )
 {
     int64_t badByte = head.isAscii ? INT64_MAX : findBadByte( head.bytes );
@@ -174,7 +174,7 @@ static constexpr LooseKind looseKinds[] = {
 };
 #undef TELSX_KIND
 
-// The start line and the header lines that are some.
+// The start line, and the lines that are header lines.
 static Ref<RT_BUFFER> goodLines( const Head &head )
 {
     Ref<RT_BUFFER> lines = bufferOf( head.bytesOf( head.first ) );

@@ -10,7 +10,7 @@ cd "$scratch"
 
 fail() { echo "$1"; cat -v out err; exit 1; }
 
-# expect STATUS ARGUMENT...: runs telsx and keeps what it prints in out and err. Nothing steers the terminal.
+# expect STATUS ARGUMENT...: runs telsx and keeps what it prints in out and err. Nothing controls the terminal.
 expect()
 {
     local status=0
@@ -64,7 +64,7 @@ END
 expect 0 check --silence via-host --silence cseq-method two
 prints </dev/null
 
-# Captures: one message in all ways that it can come, with what is none of SIP beside it. Fragments and segments come in any
+# Captures: one message in all ways that it can come, with other traffic in between. Fragments and segments come in any
 # order, some of them twice and overlapping.
 printf '%s\r\n' 'SIP/2.0 200 OK' 'v: SIP/2.0/UDP a;branch=z9hG4bK1' 'f: <sip:a>;tag=1' 't: <sip:b>;tag=2' 'i: 1' 'CSeq: 1 BYE' \
     'c: text/plain' 'l: 3' '' >message

@@ -50,7 +50,7 @@ constexpr std::string_view response = "SIP/2.0 200 OK\r\n"
                                       "\r\n";
 
 // The message with another line in the place of that of its first word; "-To" takes one out. A line of a name that the
-// message has not goes behind the start line.
+// message has not goes after the start line.
 std::string changed( std::string message, const std::string &line )
 {
     bool isGone = line[0] == '-';
