@@ -91,8 +91,4 @@ void digestSeal( const char *key, const void *bytes, size_t length, char hex[dig
     toHex( seal, sizeof seal, hex );
 }
 
-bool digestEquals( const char *a, const char *b )
-{
-    size_t length = strlen( a );
-    return strlen( b ) == length && memeql_sec( a, b, length );
-}
+bool digestEquals( const void *a, const void *b, size_t length ) { return memeql_sec( a, b, length ); }

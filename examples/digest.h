@@ -6,43 +6,39 @@
 #include <stdbool.h>
 #include <stddef.h>
 
-#ifdef __cplusplus
-extern "C"
+#include <rt/rt.h>
+
+RT_BEGIN
+
+/* The longest hash in hex digits, and a zero. */
+enum
 {
-#endif
+    digestSize = 65
+};
 
-    /* The longest hash in hex digits, and a zero. */
-    enum
-    {
-        digestSize = 65
-    };
+/* What a response is made of. */
+typedef struct DIGEST
+{
+    const char *algorithm; /* null stands for MD5 */
+    const char *username, *realm, *password;
+    const char *method; /* empty for the server's rspauth */
+    const char *uri, *nonce;
+    const char *qop; /* null without one; then the count is not used, and the next only for a session */
+    const char *nonceCount, *cnonce;
+} DIGEST;
 
-    /* What a response is made of. */
-    typedef struct DIGEST
-    {
-        const char *algorithm; /* null stands for MD5 */
-        const char *username, *realm, *password;
-        const char *method; /* empty for the server's rspauth */
-        const char *uri, *nonce;
-        const char *
-            qop; /* null without quality of protection; then the next two are not used except for a session */
-        const char *nonceCount, *cnonce;
-    } DIGEST;
+/* 0 for an unknown algorithm; the number of a stronger one is greater. */
+int digestStrength( const char *algorithm );
 
-    /* 0 for an unknown algorithm; the number of a stronger one is greater. */
-    int digestStrength( const char *algorithm );
+/* The response in lower-case hex digits. The algorithm must be known. */
+void digestResponse( const DIGEST *digest, char hex[digestSize] );
 
-    /* The response in lower-case hex digits. The algorithm must be known. */
-    void digestResponse( const DIGEST *digest, char hex[digestSize] );
+/* Hex digits that only who knows the key can make of the bytes (HMAC-SHA-256). */
+void digestSeal( const char *key, const void *bytes, size_t length, char hex[digestSize] );
 
-    /* Hex digits that only who knows the key can make of the bytes (HMAC-SHA-256). */
-    void digestSeal( const char *key, const void *bytes, size_t length, char hex[digestSize] );
+/* Whether as many bytes are the same, in a time that does not tell how many are. */
+bool digestEquals( const void *a, const void *b, size_t length );
 
-    /* Whether the texts are the same, in a time that does not tell how much of them is. */
-    bool digestEquals( const char *a, const char *b );
-
-#ifdef __cplusplus
-}
-#endif
+RT_END
 
 #endif

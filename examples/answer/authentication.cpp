@@ -19,6 +19,12 @@ std::string toText( RT_STRING taken )
 
 bool equalInAnyCase( const std::string &a, const char *b ) { return strcasecmp( a.c_str(), b ) == 0; }
 
+// Texts from outside may hold zeros.
+bool equal( const std::string &a, const std::string &b )
+{
+    return a.size() == b.size() && digestEquals( a.data(), b.data(), a.size() );
+}
+
 std::string sealed( const std::string &key, const std::string &bytes )
 {
     char seal[digestSize];
@@ -26,17 +32,18 @@ std::string sealed( const std::string &key, const std::string &bytes )
     return seal;
 }
 
-int64_t toMilliseconds( Clock::duration time )
+int64_t milliseconds()
 {
-    return std::chrono::duration_cast<std::chrono::milliseconds>( time ).count();
+    auto now = Clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>( now ).count();
 }
 
 } // namespace
 
-Authentication::Authentication( std::string user_, std::string password_,
-                                std::vector<std::string> algorithms_, Clock::duration life_ )
-    : user( std::move( user_ ) ), password( std::move( password_ ) ), algorithms( std::move( algorithms_ ) ),
-      life( life_ )
+Authentication::Authentication( std::string name, std::string word, std::vector<std::string> offered,
+                                std::chrono::milliseconds time )
+    : user( std::move( name ) ), password( std::move( word ) ), algorithms( std::move( offered ) ),
+      life( time )
 {
     for ( int i = 0; i < 4; ++i )
         key += std::to_string( randomNumber() ) + ' ';
@@ -45,8 +52,8 @@ Authentication::Authentication( std::string user_, std::string password_,
 std::optional<Message> Authentication::refuse( Request &request )
 {
     std::optional<Claim> claim = findClaim( request );
-    bool right = claim && digestEquals( digest( *claim, request.method ).c_str(), claim->response.c_str() )
-                 && claim->username == user;
+    bool right =
+        claim && equal( digest( *claim, request.method ), claim->response ) && claim->username == user;
     if ( !right || !takeUse( request, *claim ) )
         return challenge( request, right );
     Owned proof( telsxHeaderAuthenticationInfoCreate() );
@@ -115,8 +122,7 @@ std::string Authentication::completed( const std::string &front ) const
 std::string Authentication::makeNonce()
 {
     char front[32];
-    std::snprintf( front, sizeof front, "%012llx-%08x",
-                   static_cast<unsigned long long>( toMilliseconds( Clock::now().time_since_epoch() ) ),
+    std::snprintf( front, sizeof front, "%012llx-%08x", static_cast<unsigned long long>( milliseconds() ),
                    static_cast<unsigned>( ++lastNumber ) );
     return completed( front );
 }
@@ -125,20 +131,20 @@ std::string Authentication::makeNonce()
 bool Authentication::takeUse( const Request &request, const Claim &claim )
 {
     std::string front = claim.nonce.substr( 0, 21 );
-    if ( !digestEquals( completed( front ).c_str(), claim.nonce.c_str() ) )
+    if ( !equal( completed( front ), claim.nonce ) )
         return false;
-    auto now = toMilliseconds( Clock::now().time_since_epoch() ), oldest = now - toMilliseconds( life );
+    int64_t oldest = milliseconds() - life.count();
     Use use = { std::stoll( front.substr( 0, 12 ), nullptr, 16 ),
                 static_cast<uint32_t>( std::stoul( front.substr( 13 ), nullptr, 16 ) ), claim.nonceCount };
     for ( char &digit : std::get<2>( use ) )
         digit = static_cast<char>( std::tolower( static_cast<unsigned char>( digit ) ) );
-    uses.erase( uses.begin(), uses.lower_bound( { oldest, 0, "" } ) );
+    uses.erase( uses.begin(), uses.lower_bound( { oldest - copying, 0, "" } ) );
+    std::string mark = sealed( key, encode( request.message ) );
+    if ( auto known = uses.find( use ); known != uses.end() )
+        return known->second == mark;
     if ( std::get<0>( use ) < oldest || use <= gone )
         return false;
-    std::string mark = sealed( key, encode( request.message ) );
-    auto [at, isNew] = uses.emplace( use, mark );
-    if ( !isNew )
-        return at->second == mark;
+    uses.emplace( use, mark );
     if ( uses.size() > maxUses )
     {
         // The letter sorts after all counts.

@@ -13,14 +13,15 @@ class Authentication
 {
 public:
     // The algorithms, in the order in which they are offered, must be known to digest.h.
-    Authentication( std::string user, std::string password, std::vector<std::string> algorithms,
-                    Clock::duration life );
+    Authentication( std::string name, std::string word, std::vector<std::string> offered,
+                    std::chrono::milliseconds time );
 
     // Nothing if the request comes from the user; it then has the proof for its 2xx. Otherwise the 401.
     std::optional<Message> refuse( Request &request );
 
 private:
     static constexpr std::size_t maxUses = 10000;
+    static constexpr int64_t copying = 32000; // milliseconds in which a request may be sent again
     static constexpr const char *realm = "answer";
 
     // When a nonce was made, its number, and a count with which it was used.
@@ -40,7 +41,7 @@ private:
 
     std::string user, password, key;
     std::vector<std::string> algorithms;
-    Clock::duration life; // after which a nonce is stale
+    std::chrono::milliseconds life; // after which a nonce is stale
     uint32_t lastNumber = 0;
     // With what only the request with the same use may have, as a copy of it has. If there are too many, the oldest
     // nonce goes, and all up to it are stale.
