@@ -252,6 +252,7 @@ TEST( Fields, AreWhatTheirTextSays )
             { "Via", "A/1/B xn--bcher-kva:1;ttl=2;maddr=m;received=::1;branch=b",
               "A/1|b|bücher|1|2|m|::1|b||" },
             { "WarningValue", "399 h \"t\"", "h|t|" },
+            { "HeaderContentType", "a/b;charset=c;boundary=d;e=f", "a|b|c|d|;e=f|" },
             { "HeaderCseq", "1 A", "1|A|" },
             { "HeaderRack", "1 2 A", "1|2|A|" },
             { "HeaderReplaces", "a;from-tag=f;to-tag=t", "a|f|t||" },
@@ -280,6 +281,8 @@ TEST( Fields, MustBeGoodInNewObjects )
     EXPECT_BAD( "telsxEventTypeOk( eventType )", HeaderEventCreate, bad.get() );
     EXPECT_BAD( "telsxSubstateValueOk( substateValue )", HeaderSubscriptionStateCreate, bad.get() );
     EXPECT_BAD( "telsxDispositionTypeOk( dispositionType )", HeaderContentDispositionCreate, bad.get() );
+    EXPECT_BAD( "telsxMediaSubtypeOk( mediaSubtype )", HeaderContentTypeCreate, good.get(), bad.get() );
+    EXPECT_BAD( "telsxMimeVersionOk( mimeVersion )", HeaderMimeVersionCreate, bad.get() );
     EXPECT_BAD( "telsxPriorityValueOk( priorityValue )", HeaderPriorityCreate, bad.get() );
     EXPECT_BAD( "subject", HeaderSubjectCreate, nullptr );
     EXPECT_BAD( "telsxIriOk( iri )", HeaderFromCreate, bad.get() );
