@@ -1,10 +1,7 @@
 // Replaces header (RFC 3891, 6.1).
 #include "telsx/telsx_header_replaces.h"
 
-#include "telsx/telsx_call_id.h"
-#include "telsx/telsx_header.hpp"
-#include "telsx/telsx_tag.h"
-#include "telsx/telsx_value.hpp"
+#include "telsx/telsx_dialog.hpp"
 
 using namespace telsx;
 
@@ -75,17 +72,7 @@ static TELSX_HEADER_REPLACES decode( HeaderLines &lines )
     if ( !callId )
         return nullptr;
     auto hdr = adopt( telsxHeaderReplacesCreate( callId.copy().get() ) );
-
-    ParamReader param( rest );
-    while ( param.next() )
-    {
-        if ( param.is<"from-tag">( telsx___SkipTag ) )
-            param.store( hdr->fromTag, param.value.copy() );
-        if ( param.is<"to-tag">( telsx___SkipTag ) )
-            param.store( hdr->toTag, param.value.copy() );
-        if ( param.isBare<"early-only">() )
-            param.storeFlag( hdr->earlyOnly );
-        param.storeGeneric( hdr->genericParams );
-    }
-    return param.failed() ? nullptr : hdr.take();
+    bool isGood = decodeDialog<"from-tag", "to-tag">( rest, hdr->fromTag, hdr->toTag, hdr->genericParams,
+                                                      &hdr->earlyOnly );
+    return isGood ? hdr.take() : nullptr;
 }

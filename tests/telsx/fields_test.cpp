@@ -273,6 +273,9 @@ TEST( Fields, AreWhatTheirTextSays )
             { "HeaderPServedUser", "B <sip:a>;sescase=orig;regstate=reg", "sip:a|B|orig|reg||" },
             { "HeaderRack", "1 2 A", "1|2|A|" },
             { "HeaderReplaces", "a;from-tag=f;to-tag=t", "a|f|t|0||" },
+            { "HeaderSessionId", "ab30317f1a784dc48ff824d0d3715d86;remote=00000000000000000000000000000000",
+              "ab30317f1a784dc48ff824d0d3715d86|00000000000000000000000000000000||" },
+            { "HeaderTargetDialog", "a;local-tag=l;remote-tag=r", "a|l|r||" },
             { "HeaderSubscriptionState", "a;reason=r;expires=1;retry-after=2", "a|r|1|2||" } } )
     {
         const Type &type = *std::ranges::find( types(), name, &Type::name );
@@ -310,6 +313,8 @@ TEST( Fields, MustBeGoodInNewObjects )
     EXPECT_BAD( "telsxIriOk( iri )", ContactCreate, bad.get() );
     EXPECT_BAD( "telsxIriOk( iri )", AlertInfoCreate, bad.get() );
     EXPECT_BAD( "telsxQuotableStringOk( name )", VisitedNetworkCreate, bad.get() );
+    EXPECT_BAD( "telsxTokenOk( answerModeValue )", HeaderAnswerModeCreate, bad.get() );
+    EXPECT_BAD( "telsxCallIdOk( callId )", HeaderJoinCreate, bad.get() );
     EXPECT_BAD( "telsxDisplayNameOk( displayName )", DiversionCreateWithDisplayName, iri.get(), bad.get() );
     EXPECT_BAD( "telsxIriOk( iri )", HistoryInfoCreate, bad.get(), bad.get() );
     EXPECT_BAD( "telsxHistoryInfoIndexOk( index )", HistoryInfoCreate, iri.get(), bad.get() );
