@@ -145,7 +145,7 @@ static void setSubject( TELSX_MESSAGE *msg, const char *subject )
 }
 
 /* What a party says about itself in an INVITE and in the answer: its address, the methods and extensions that it
- * understands, and the session that it offers. Content-Type has no type: its line is set as it is. */
+ * understands, and the session that it offers. */
 static void describe( TELSX_MESSAGE *msg, const PARTY *party )
 {
     setContact( msg, party->contact );
@@ -162,10 +162,12 @@ static void describe( TELSX_MESSAGE *msg, const PARTY *party )
     telsxHeaderSupportedEncodeToMessage( supported, msg );
     telsxHeaderSupportedRelease( supported );
 
-    TELSX_MESSAGE_HEADER contentType = telsxMessageHeaderCreateCstr( "Content-Type", -1 );
-    telsxMessageHeaderAppendLineCstr( &contentType, "application/sdp", -1 );
-    telsxMessageSetHeader( msg, contentType );
-    telsxMessageHeaderRelease( contentType );
+    RT_STRING application = text( "application" ), sdp = text( "sdp" );
+    TELSX_HEADER_CONTENT_TYPE contentType = telsxHeaderContentTypeCreate( application, sdp );
+    telsxHeaderContentTypeEncodeToMessage( contentType, msg );
+    telsxHeaderContentTypeRelease( contentType );
+    rtStringRelease( application );
+    rtStringRelease( sdp );
 
     RT_BUFFER body = rtBufferCreateFromBytesCopy( party->description, (int64_t)strlen( party->description ) );
     telsxMessageSetBody( msg, body );

@@ -101,7 +101,7 @@ Answer answerTo( const Request &request )
         return {
             0, "t=0 0\r\nm=audio 9 RTP/AVP 0 8 101\r\na=rtpmap:101 telephone-event/8000\r\na=inactive\r\n"
         };
-    // Content-Type has no type: its line is read and set as it is. (Another body is refused even if Content-Disposition
+    // The raw line is read, since bad parameters do no harm here. (Another body is refused even if Content-Disposition
     // says that it is optional.)
     Owned header( telsxMessageHeaderCstr( request.message.get(), "Content-Type", -1 ) );
     std::string type = header ? toUtf8( Owned( telsxMessageHeaderLastLine( header.get() ) ) ) : "";

@@ -1,10 +1,7 @@
 // Replaces header (RFC 3891, 6.1).
 #include "telsx/telsx_header_replaces.h"
 
-#include "telsx/telsx_call_id.h"
-#include "telsx/telsx_header.hpp"
-#include "telsx/telsx_tag.h"
-#include "telsx/telsx_value.hpp"
+#include "telsx/telsx_dialog.hpp"
 
 using namespace telsx;
 
@@ -31,7 +28,7 @@ TELSX_DEFINE_GETTER( HeaderReplaces, hdr, FromTag, fromTag )
 TELSX_DEFINE_OPTION( HeaderReplaces, hdr, FromTag, fromTag )
 TELSX_DEFINE_GETTER( HeaderReplaces, hdr, ToTag, toTag )
 TELSX_DEFINE_OPTION( HeaderReplaces, hdr, ToTag, toTag )
-TELSX_DEFINE_GETTER( HeaderReplaces, hdr, EarlyOnly, earlyOnly )
+TELSX_DEFINE_FLAG( HeaderReplaces, hdr, EarlyOnly, earlyOnly )
 
 void telsxHeaderReplacesSetFromTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
 {
@@ -45,12 +42,6 @@ void telsxHeaderReplacesSetToTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
     TELSX_ASSERT_HANDLE( hdr );
     TELSX_ASSERT_OK( telsxTagOk, tag );
     rt::put( TELSX_OWN( hdr )->toTag, tag );
-}
-
-void telsxHeaderReplacesSetEarlyOnly( TELSX_HEADER_REPLACES *hdr, RT_BOOL earlyOnly )
-{
-    TELSX_ASSERT_HANDLE( hdr );
-    TELSX_OWN( hdr )->earlyOnly = earlyOnly != 0;
 }
 
 TELSX_HEADER_REPLACES telsxHeaderReplacesCreate( RT_STRING callId )
@@ -81,17 +72,7 @@ static TELSX_HEADER_REPLACES decode( HeaderLines &lines )
     if ( !callId )
         return nullptr;
     auto hdr = adopt( telsxHeaderReplacesCreate( callId.copy().get() ) );
-
-    ParamReader param( rest );
-    while ( param.next() )
-    {
-        if ( param.is<"from-tag">( telsx___SkipTag ) )
-            param.store( hdr->fromTag, param.value.copy() );
-        if ( param.is<"to-tag">( telsx___SkipTag ) )
-            param.store( hdr->toTag, param.value.copy() );
-        if ( param.isBare<"early-only">() )
-            param.storeFlag( hdr->earlyOnly );
-        param.storeGeneric( hdr->genericParams );
-    }
-    return param.failed() ? nullptr : hdr.take();
+    bool isGood = decodeDialog<"from-tag", "to-tag">( rest, hdr->fromTag, hdr->toTag, hdr->genericParams,
+                                                      &hdr->earlyOnly );
+    return isGood ? hdr.take() : nullptr;
 }

@@ -1,4 +1,5 @@
-// What Alert-Info, Error-Info and Call-Info values share: an address in angle brackets without a display name.
+// What the values of Alert-Info, Error-Info, Call-Info and Geolocation share: an address in angle brackets without a
+// display name.
 #pragma once
 
 #include "telsx/telsx_value.hpp"
@@ -15,7 +16,7 @@ inline bool takeInfoAddress( Text &rest, Ref<RT_STRING> &iri )
     return taken;
 }
 
-// Alert-Info and Error-Info have the same content.
+// The content of all these values except those of Call-Info.
 struct Info
 {
     RT_OBJECT object;

@@ -1,5 +1,5 @@
-// What the headers share that are an address with parameters and have no fields for these: Refer-To, Reply-To,
-// P-Called-Party-Id and Remote-Party-Id.
+// What the headers and values share that are an address with parameters and have no fields for these: Refer-To,
+// Reply-To, P-Called-Party-Id and Remote-Party-Id, and the values of P-Associated-Uri.
 #pragma once
 
 #include "telsx/telsx_header.hpp"
@@ -22,29 +22,29 @@ struct Party
 };
 static_assert( rt::listsAllFields<Party>() );
 
-inline Ref<RT_STRING> encodeParty( const Party &hdr )
+inline Ref<RT_STRING> encodeParty( const Party &party )
 {
-    Ref<RT_STRING> line = adopt( rtStringCreate() );
-    appendAddress( line, hdr.iri, hdr.displayName );
-    appendGenericParams( line, hdr.genericParams.get() );
-    return line;
+    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    appendAddress( text, party.iri, party.displayName );
+    appendGenericParams( text, party.genericParams.get() );
+    return text;
 }
 
-// Fills a new header from its address and the text after it, or from its line; false for bad text.
-inline bool decodeParty( Party &hdr, Address address, Text behind )
+// Fills a new object from its address and the text after it, or from its text; false for bad text.
+inline bool decodeParty( Party &party, Address address, Text behind )
 {
-    hdr.iri = std::move( address.iri );
-    hdr.displayName = std::move( address.displayName );
-    hdr.genericParams = noGenericParams();
+    party.iri = std::move( address.iri );
+    party.displayName = std::move( address.displayName );
+    party.genericParams = noGenericParams();
     ParamReader param( behind );
     while ( param.next() )
-        param.storeGeneric( hdr.genericParams );
+        param.storeGeneric( party.genericParams );
     return !param.failed();
 }
-inline bool decodeParty( Party &hdr, Text line )
+inline bool decodeParty( Party &party, Text text )
 {
     Address address;
-    return takeAddress( line, address ) && decodeParty( hdr, std::move( address ), line );
+    return takeAddress( text, address ) && decodeParty( party, std::move( address ), text );
 }
 
 } // namespace telsx

@@ -95,6 +95,14 @@ inline Ref<RT_STRING> copyInQuotes( Text quoted )
     return quoted.first( quoted.length - 1 ).behind( 1 ).copy();
 }
 
+// The length of a value that begins with an element of that length, with the generic parameters after it; 0 without the
+// element.
+inline int64_t skipWithParams( Text text, int64_t front )
+{
+    Text rest = text.behind( front );
+    return front ? front + telsx___SkipGenericParams( rest.chs, rest.length ) : 0;
+}
+
 // The front of a value or header that is an address (RFC 3261, 25.1): name-addr, or addr-spec, in which semicolons
 // belong to the value and not to the address.
 struct Address

@@ -1,0 +1,17 @@
+// Sip-Etag header (RFC 3903, 11.3).
+#include "telsx/telsx_header_sip_etag.h"
+
+#include "telsx/telsx_entity_tag.h"
+#include "telsx/telsx_header_of_text.hpp"
+
+using namespace telsx;
+
+struct TELSX_HEADER_SIP_ETAG_
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> entityTag; // never null
+
+    static constexpr auto fields( auto &self ) { return std::tie( self.entityTag ); }
+};
+
+TELSX_DEFINE_HEADER_OF_TEXT( HeaderSipEtag, HEADER_SIP_ETAG, "Sip-Etag", EntityTag, entityTag )
