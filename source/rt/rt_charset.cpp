@@ -221,6 +221,11 @@ int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into )
                                                           : encode<true>( string->chs, string->length, into );
 }
 
+RT_BOOL rt___StringTryNarrow( RT_STRING string, unsigned char *into )
+{
+    return tryNarrow( string->chs, string->length, into );
+}
+
 void rtBufferAppendUtf8( RT_BUFFER *buffer, RT_STRING string )
 {
     RT_ASSERT( buffer );

@@ -39,6 +39,10 @@ RT_API int64_t rt___Utf8Decode( const unsigned char *bytes, int64_t length, RT_C
 RT_API int64_t rt___StringUtf8Length( RT_STRING string );
 RT_API int64_t rt___StringUtf8Encode( RT_STRING string, unsigned char *into );
 
+/* For the libraries above. Writes one byte for each code point and tells whether all are ASCII; if they aren't, what was
+ * written is not valid. */
+RT_API RT_BOOL rt___StringTryNarrow( RT_STRING string, unsigned char *into );
+
 RT_END
 
 #endif

@@ -1,6 +1,8 @@
 // Objects, their counts and their end.
 #include "rt/rt_object.h"
 
+#include <bit>
+
 #include "rt/rt_blocks.hpp"
 #include "rt/rt_memory.hpp"
 #include "rt/rt_string.hpp"
@@ -75,16 +77,58 @@ static void freeBlock( RT_OBJ obj )
     countAlive( -1 );
 }
 
-void rt___ObjFree( RT_OBJ obj )
+// Apart from rt___ObjFree, which so needs no room on the stack.
+[[gnu::noinline]] static void freeHolder( RT_OBJ obj )
 {
     if ( obj->sort->freeFunc )
         obj->sort->freeFunc( obj );
     freeBlock( obj );
 }
 
-void rt___StringFree( RT_STRING string )
+// Most objects are strings, and most strings hold nothing.
+void rt___ObjFree( RT_OBJ obj )
 {
-    if ( string->parent )
-        rtStringRelease( string->parent );
-    freeBlock( rt::asObj( string ) );
+    if ( obj->sort == &rt___sort_RT_STRING && !reinterpret_cast<RT_STRING>( obj )->parent )
+        freeBlock( obj );
+    else
+        freeHolder( obj );
+}
+
+// Fields of any object
+
+// The references that are not null, one after another. Their types are known to the object's unit alone.
+template <class VISIT>
+static void eachRef( RT_OBJ obj, uint64_t refs, VISIT visit )
+{
+    using AnyRef [[gnu::may_alias]] = RT_OBJ;
+    auto *words = reinterpret_cast<AnyRef *>( obj + 1 );
+    for ( ; refs; refs &= refs - 1 )
+        if ( AnyRef &ref = words[std::countr_zero( refs )] )
+            visit( ref );
+}
+
+void rt___ObjClearFields( RT_OBJ obj, uint64_t refs )
+{
+    eachRef( obj, refs,
+             []( auto &ref )
+             {
+                 RT_OBJ old = std::exchange( ref, nullptr );
+                 if ( rt::giveUp( old ) )
+                     rt___ObjFree( old );
+             } );
+}
+
+RT_OBJ rt___ObjCopy( RT_OBJ obj, int64_t size, uint64_t refs )
+{
+    RT_OBJ copy = rt___ObjCreate( size, obj->sort );
+    std::memcpy( copy + 1, obj + 1, static_cast<std::size_t>( size ) - sizeof( RT_OBJECT ) );
+    eachRef( copy, refs, rt::retain );
+    return copy;
+}
+
+RT_OBJ rt___ObjOwn( RT_OBJ obj, int64_t size, uint64_t refs )
+{
+    RT_OBJ copy = rt___ObjCopy( obj, size, refs );
+    rt::release( obj );
+    return copy;
 }

@@ -112,10 +112,17 @@ RT_API RT_STRING rtObjToString( RT_OBJ obj );
 RT_API int64_t rtObjCompare( RT_OBJ objA, RT_OBJ objB );
 
 /* For the libraries above. ObjCreate makes an object of that many bytes, header included, with the count 1 and nothing
- * yet after the header. ObjFree ends an object whose count has reached 0; StringFree is a shorter way for strings. */
+ * yet after the header. ObjFree ends an object whose count has reached 0. */
 RT_API RT_OBJ rt___ObjCreate( int64_t size, RT_SORT sort );
 RT_API void rt___ObjFree( RT_OBJ obj );
-RT_API void rt___StringFree( RT_STRING string );
+
+/* For the libraries above: operations on the fields of any object. The fields are words of eight bytes after the header;
+ * refs has a bit for each word that is a reference or null, the lowest for the first. ObjClearFields gives up the
+ * references, in order, and makes them null. ObjCopy makes a copy of an object of that many bytes; ObjOwn makes one in
+ * exchange for the caller's reference. */
+RT_API void rt___ObjClearFields( RT_OBJ obj, uint64_t refs );
+RT_API RT_OBJ rt___ObjCopy( RT_OBJ obj, int64_t size, uint64_t refs );
+RT_API RT_OBJ rt___ObjOwn( RT_OBJ obj, int64_t size, uint64_t refs );
 
 /* For the libraries above: the free blocks of the thread; null until the thread frees its first block, and again
  * after the thread has ended. */

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "rt/rt_frame.hpp"
-#include "rt/rt_string.h"
+#include "rt/rt_string.hpp"
 
 namespace rt
 {
@@ -40,7 +40,13 @@ struct Text
     Text take( Skipper skip ) { return take( skip( chs, length ) ); }
 };
 
-inline Text textOf( RT_STRING string ) { return { rtStringBacking( string ), rtStringLength( string ) }; }
+// Called for every piece of a text, so the fields are read in place.
+inline Text textOf( RT_STRING string )
+{
+    if ( !string ) [[unlikely]]
+        rtStringBacking( string ); // aborts
+    return { string->chs, string->length };
+}
 inline Text textOf( const Ref<RT_STRING> &string ) { return textOf( string.get() ); }
 
 // Whether the element is the whole text and the text isn't empty.

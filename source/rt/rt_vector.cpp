@@ -98,11 +98,14 @@ static RT_VECTOR own( RT_VECTOR *handle, int64_t added = 0 )
 }
 
 // Opens a gap for one element and returns its place. If the array is full at the end where it grows, a larger one
-// replaces it, with room at both ends if it has ever grown or shrunk at its front.
+// replaces it, with room at both ends if it has ever grown or shrunk at its front. A few elements move up instead.
 static RT_OBJ *openGap( RT_VECTOR vector, int64_t index )
 {
-    bool atFront = index == 0 && vector->length;
-    if ( atFront ? vector->first == 0 : vector->first + vector->length == vector->capacity )
+    static constexpr int64_t mostMoved = 8;
+    bool isFullAtEnd = vector->first + vector->length == vector->capacity;
+    bool movesUp = vector->first == 0 && !isFullAtEnd && vector->length <= mostMoved;
+    bool atFront = index == 0 && vector->length && !movesUp;
+    if ( atFront ? vector->first == 0 : isFullAtEnd )
     {
         int64_t capacity = rt::grown( vector->length, vector->length + 4 );
         int64_t first = atFront || vector->first ? ( capacity - vector->length + 1 ) / 2 : 0;

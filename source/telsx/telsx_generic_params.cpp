@@ -169,6 +169,12 @@ void telsx::appendGenericParams( Ref<RT_STRING> &text, TELSX_GENERIC_PARAMS para
     }
 }
 
+void ParamWriter::write( RT_STRING name, const Piece &value )
+{
+    written[count++] = name;
+    appendPieces( text, { pieceOf( ';' ), pieceOf( name ), pieceOf( '=' ), value } );
+}
+
 // Functions that take a name, with the name as 8-bit and as wide characters
 
 TELSX_DEFINE_TEXT_FORMS( TELSX_GENERIC_PARAM, GenericParamsParam, ( TELSX_GENERIC_PARAMS ), () )

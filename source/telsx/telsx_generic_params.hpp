@@ -47,38 +47,41 @@ public:
     void write( const Ref<RT_STRING> &field )
     {
         if ( field )
-            append( text, ';', noted<NAME>(), '=', field );
+            write( literal<NAME>(), pieceOf( field ) );
     }
     template <rt::Ascii NAME>
     void write( int64_t field )
     {
         if ( rt::present( field ) )
-            append( text, ';', noted<NAME>(), '=', Decimal( field ) );
+            write( literal<NAME>(), pieceOf( Decimal( field ) ) );
     }
     template <rt::Ascii NAME, class HANDLE>
     void write( const Ref<HANDLE> &field, RT_STRING ( *encode )( HANDLE ) )
     {
         if ( field )
-            append( text, ';', noted<NAME>(), '=', adopt( encode( field.get() ) ) );
+            write( literal<NAME>(), pieceOf( adopt( encode( field.get() ) ) ) );
     }
     template <rt::Ascii NAME>
     void write( int64_t field, RT_STRING ( *encode )( int64_t ) )
     {
         if ( rt::present( field ) )
-            append( text, ';', noted<NAME>(), '=', adopt( encode( field ) ) );
+            write( literal<NAME>(), pieceOf( adopt( encode( field ) ) ) );
     }
 
     template <rt::Ascii NAME>
     void writeInQuotes( const Ref<RT_STRING> &field )
     {
         if ( field )
-            append( text, ';', noted<NAME>(), "=\"", field, '"' );
+        {
+            write( literal<NAME>(), pieceOf( "\"" ) );
+            append( text, field, '"' );
+        }
     }
     template <rt::Ascii NAME>
     void writeMark( RT_BOOL field )
     {
         if ( field )
-            append( text, ';', noted<NAME>() );
+            append( text, ';', written[count++] = literal<NAME>() );
     }
 
     void writeGeneric( const Ref<TELSX_GENERIC_PARAMS> &params )
@@ -87,11 +90,7 @@ public:
     }
 
 private:
-    template <rt::Ascii NAME>
-    RT_STRING noted()
-    {
-        return written[count++] = literal<NAME>();
-    }
+    void write( RT_STRING name, const Piece &value );
 
     Ref<RT_STRING> &text;
     RT_STRING written[16]; // More fields than any value has.

@@ -13,6 +13,15 @@ bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name )
     return header && rtStringEquals( header->name.get(), name );
 }
 
+HeaderLines::HeaderLines( TELSX_MESSAGE msg, HeaderName name ) : table( msg->fragment->headers.get() )
+{
+    if ( HeaderEntry *found = findHeader( table, name ) )
+    {
+        header = knownHeader( *found );
+        entry = header ? nullptr : found;
+    }
+}
+
 // A line's number in the table is 0 for the first line, and otherwise its index in moreLines plus 1.
 RT_STRING HeaderLines::next()
 {
@@ -48,14 +57,26 @@ Text HeaderLines::lastText()
 
 void HeaderLines::restart() { index = 0; }
 
+void *decodeLines( TELSX_MESSAGE_HEADER header, LinesDecoder decode )
+{
+    HeaderLines lines( header );
+    return decode( lines );
+}
+
+void *decodeLines( TELSX_MESSAGE msg, HeaderName name, LinesDecoder decode )
+{
+    HeaderLines lines( msg, name );
+    return lines.empty() ? nullptr : decode( lines );
+}
+
 bool hasHeader( TELSX_MESSAGE msg, HeaderName name )
 {
     return findHeader( msg->fragment->headers.get(), name ) != nullptr;
 }
 
-void putHeader( TELSX_MESSAGE *msg, Ref<TELSX_MESSAGE_HEADER> header )
+void putHeader( TELSX_MESSAGE *msg, HeaderName name, TELSX_MESSAGE_HEADER header )
 {
-    setHeader( TELSX_OWN( TELSX_OWN( msg )->fragment.address() )->headers, std::move( header ) );
+    setHeader( TELSX_OWN( TELSX_OWN( msg )->fragment.address() )->headers, name, adopt( header ) );
 }
 
 void removeHeader( TELSX_MESSAGE *msg, HeaderName name )
@@ -68,14 +89,20 @@ TELSX_MESSAGE_HEADER tryRestoreHeader( RT_STRING name, RT_STORE store )
     return holdsLines( store ) ? telsxMessageHeaderRestoreLines( name, store ) : nullptr;
 }
 
-RT_STRING linesToString( const Ref<TELSX_MESSAGE_HEADER> &header )
+RT_STRING linesToString( TELSX_MESSAGE_HEADER header )
 {
+    Ref<TELSX_MESSAGE_HEADER> taken = adopt( header );
     switch ( rtVectorLength( header->lines.get() ) )
     {
         case 0: return rtStringCreate();
-        case 1: return telsxMessageHeaderLineAt( header.get(), 0 );
+        case 1: return telsxMessageHeaderLineAt( header, 0 );
         default: return rtVectorToString( header->lines.get() );
     }
+}
+
+RT_STORE storeLines( TELSX_MESSAGE_HEADER header )
+{
+    return telsxMessageHeaderStoreLines( adopt( header ).get() );
 }
 
 } // namespace telsx

@@ -15,11 +15,6 @@ struct TELSX_HEADER_CONTACT_
     static constexpr auto fields( auto &self ) { return std::tie( self.starForm, self.values ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
     void beforeChange() { starForm = 0; }
-    template <class VALUE>
-    static VALUE takeRead( int64_t )
-    {
-        return nullptr;
-    }
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderContact, HEADER_CONTACT, hdr, "Contact" )

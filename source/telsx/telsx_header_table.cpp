@@ -64,7 +64,7 @@ static void append( HeaderTable *table, const HeaderEntry &entry )
     if ( entry.number != -1 )
     {
         table->is[std::size_t( entry.number )] = true;
-        table->known[entry.number] = place;
+        table->known[entry.number] = static_cast<int32_t>( place );
     }
     else
     {
@@ -76,6 +76,7 @@ static void append( HeaderTable *table, const HeaderEntry &entry )
             table->otherEntries[other] = place;
     }
     table->entries.append( entry );
+    TELSX_CHECK( table->entries.capacity <= INT32_MAX, "out of memory", "capacity" );
     ++table->length;
 }
 
@@ -193,10 +194,9 @@ static void own( Ref<HeaderTable *> &table )
         table = copyOf( table.get() );
 }
 
-void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header )
+void setHeader( Ref<HeaderTable *> &table, HeaderName name, Ref<TELSX_MESSAGE_HEADER> header )
 {
     own( table );
-    HeaderName name = headerName( header->name.get() );
     HeaderEntry *entry = findHeader( table.get(), name );
     if ( !entry )
         return append( table.get(), { name.name, header.take(), { -1, 0, -1 }, -1, name.number } );

@@ -73,7 +73,7 @@ struct HeaderTable
     rt::Array<HeaderLine> moreLines;
     int64_t length;                  // headers present
     std::bitset<knownCount> is;      // which known names have an entry,
-    int64_t known[knownCount];       // and its index
+    int32_t known[knownCount];       // and its index
     Ref<RT_DICT> others;             // other names; otherEntries[n] belongs to the n-th; never null
     rt::Array<int64_t> otherEntries; // -1 once removed
     HeaderEntry firstEntries[18];    // the initial storage of entries
@@ -100,7 +100,7 @@ inline void addLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t
     if ( name.number == -1 || table->is[std::size_t( name.number )] || place == table->entries.capacity )
         return addAnyLine( table, name, begin, length );
     table->is[std::size_t( name.number )] = true;
-    table->known[name.number] = place;
+    table->known[name.number] = static_cast<int32_t>( place );
     table->entries.items[place] = { name.name, nullptr, { begin, length, -1 }, -1, name.number };
     ++table->entries.length;
     ++table->length;
@@ -127,7 +127,7 @@ RT_VECTOR headersVector( HeaderTable *table );
 bool haveLineEnds( HeaderTable *table );
 
 // Change the table, or a private copy if somebody else has it too.
-void setHeader( Ref<HeaderTable *> &table, Ref<TELSX_MESSAGE_HEADER> header );
+void setHeader( Ref<HeaderTable *> &table, HeaderName name, Ref<TELSX_MESSAGE_HEADER> header );
 void delHeader( Ref<HeaderTable *> &table, HeaderName name );
 
 } // namespace telsx

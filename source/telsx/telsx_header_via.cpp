@@ -10,16 +10,15 @@ using namespace telsx;
 struct TELSX_HEADER_VIA_
 {
     RT_OBJECT object;
-    Ref<RT_VECTOR> values;           // texts, never null
-    ReadValue<TELSX_VIA> firstValue; // the top Via, which most readers ask for
+    Ref<RT_VECTOR> values; // texts, never null
+    ViaPlaces firstPlaces; // in the top Via, which most readers ask for
 
-    static constexpr auto fields( auto &self ) { return std::tie( self.values, self.firstValue ); }
+    static constexpr auto fields( auto &self ) { return std::tie( self.values, self.firstPlaces ); }
     static auto order( auto &self ) { return std::tie( self.values ); }
-    void beforeChange() { clear( firstValue ); }
-    template <class VALUE>
-    VALUE takeRead( int64_t index ) const
+    void beforeChange() { firstPlaces = {}; }
+    TELSX_VIA tryDecodeValue( int64_t index, Text text ) const
     {
-        return index == 0 ? firstValue.take() : nullptr;
+        return index == 0 ? tryDecodeVia( text, firstPlaces ) : text.as( telsx___ViaTryDecode );
     }
 };
 
@@ -40,14 +39,10 @@ TELSX_MESSAGE_HEADER telsxHeaderViaEncode( TELSX_HEADER_VIA hdr )
 static TELSX_HEADER_VIA decode( HeaderLines &lines )
 {
     Ref<TELSX_HEADER_VIA> hdr = adopt( telsxHeaderViaCreate() );
-    auto skipVia = [&hdr, isFirst = true]( const RT_CHAR *chs, int64_t length ) mutable
+    auto skip = [&hdr, isFirst = true]( const RT_CHAR *chs, int64_t length ) mutable
     {
-        Text rest = { chs, length };
-        Ref<TELSX_VIA> via = std::exchange( isFirst, false ) ? takeVia( rest ) : Ref<TELSX_VIA>();
-        if ( !via || ( rest && !telsx___SkipComma( rest.chs, rest.length ) ) )
-            return telsx___SkipVia( chs, length );
-        hdr->firstValue.put( std::move( via ) );
-        return length - rest.length;
+        return std::exchange( isFirst, false ) ? skipVia( { chs, length }, hdr->firstPlaces )
+                                               : telsx___SkipVia( chs, length );
     };
-    return decodeValues( hdr->values, lines, skipVia, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
+    return decodeValues( hdr->values, lines, skip, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
 }

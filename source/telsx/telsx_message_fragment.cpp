@@ -3,6 +3,7 @@
 
 #include "telsx/telsx_iri.h"
 #include "telsx/telsx_message_fragment.hpp"
+#include "telsx/telsx_message_header.hpp"
 #include "telsx/telsx_method.h"
 #include "telsx/telsx_reason_phrase.h"
 #include "telsx/telsx_text.hpp"
@@ -22,6 +23,14 @@ TELSX_MESSAGE_FRAGMENT telsxMessageFragmentCreate( void )
 
 // Start lines
 
+// The fragment, private to the handle, whose start line changes.
+static TELSX_MESSAGE_FRAGMENT ownStartLine( TELSX_MESSAGE_FRAGMENT *frag )
+{
+    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    own->startLineSize = -1;
+    return own;
+}
+
 void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION version, RT_STRING method,
                                      RT_STRING iri )
 {
@@ -29,7 +38,7 @@ void telsxMessageFragmentSetRequest( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION
     TELSX_ASSERT( version );
     TELSX_ASSERT_OK( telsxMethodOk, method );
     TELSX_ASSERT_OK( telsxIriOk, iri );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->version = share( version );
     own->requestMethod = share( method );
     own->requestIri = share( iri );
@@ -44,7 +53,7 @@ void telsxMessageFragmentSetResponseWithReasonPhrase( TELSX_MESSAGE_FRAGMENT *fr
     TELSX_ASSERT( version );
     TELSX_ASSERT( telsxStatusCodeOk( sc ) );
     TELSX_ASSERT_OK( telsxReasonPhraseOk, reasonPhrase );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->version = share( version );
     own->requestMethod = {};
     own->requestIri = {};
@@ -61,7 +70,7 @@ void telsxMessageFragmentSetResponse( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSIO
 void telsxMessageFragmentSetNeitherRequestNorResponse( TELSX_MESSAGE_FRAGMENT *frag )
 {
     TELSX_ASSERT_HANDLE( frag );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->version = {};
     own->requestMethod = {};
     own->requestIri = {};
@@ -134,7 +143,7 @@ void telsxMessageFragmentSetVersion( TELSX_MESSAGE_FRAGMENT *frag, TELSX_VERSION
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( version );
     TELSX_ASSERT( version );
-    rt::put( TELSX_OWN( frag )->version, version );
+    rt::put( ownStartLine( frag )->version, version );
 }
 
 void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING method )
@@ -142,7 +151,7 @@ void telsxMessageFragmentSetRequestMethod( TELSX_MESSAGE_FRAGMENT *frag, RT_STRI
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( requestMethod );
     TELSX_ASSERT_OK( telsxMethodOk, method );
-    rt::put( TELSX_OWN( frag )->requestMethod, method );
+    rt::put( ownStartLine( frag )->requestMethod, method );
 }
 
 void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING iri )
@@ -150,7 +159,7 @@ void telsxMessageFragmentSetRequestIri( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING 
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( requestMethod );
     TELSX_ASSERT_OK( telsxIriOk, iri );
-    rt::put( TELSX_OWN( frag )->requestIri, iri );
+    rt::put( ownStartLine( frag )->requestIri, iri );
 }
 
 void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, int64_t sc,
@@ -159,7 +168,7 @@ void telsxMessageFragmentSetResponseStatusCode( TELSX_MESSAGE_FRAGMENT *frag, in
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( responseStatusCode != TELSX_STATUS_CODE_INVALID );
     TELSX_ASSERT( telsxStatusCodeOk( sc ) );
-    TELSX_MESSAGE_FRAGMENT own = TELSX_OWN( frag );
+    TELSX_MESSAGE_FRAGMENT own = ownStartLine( frag );
     own->responseStatusCode = sc;
     if ( updateReasonPhrase )
         own->responseReasonPhrase = adopt( telsxStatusCodeReasonPhrase( sc ) );
@@ -170,7 +179,7 @@ void telsxMessageFragmentSetResponseReasonPhrase( TELSX_MESSAGE_FRAGMENT *frag, 
     TELSX_ASSERT_HANDLE( frag );
     ASSERT_HAS( responseReasonPhrase );
     TELSX_ASSERT_OK( telsxReasonPhraseOk, reasonPhrase );
-    rt::put( TELSX_OWN( frag )->responseReasonPhrase, reasonPhrase );
+    rt::put( ownStartLine( frag )->responseReasonPhrase, reasonPhrase );
 }
 
 // Headers
@@ -202,7 +211,7 @@ void telsxMessageFragmentSetHeader( TELSX_MESSAGE_FRAGMENT *frag, TELSX_MESSAGE_
 {
     TELSX_ASSERT_HANDLE( frag );
     TELSX_ASSERT( header );
-    setHeader( TELSX_OWN( frag )->headers, share( header ) );
+    setHeader( TELSX_OWN( frag )->headers, headerName( header->name.get() ), share( header ) );
 }
 
 void telsxMessageFragmentDelHeader( TELSX_MESSAGE_FRAGMENT *frag, RT_STRING name )

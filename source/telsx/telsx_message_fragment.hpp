@@ -15,11 +15,14 @@ struct TELSX_MESSAGE_FRAGMENT_
     rt::Ref<TELSX_VERSION> version;          // of both
     rt::Ref<telsx::HeaderTable *> headers;   // never null
     rt::Ref<RT_BUFFER> body;
+    int64_t
+        startLineSize; // with its line end, if it is still the one that the headers' bytes begin with; else -1
 
     static constexpr auto fields( auto &self )
     {
         return std::tie( self.requestMethod, self.requestIri, self.responseStatusCode,
-                         self.responseReasonPhrase, self.version, self.headers, self.body );
+                         self.responseReasonPhrase, self.version, self.headers, self.body,
+                         self.startLineSize );
     }
 };
 

@@ -37,11 +37,14 @@ enum class StartLine
 {
     none,
     good,
+    same, // good, and the encoder would write the same text
     bad
 };
 
+static StartLine goodOrSame( bool isSame ) { return isSame ? StartLine::same : StartLine::good; }
+
 // Sets the start line if the first line is one. What looks like a start line must be valid.
-static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
+static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line, bool isAscii )
 {
     Text rest = line;
     auto takePiece = [&rest]
@@ -64,7 +67,8 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
         if ( length < second.length || !frag->requestIri || !frag->version )
             return StartLine::bad;
         frag->requestMethod = std::move( method );
-        return StartLine::good;
+        return goodOrSame( isAscii && isSharedVersion( frag->version.get() )
+                           && rtStringEqualsChars( frag->requestIri.get(), second.chs, second.length ) );
     }
     // A version contains a slash, so it is never a method.
     frag->version = tryDecodeVersion( first );
@@ -75,7 +79,8 @@ static StartLine decodeStartLine( TELSX_MESSAGE_FRAGMENT frag, Text line )
         return StartLine::bad;
     frag->responseStatusCode = sc;
     frag->responseReasonPhrase = adopt( rest.as( telsx___ReasonPhraseDecode ) );
-    return StartLine::good;
+    return goodOrSame( hasThird && second.length == 3 && isSharedVersion( frag->version.get() )
+                       && runOf<classAlphanum | classLws>( rest ) == rest.length );
 }
 
 // The canonical form of a header name that is not known, or null if it is not a name.
@@ -172,12 +177,14 @@ Ref<TELSX_MESSAGE_FRAGMENT> telsx::tryDecodeHead( Bytes head, int64_t *contentLe
     const char *begin = table->bytes(), *end = begin + head.size(), *headers = begin;
     auto frag = adopt( rt::create<TELSX_MESSAGE_FRAGMENT_>( telsxMessageFragmentSort() ) );
     WideText firstLine;
-    Text line = firstLine.read( takeLine( headers, end ), isAscii );
-    StartLine startLine = decodeStartLine( frag.get(), line );
+    Bytes firstBytes = takeLine( headers, end );
+    StartLine startLine = decodeStartLine( frag.get(), firstLine.read( firstBytes, isAscii ), isAscii );
     if ( startLine == StartLine::bad
          || !decodeHeaders( table.get(), startLine == StartLine::none ? begin : headers, end )
          || ( contentLength && !decodeContentLength( table.get(), contentLength ) ) )
         return {};
+    if ( startLine == StartLine::same && headers == firstBytes.end() + lineEnd.size() )
+        frag->startLineSize = headers - begin;
     frag->headers = std::move( table );
     return frag;
 }

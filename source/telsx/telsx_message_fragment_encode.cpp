@@ -12,7 +12,8 @@
 
 using namespace telsx;
 
-static constexpr Bytes colon = ": ", blank = " ";
+static constexpr char blankBytes[1 + rt::scanSlack] = " ";
+static constexpr Bytes blank = { blankBytes, 1 };
 
 // The three words of a start line.
 using StartLine = std::array<Ref<RT_STRING>, 3>;
@@ -30,95 +31,157 @@ static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
              adopt( telsx___ReasonPhraseEncode( frag->responseReasonPhrase.get() ) ) };
 }
 
-// Bytes with rt::scanSlack more readable after them; as many may be written after an encoded message.
-struct WithSlack
+// What a head consists of besides the fragment's headers.
+struct Head
 {
-    Bytes bytes;
+    StartLine startLine; // empty if the bytes of the headers begin with it, or if there is none
+    Bytes startLineBytes;
+    Decimal bodyLength;
+    HeaderTable *headers;
 };
 
-// Outputs: the text is written once to learn its size, and then into a buffer of that size.
+static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
+
+// The lines of a header: that of Content-Length is the true length, those of a header that was decoded and not replaced go
+// out as they came, and those of any other are its object's.
+template <class LINE>
+static void eachLine( const Head &head, const HeaderEntry &entry, LINE line )
+{
+    if ( entry.number == lengthNumber )
+        line( head.bodyLength.chars() );
+    else if ( entry.first.begin == -1 )
+        for ( int64_t i = 0; i < rtVectorLength( entry.header->lines.get() ); ++i )
+            line( rtStringFrom( rt___VectorObjBorrowed( entry.header->lines.get(), i ) ) );
+    else
+        for ( const HeaderLine *one = &entry.first;; one = &head.headers->moreLines[one->next] )
+        {
+            line( head.headers->lineOf( *one ) );
+            if ( one->next == -1 )
+                break;
+        }
+}
+
+// All pieces of a head in order.
+template <class OUTPUT>
+static void write( OUTPUT &to, const Head &head )
+{
+    static constexpr HeaderEntry contentLength = {
+        literal<"Content-Length">(), nullptr, {}, -1, lengthNumber
+    };
+    to.add( head.startLineBytes );
+    if ( const auto &[first, second, third] = head.startLine; first )
+    {
+        to.add( first.get() );
+        to.add( blank );
+        to.add( second.get() );
+        to.add( blank );
+        to.add( third.get() );
+        to.add( lineEnd );
+    }
+    auto writeHeader = [&]( const HeaderEntry &entry )
+    { eachLine( head, entry, [&]( auto line ) { to.addLine( entry, line ); } ); };
+    for ( const HeaderEntry &entry : head.headers->entries )
+        if ( entry.name )
+            writeHeader( entry );
+    if ( !head.headers->is[lengthNumber] )
+        writeHeader( contentLength );
+    to.add( lineEnd );
+}
+
+// Outputs: the head is written once to learn its size, and then into a buffer of that size. Most texts are ASCII and have
+// as many bytes as code points, so a text is looked at only once: if another is among them, all is done again with
+// exact sizes.
+enum class Sizes
+{
+    ascii,
+    exact
+};
+
+template <Sizes SIZES>
 struct Counter
 {
-    std::size_t size = 0;
+    int64_t size = 0;
 
-    void add( Bytes bytes ) { size += bytes.size(); }
-    void add( WithSlack piece ) { size += piece.bytes.size(); }
-    void add( RT_STRING string ) { size += static_cast<std::size_t>( rt___StringUtf8Length( string ) ); }
+    void add( Bytes bytes ) { size += lengthOf( bytes ); }
+    void add( RT_STRING string )
+    {
+        size += SIZES == Sizes::ascii ? textOf( string ).length : rt___StringUtf8Length( string );
+    }
+    template <class LINE>
+    void addLine( const HeaderEntry &entry, LINE line )
+    {
+        size += entry.number != -1 ? lengthOf( knownNames[entry.number].bytes ) : textOf( entry.name ).length;
+        size += lengthOf( nameEnd ) + lengthOf( lineEnd );
+        add( line );
+    }
 };
+
+template <Sizes SIZES>
 struct Writer
 {
     unsigned char *at;
+    bool hasRoom = true; // no text so far has more bytes than were counted
 
+    // After the bytes, rt::scanSlack more are readable, and as many may be written after an encoded message.
     void add( Bytes bytes )
     {
-        std::memcpy( at, bytes.data(), bytes.size() );
+        rt::copy( bytes.data(), lengthOf( bytes ), at );
         at += bytes.size();
     }
-    void add( WithSlack piece )
+    void add( RT_STRING string )
     {
-        rt::copy( piece.bytes.data(), lengthOf( piece.bytes ), at );
-        at += piece.bytes.size();
+        if constexpr ( SIZES == Sizes::exact )
+            at += rt___StringUtf8Encode( string, at );
+        else
+        {
+            hasRoom = rt___StringTryNarrow( string, at ) && hasRoom;
+            at += textOf( string ).length;
+        }
     }
-    void add( RT_STRING string ) { at += rt___StringUtf8Encode( string, at ); }
+    template <class LINE>
+    void addLine( const HeaderEntry &entry, LINE line )
+    {
+        if ( entry.number != -1 )
+            add( knownNames[entry.number].bytes );
+        else
+            add( entry.name );
+        add( nameEnd );
+        add( line );
+        add( lineEnd );
+    }
 };
 
-template <class OUTPUT, class... PIECE>
-static void write( OUTPUT &to, const PIECE &...pieces )
+// The encoded message, or null if the sizes are wrong.
+template <Sizes SIZES>
+static RT_BUFFER tryEncode( const Head &head, Bytes body )
 {
-    ( to.add( pieces ), ... );
+    Counter<SIZES> counter;
+    write( counter, head );
+    unsigned char *into;
+    RT_BUFFER encoded = rt___BufferCreateWithLength( counter.size + lengthOf( body ), &into );
+    Writer<SIZES> writer = { into };
+    write( writer, head );
+    rt::copyItems( writer.at, reinterpret_cast<const unsigned char *>( body.data() ), lengthOf( body ) );
+    if ( writer.hasRoom )
+        return encoded;
+    rtBufferRelease( encoded );
+    return nullptr;
 }
 
-// The lines of a header that was decoded and not replaced go out as they came; those of any other are its object's.
-template <class OUTPUT, class NAME>
-static void writeHeader( OUTPUT &to, const NAME &name, HeaderTable *table, const HeaderEntry &entry )
+[[gnu::cold]] static RT_BUFFER encodeExactly( const Head &head, Bytes body )
 {
-    if ( entry.first.begin == -1 )
-    {
-        RT_VECTOR lines = entry.header->lines.get();
-        for ( int64_t i = 0; i < rtVectorLength( lines ); ++i )
-            write( to, name, colon, rtStringFrom( rt___VectorObjBorrowed( lines, i ) ), lineEnd );
-        return;
-    }
-    write( to, name, colon, WithSlack{ table->lineOf( entry.first ) }, lineEnd );
-    for ( int64_t next = entry.first.next; next != -1; next = table->moreLines[next].next )
-        write( to, name, colon, WithSlack{ table->lineOf( table->moreLines[next] ) }, lineEnd );
-}
-
-// Content-Length, with the true length, goes where the fragment has that header, or after all others.
-template <class OUTPUT>
-static void write( OUTPUT &to, TELSX_MESSAGE_FRAGMENT frag, const StartLine &startLine, Bytes bodyLength )
-{
-    static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
-    auto writeLength = [&] { write( to, knownNames[lengthNumber].bytes, colon, bodyLength, lineEnd ); };
-    HeaderTable *headers = frag->headers.get();
-    if ( const auto &[first, second, third] = startLine; first )
-        write( to, first.get(), blank, second.get(), blank, third.get(), lineEnd );
-    for ( const HeaderEntry &entry : headers->entries )
-        if ( entry.number == lengthNumber && entry.name )
-            writeLength();
-        else if ( entry.number != -1 && entry.name )
-            writeHeader( to, WithSlack{ knownNames[entry.number].bytes }, headers, entry );
-        else if ( entry.name )
-            writeHeader( to, entry.name, headers, entry );
-    if ( !headers->is[lengthNumber] )
-        writeLength();
-    write( to, lineEnd );
-    if ( frag->body )
-        write( to, bytesOf( frag->body.get() ) );
+    return tryEncode<Sizes::exact>( head, body );
 }
 
 RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
-    StartLine startLine;
-    if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
-        startLine = startLineOf( frag );
-    Decimal bodyLength( frag->body ? rtBufferLength( frag->body.get() ) : 0 );
-
-    Counter counter;
-    write( counter, frag, startLine, bodyLength.chars() );
-    Writer writer;
-    RT_BUFFER encoded = rt___BufferCreateWithLength( static_cast<int64_t>( counter.size ), &writer.at );
-    write( writer, frag, startLine, bodyLength.chars() );
-    return encoded;
+    Bytes body = frag->body ? bytesOf( frag->body.get() ) : Bytes();
+    Head head = { {}, {}, Decimal( lengthOf( body ) ), frag->headers.get() };
+    if ( frag->startLineSize != -1 )
+        head.startLineBytes = { head.headers->bytes(), static_cast<std::size_t>( frag->startLineSize ) };
+    else if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )
+        head.startLine = startLineOf( frag );
+    RT_BUFFER encoded = tryEncode<Sizes::ascii>( head, body );
+    return encoded ? encoded : encodeExactly( head, body );
 }

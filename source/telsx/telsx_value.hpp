@@ -31,7 +31,6 @@ public:
 
     // Whether text is left that does not begin with a semicolon; some headers stop there instead of failing.
     bool stopped() const { return bad && !open && !behindSemi; }
-    Text behind() const { return rest; }
 
     // Whether the parameter has this name, in any case, and a value that begins as the skipper requires. The member
     // value is then as much of it as the skipper matches.

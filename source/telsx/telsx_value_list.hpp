@@ -2,42 +2,12 @@
 // text and read one by one when a caller asks. A header is written with one line for each value.
 #pragma once
 
-#include <atomic>
-
 #include "telsx/telsx_header.hpp"
 #include "telsx/telsx_items.hpp"
 #include "telsx/telsx_skip.h"
 
 namespace telsx
 {
-
-// A value that was read before anybody asked for it. The first caller gets it, so every caller has an object of its
-// own; a copy of the header has none.
-template <class VALUE>
-class ReadValue
-{
-public:
-    ReadValue() = default;
-    ReadValue &operator=( const ReadValue & )
-    {
-        clear( *this );
-        return *this;
-    }
-
-    // Several threads may call this at once. Null if the value is gone.
-    VALUE take() const { return std::atomic_ref( value ).exchange( nullptr, std::memory_order_acq_rel ); }
-
-    // Only while nobody else has the header.
-    void put( Ref<VALUE> read )
-    {
-        clear( *this );
-        value = read.take();
-    }
-    friend void clear( ReadValue &read ) { adopt( std::exchange( read.value, nullptr ) ); }
-
-private:
-    mutable VALUE value = nullptr;
-};
 
 // The list of a kind that has nothing else. A kind that has more than values declares the same functions.
 struct ValueList
@@ -49,13 +19,6 @@ struct ValueList
 
     // Drops what is no longer true when the list changes.
     void beforeChange() {}
-
-    // The value at the index, a new reference, if it has already been read, else null.
-    template <class VALUE>
-    static VALUE takeRead( int64_t )
-    {
-        return nullptr;
-    }
 };
 static_assert( rt::listsAllFields<ValueList>() );
 
@@ -81,7 +44,7 @@ bool decodeValues( Ref<RT_VECTOR> &values, HeaderLines &lines, SKIP skipValue, W
 {
     if ( lines.empty() )
         return withoutLines == WithoutLines::isEmpty;
-    static constexpr int64_t usual = 2;
+    static constexpr int64_t usual = 3;
     values = adopt( rtVectorCreateWithCapacity( usual ) );
     ItemReader items( lines, skipValue, telsx___SkipComma );
     while ( items.next() )
@@ -104,13 +67,15 @@ void insertValue( T *hdr, int64_t index, Ref<RT_STRING> text )
     rt___VectorInsertTaken( valuesToChange( hdr ), index, rt::asObj( text.take() ) );
 }
 
-// The value at the index, read by its own decoder.
+// The value at the index, read by its own decoder, or by a shorter way that the header knows.
 template <class T, class VALUE>
 VALUE tryDecodeValueAt( const T &hdr, int64_t index, VALUE ( *tryDecode )( const RT_CHAR *, int64_t ) )
 {
-    if ( VALUE value = hdr.template takeRead<VALUE>( index ) )
-        return value;
-    return textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) ).as( tryDecode );
+    Text text = textOf( rtStringFrom( rt___VectorObjBorrowed( hdr.values.get(), index ) ) );
+    if constexpr ( requires { hdr.tryDecodeValue( index, text ); } )
+        return hdr.tryDecodeValue( index, text );
+    else
+        return text.as( tryDecode );
 }
 
 } // namespace telsx

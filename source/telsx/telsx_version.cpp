@@ -85,10 +85,12 @@ Ref<TELSX_VERSION> telsx::tryDecodeVersion( Text text )
                                                                     : tryDecode( text ) );
 }
 
+bool telsx::isSharedVersion( TELSX_VERSION version ) { return version == telsx___VersionSip20; }
+
 RT_STRING telsx___VersionEncode( TELSX_VERSION version )
 {
     TELSX_ASSERT( version );
-    if ( version == telsx___VersionSip20 )
+    if ( isSharedVersion( version ) )
         return literal<"SIP/2.0">();
     return joined( version->protocolName, '/', version->protocolVersion ).take();
 }

@@ -10,4 +10,7 @@ namespace telsx
 // What telsx___VersionTryDecode makes of the text, or the shared object if it is SIP/2.0.
 Ref<TELSX_VERSION> tryDecodeVersion( Text text );
 
+// Whether it is that shared object, which is written as SIP/2.0.
+bool isSharedVersion( TELSX_VERSION version );
+
 } // namespace telsx

@@ -141,7 +141,7 @@ RT_STRING telsx___ViaEncode( TELSX_VIA via )
             transportInUpperCase( via->transport.get() ), ' ',
             adopt( telsx___HostEncode( via->host.get() ) ) );
     if ( rt::present( via->port ) )
-        append( text, ':', adopt( telsx___PortEncode( via->port ) ) );
+        append( text, ':', Decimal( via->port ) );
     ParamWriter params( text );
     params.write<"ttl">( via->ttl, telsx___TtlEncode );
     params.write<"maddr">( via->maddr, telsx___HostEncode );
@@ -159,24 +159,26 @@ static int64_t skipAddress( const RT_CHAR *chs, int64_t length )
     return v6 ? v6 : telsx___SkipIpV4Address( chs, length );
 }
 
-Ref<TELSX_VIA> telsx::takeVia( Text &rest )
+TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
 {
+    TELSX_ASSERT_CHARS( chs, length );
+    Text rest = { chs, length };
     auto version = tryDecodeVersion( rest.take( telsx___SkipVersion ) );
     if ( !version || !rest.take( telsx___SkipSlash ) )
-        return {};
+        return nullptr;
     Text transport = rest.take( telsx___SkipTransport );
     if ( !transport || !rest.take( telsx___SkipLws ) )
-        return {};
+        return nullptr;
     Text hostText = rest.take( telsx___SkipHost );
     Ref<RT_STRING> host = hostText ? hostOf( hostText ) : Ref<RT_STRING>();
     if ( !host )
-        return {};
+        return nullptr;
     auto via = adopt( create( std::move( version ), transportInLowerCase( transport ), std::move( host ) ) );
     if ( rest.take( telsx___SkipColon ) )
     {
         via->port = rest.take( telsx___SkipPort ).as( telsx___PortTryDecode );
         if ( !rt::present( via->port ) )
-            return {};
+            return nullptr;
     }
 
     ParamReader param( rest );
@@ -197,16 +199,74 @@ Ref<TELSX_VIA> telsx::takeVia( Text &rest )
             param.store( via->branch, param.value.copy() );
         param.storeGeneric( via->genericParams );
     }
-    if ( param.failed() && !param.stopped() )
-        return {};
-    rest = param.behind();
-    return via;
+    return param.failed() ? nullptr : via.take();
 }
 
-TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
+static constexpr int64_t versionLength = 7; // of SIP/2.0
+
+int64_t telsx::skipVia( Text text, ViaPlaces &places )
 {
-    TELSX_ASSERT_CHARS( chs, length );
-    Text rest = { chs, length };
-    Ref<TELSX_VIA> via = takeVia( rest );
-    return rest ? nullptr : via.take();
+    Text rest = text;
+    auto at = [&text, &rest] { return static_cast<uint16_t>( text.length - rest.length ); };
+    places = {};
+    if ( !rest.take( telsx___SkipVersion ) || !rest.take( telsx___SkipSlash ) )
+        return 0;
+    bool isPlain = text.length <= UINT16_MAX && at() == versionLength + 1;
+    if ( !rest.take( telsx___SkipTransport ) )
+        return 0;
+    places.transportEnd = at();
+    if ( !rest.take( telsx___SkipLws ) )
+        return 0;
+    isPlain = isPlain && at() == places.transportEnd + 1;
+    if ( !rest.take( telsx___SkipHost ) )
+        return 0;
+    places.hostEnd = places.portEnd = at();
+    if ( Text colon = rest.take( telsx___SkipColon ) )
+    {
+        isPlain = isPlain && colon.length == 1;
+        if ( !rest.take( telsx___SkipPort ) )
+            return 0;
+        places.portEnd = at();
+    }
+    for ( Text param = rest; param.take( telsx___SkipSemi ); param = rest )
+    {
+        Text whole = param.take( telsx___SkipViaParams );
+        if ( !whole )
+            break;
+        rest = param;
+        auto begin = static_cast<uint16_t>( at() - whole.length );
+        if ( beginsInAnyCase<"branch=">( whole ) && whole.length > 7
+             && telsx___SkipBranch( whole.chs + 7, 1 ) )
+            places.branch = begin + 7, places.branchEnd = at();
+        else if ( beginsInAnyCase<"rport">( whole ) && ( whole.length == 5 || whole.chs[5] == '=' ) )
+            places.rport = whole.length == 5 ? at() : begin + 6, places.rportEnd = at();
+        else
+            isPlain = false;
+    }
+    places.areKnown = isPlain;
+    return text.length - rest.length;
+}
+
+TELSX_VIA telsx::tryDecodeVia( Text text, const ViaPlaces &places )
+{
+    auto between = [text]( int64_t begin, int64_t end ) { return text.first( end ).behind( begin ); };
+    auto number = [&between]( int64_t begin, int64_t end )
+    { return between( begin, end ).as( telsx___PortTryDecode ); };
+    bool hasPort = places.portEnd > places.hostEnd, hasNumericRport = places.rportEnd > places.rport;
+    int64_t port = hasPort ? number( places.hostEnd + 1, places.portEnd ) : -1;
+    int64_t rport = hasNumericRport ? number( places.rport, places.rportEnd ) : -1;
+    if ( !places.areKnown || hasPort != rt::present( port ) || hasNumericRport != rt::present( rport ) )
+        return text.as( telsx___ViaTryDecode );
+    Ref<RT_STRING> host = hostOf( between( places.transportEnd + 1, places.hostEnd ) );
+    if ( !host )
+        return nullptr;
+    TELSX_VIA via = create( tryDecodeVersion( text.first( versionLength ) ),
+                            transportInLowerCase( between( versionLength + 1, places.transportEnd ) ),
+                            std::move( host ) );
+    via->port = port;
+    via->rportNumeric = rport;
+    via->rportEmpty = places.rport && !hasNumericRport;
+    if ( places.branch )
+        via->branch = between( places.branch, places.branchEnd ).copy();
+    return via;
 }
