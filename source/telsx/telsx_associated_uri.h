@@ -1,6 +1,6 @@
 /* Associated address: another address of a registered party. Element of P-Associated-Uri.
  *
- *     p-aso-uri-spec = name-addr *( SEMI ai-param )
+ *     p-aso-uri-spec = name-addr *( SEMI ai-param )  ; RFC 7315
  *     ai-param = generic-param
  *
  * (RFC 7315, 5.1) Values sort by the fields in the order below. */

@@ -1,6 +1,6 @@
 /* P-Associated-Uri header: the other addresses of a registered party (RFC 7315, 5.1).
  *
- *     P-Associated-URI = "P-Associated-URI" HCOLON [ p-aso-uri-spec *( COMMA p-aso-uri-spec ) ]
+ *     P-Associated-URI = "P-Associated-URI" HCOLON [ p-aso-uri-spec *( COMMA p-aso-uri-spec ) ]  ; RFC 7315
  *
  * A list of values of telsx_associated_uri.h. */
 #ifndef TELSX_TELSX_HEADER_P_ASSOCIATED_URI_H

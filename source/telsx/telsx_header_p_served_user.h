@@ -1,6 +1,6 @@
 /* P-Served-User header: the user whom a server acts for (RFC 5502).
  *
- *     P-Served-User = "P-Served-User" HCOLON ( name-addr / addr-spec ) *( SEMI served-user-param )
+ *     P-Served-User = "P-Served-User" HCOLON ( name-addr / addr-spec ) *( SEMI served-user-param )  ; RFC 5502
  *     served-user-param = sessioncase-param / registration-state-param / generic-param
  *     sessioncase-param = "sescase" EQUAL ( "orig" / "term" )
  *     registration-state-param = "regstate" EQUAL ( "unreg" / "reg" )

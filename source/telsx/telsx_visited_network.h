@@ -1,6 +1,6 @@
 /* Visited network: a network that a request passes on its way home. Element of P-Visited-Network-Id.
  *
- *     vnetwork-spec = ( token / quoted-string ) *( SEMI vnetwork-param )
+ *     vnetwork-spec = ( token / quoted-string ) *( SEMI vnetwork-param )  ; RFC 7315
  *     vnetwork-param = generic-param
  *
  * (RFC 7315, 5.3) Values sort by the fields in the order below. */
