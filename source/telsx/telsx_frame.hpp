@@ -107,6 +107,15 @@ using rt::share;
         TELSX_OWN( SELF )->MEMBER = std::move( normal );                         \
     }
 
+// Getter and setter of an RT_BOOL, which is stored as 0 or 1.
+#define TELSX_DEFINE_FLAG( NAME, SELF, WORD, MEMBER )                          \
+    TELSX_DEFINE_GETTER( NAME, SELF, WORD, MEMBER )                            \
+    void telsx##NAME##Set##WORD( TELSX_HANDLE( NAME ) * SELF, RT_BOOL MEMBER ) \
+    {                                                                          \
+        TELSX_ASSERT_HANDLE( SELF );                                           \
+        TELSX_OWN( SELF )->MEMBER = MEMBER != 0;                               \
+    }
+
 // Has and Del of a field that may be absent.
 #define TELSX_DEFINE_OPTION( NAME, SELF, WORD, MEMBER )         \
     RT_BOOL telsx##NAME##Has##WORD( TELSX_HANDLE( NAME ) SELF ) \

@@ -31,7 +31,7 @@ TELSX_DEFINE_GETTER( HeaderReplaces, hdr, FromTag, fromTag )
 TELSX_DEFINE_OPTION( HeaderReplaces, hdr, FromTag, fromTag )
 TELSX_DEFINE_GETTER( HeaderReplaces, hdr, ToTag, toTag )
 TELSX_DEFINE_OPTION( HeaderReplaces, hdr, ToTag, toTag )
-TELSX_DEFINE_GETTER( HeaderReplaces, hdr, EarlyOnly, earlyOnly )
+TELSX_DEFINE_FLAG( HeaderReplaces, hdr, EarlyOnly, earlyOnly )
 
 void telsxHeaderReplacesSetFromTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
 {
@@ -45,12 +45,6 @@ void telsxHeaderReplacesSetToTag( TELSX_HEADER_REPLACES *hdr, RT_STRING tag )
     TELSX_ASSERT_HANDLE( hdr );
     TELSX_ASSERT_OK( telsxTagOk, tag );
     rt::put( TELSX_OWN( hdr )->toTag, tag );
-}
-
-void telsxHeaderReplacesSetEarlyOnly( TELSX_HEADER_REPLACES *hdr, RT_BOOL earlyOnly )
-{
-    TELSX_ASSERT_HANDLE( hdr );
-    TELSX_OWN( hdr )->earlyOnly = earlyOnly != 0;
 }
 
 TELSX_HEADER_REPLACES telsxHeaderReplacesCreate( RT_STRING callId )

@@ -98,22 +98,23 @@ constexpr uint64_t knownNameKey( uint64_t firstEight, const CHAR *name, std::siz
 constexpr std::size_t knownNameSlots = 2048;
 constexpr std::size_t slotOf( uint64_t key, uint64_t factor ) { return key * factor >> 53; }
 
-// A factor that gives each known name a slot of its own, as about one factor in ten does.
+// A factor that gives each known name a slot of its own, as about one factor in a hundred does.
 consteval uint64_t findFactor()
 {
+    std::array<uint64_t, std::size( knownNames )> keys = {};
+    for ( std::size_t i = 0; i < keys.size(); ++i )
+    {
+        std::string_view name = knownNames[i].spelling;
+        keys[i] = knownNameKey( firstEightOf( name.data(), name.size() ), name.data(), name.size() );
+    }
     uint64_t factor = 0x9E3779B97F4A7C15;
-    for ( int tries = 0; tries < 200; ++tries, factor = factor * 0x5851F42D4C957F2D + 2 )
+    for ( int tries = 0; tries < 2000; ++tries, factor = factor * 0x5851F42D4C957F2D + 2 )
     {
         std::array<bool, knownNameSlots> isTaken = {};
         std::size_t at = 0;
-        for ( ; at < std::size( knownNames ); ++at )
-        {
-            std::string_view name = knownNames[at].spelling;
-            uint64_t key = knownNameKey( firstEightOf( name.data(), name.size() ), name.data(), name.size() );
-            if ( std::exchange( isTaken[slotOf( key, factor )], true ) )
-                break;
-        }
-        if ( at == std::size( knownNames ) )
+        while ( at < keys.size() && !std::exchange( isTaken[slotOf( keys[at], factor )], true ) )
+            ++at;
+        if ( at == keys.size() )
             return factor;
     }
     std::abort(); // two names have the same key

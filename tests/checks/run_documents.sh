@@ -76,7 +76,7 @@ awk -F '|' '
     $2 ~ /^ ([A-Z][A-Za-z-]*|`TELSX_[A-Z_]*`) $/ {
         key = $2; gsub( /[` ]/, "", key )
         rest = $( NF - 1 )
-        while( match( rest, /`[A-Za-z]+`\??/ ) ) {
+        while( match( rest, /`[A-Za-z0-9]+`\??/ ) ) {
             field = substr( rest, RSTART, RLENGTH ); gsub( /`/, "", field ); print key, field
             rest = substr( rest, RSTART + RLENGTH )
         }
