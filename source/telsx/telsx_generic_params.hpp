@@ -97,4 +97,11 @@ private:
     std::size_t count = 0;
 };
 
+// The text of parameters that follow nothing: without the semicolon that the writer puts before the first.
+inline Ref<RT_STRING> withoutFirstSemi( const Ref<RT_STRING> &params )
+{
+    Text text = textOf( params );
+    return text.behind( text ? 1 : 0 ).copy();
+}
+
 } // namespace telsx

@@ -2,7 +2,7 @@
 #include "telsx/telsx_header_expires.h"
 
 #include "telsx/telsx_delta_seconds.h"
-#include "telsx/telsx_header.hpp"
+#include "telsx/telsx_header_of_number.hpp"
 
 using namespace telsx;
 
@@ -14,28 +14,5 @@ struct TELSX_HEADER_EXPIRES_
     static constexpr auto fields( auto &self ) { return std::tie( self.deltaSeconds ); }
 };
 
-TELSX_DEFINE_OBJECT( HeaderExpires, HEADER_EXPIRES, nullptr, telsx___HeaderExpiresCompareFunc,
-                     telsx___HeaderExpiresToStringFunc )
-TELSX_DEFINE_COMPARE_FUNC( HeaderExpires, mf )
-TELSX_DEFINE_HEADER( HeaderExpires, "Expires" )
-TELSX_DEFINE_FIELD( HeaderExpires, hdr, DeltaSeconds, deltaSeconds, telsxDeltaSecondsOk( deltaSeconds ) )
-
-TELSX_HEADER_EXPIRES telsxHeaderExpiresCreate( int64_t deltaSeconds )
-{
-    TELSX_ASSERT( telsxDeltaSecondsOk( deltaSeconds ) );
-    TELSX_HEADER_EXPIRES hdr = rt::create<TELSX_HEADER_EXPIRES_>( telsxHeaderExpiresSort() );
-    hdr->deltaSeconds = deltaSeconds;
-    return hdr;
-}
-
-TELSX_MESSAGE_HEADER telsxHeaderExpiresEncode( TELSX_HEADER_EXPIRES hdr )
-{
-    TELSX_ASSERT( hdr );
-    return createHeader( literal<"Expires">(), adopt( telsx___DeltaSecondsEncode( hdr->deltaSeconds ) ) );
-}
-
-static TELSX_HEADER_EXPIRES decode( HeaderLines &lines )
-{
-    int64_t deltaSeconds = lines.lastText().as( telsx___DeltaSecondsTryDecode );
-    return deltaSeconds == -1 ? nullptr : telsxHeaderExpiresCreate( deltaSeconds );
-}
+TELSX_DEFINE_NUMBER_OBJECT( HeaderExpires, HEADER_EXPIRES, mf, "Expires" )
+TELSX_DEFINE_HEADER_OF_NUMBER( HeaderExpires, hdr, "Expires", DeltaSeconds, deltaSeconds, DeltaSeconds )

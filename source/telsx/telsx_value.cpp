@@ -13,7 +13,7 @@ bool ParamReader::next()
     bad = bad || open;
     if ( bad || !rest )
         return false;
-    open = behindSemi = bool( rest.take( telsx___SkipSemi ) );
+    open = behindSemi = std::exchange( atFirst, false ) || rest.take( telsx___SkipSemi );
     bad = !open;
     return open;
 }

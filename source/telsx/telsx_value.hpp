@@ -25,6 +25,14 @@ class ParamReader
 public:
     explicit ParamReader( Text behindFront ) : rest( behindFront ) {}
 
+    // For a text that consists of parameters, and so has no semicolon before the first.
+    static ParamReader withoutFront( Text params )
+    {
+        ParamReader param( params );
+        param.atFirst = true;
+        return param;
+    }
+
     // Whether there is another parameter. False at the end and at bad text; failed() tells which.
     bool next();
     bool failed() const { return bad; }
@@ -46,6 +54,16 @@ public:
     bool isBare()
     {
         return open && beginsInAnyCase<NAME>( rest ) && hasNoValue( std::ssize( NAME.chs ) - 1 );
+    }
+
+    // Whether the parameter is this name and no more, in any case. Names that only begin with it are other parameters.
+    template <rt::Ascii NAME>
+    bool isWord()
+    {
+        if ( !open )
+            return false;
+        value = rest.first( telsx___SkipGenericParam( rest.chs, rest.length ) );
+        return findWordInAnyCase<NAME>( value );
     }
 
     // Stores the decoded value unless it is null or -1; returns whether it did.
@@ -75,6 +93,7 @@ private:
     bool take();
 
     Text rest;               // from the parameter's name on
+    bool atFirst = false;    // no semicolon precedes the next parameter
     bool open = false;       // nothing has taken the parameter yet
     bool bad = false;        // the loop has failed
     bool behindSemi = false; // the last semicolon was found

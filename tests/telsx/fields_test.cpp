@@ -72,6 +72,7 @@ RT_TIME readTime( const RT_CHAR *chs, int64_t length )
     return telsxHeaderDateTime( adopt( telsxHeaderDateTryDecode( raw.get() ) ).get() );
 }
 #define telsxVersionRead telsx___VersionTryDecode
+#define telsxGenericParamsRead telsx___GenericParamsTryDecode
 #define netAddressRead netAddressTryCreateFromChars
 #define rtTimeRead readTime
 
@@ -191,7 +192,10 @@ void expectHides( const Type &type, const Field &field, Ref<RT_OBJ> object, cons
     if ( !name.starts_with( ';' ) )
         return;
     name = name.substr( 1, name.find( '=' ) - 1 );
-    EXPECT_TRUE( lettersOf( field.word ).starts_with( lettersOf( name ) ) ) << name;
+    std::size_t at = 0;
+    for ( char letter : lettersOf( name ) )
+        at = std::min( lettersOf( field.word ).find( letter, at ), field.word.size() ) + 1;
+    EXPECT_LE( at, field.word.size() ) << name << " abbreviates " << field.word;
     params->set( object.address(), ( ";" + name + "=[::1];y" ).c_str() );
     EXPECT_FALSE( field.has( object.get() ) );
     field.set( object.address(), sample.good );
@@ -275,8 +279,16 @@ TEST( Fields, AreWhatTheirTextSays )
             { "SipIri", "sip:%3B%61:b%40@c:1;transport=D;user=E;method=F;ttl=2;maddr=G",
               "0|;a|b@|c|1|d|e|F|2|G|0|" },
             { "TelIri", "tel:+1;ext=2;isub=%33;phone-context=d", "+1|2|3|d|" },
-            { "HeaderCseq", "1 A", "1|A|" },
             { "HeaderPServedUser", "B <sip:a>;sescase=orig;regstate=reg", "sip:a|B|orig|reg||" },
+            { "Passport", "a;info=<sip:b>;alg=c;ppt=d", "a|sip:b|c|d||" },
+            { "SecurityMechanism", "a;q=0.5;d-alg=b;d-qop=c", "a|500|b|c|(null)||" },
+            { "UuiValue", "a;purpose=b;content=c;encoding=d", "a|b|c|d||" },
+            { "HeaderCseq", "1 A", "1|A|" },
+            { "HeaderPChargingFunctionAddresses", "ccf=a;ecf=b;ccf-2=c;ecf-2=d", "a|b|c|d||" },
+            { "HeaderPChargingVector",
+              "icid-value=a;icid-generated-at=b;orig-ioi=c;term-ioi=d;transit-ioi=\"e.1\";related-icid=f"
+              ";related-icid-generated-at=g",
+              "a|b|c|d|e.1|f|g||" },
             { "HeaderRack", "1 2 A", "1|2|A|" },
             { "HeaderReplaces", "a;from-tag=f;to-tag=t", "a|f|t|0||" },
             { "HeaderSessionId", "ab30317f1a784dc48ff824d0d3715d86;remote=00000000000000000000000000000000",
