@@ -1,5 +1,5 @@
-// Captures: whatever the packets are, they stop nothing, what is held has a bound, and no byte is given out twice. And
-// a stream says the same whatever segments it comes in: cut anywhere, in any order, twice, overlapping.
+// Captures: whatever the packets are, memory is bounded and no byte is given out twice. A stream yields the same messages
+// whatever segments it comes in: cut anywhere, in any order, twice, overlapping.
 #include <algorithm>
 #include <string>
 #include <vector>

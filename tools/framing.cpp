@@ -1,7 +1,6 @@
 #include "framing.hpp"
 
 #include <algorithm>
-#include <cctype>
 
 namespace tools
 {
@@ -13,12 +12,12 @@ constexpr std::size_t maxStartLine = 8192; // a longer one is not taken for one
 
 bool isBlank( char ch ) { return ch == ' ' || ch == '\t'; }
 bool isLineEnd( char ch ) { return ch == '\r' || ch == '\n'; }
+char lowered( char ch ) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>( ch + 0x20 ) : ch; }
 
 bool equalsLower( std::string_view text, std::string_view lower )
 {
     return std::equal( text.begin(), text.end(), lower.begin(), lower.end(),
-                       []( char a, char b )
-                       { return std::tolower( static_cast<unsigned char>( a ) ) == b; } );
+                       []( char a, char b ) { return lowered( a ) == b; } );
 }
 
 // Without blanks and line ends on both sides.
@@ -72,7 +71,7 @@ std::optional<std::string_view> headerValue( std::string_view message, std::stri
         if ( rest.empty() || isLineEnd( rest[0] ) )
             break;
         // Most lines are told apart by their first letter.
-        int first = std::tolower( static_cast<unsigned char>( rest[0] ) );
+        char first = lowered( rest[0] );
         if ( first != name[0] && ( compact.empty() || first != compact[0] ) )
             continue;
         std::size_t colon = rest.substr( 0, name.size() + maxStartLine ).find_first_of( ":\n" );

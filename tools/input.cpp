@@ -31,6 +31,9 @@ bool readFile( const char *name, const Options &options, const Receive &receive,
         complain( name, std::strerror( errno ) );
         return false;
     }
+    static char buffer[1 << 18]; // the usual one holds only a few packets
+    if ( !isInput )
+        std::setvbuf( file, buffer, _IOFBF, sizeof buffer );
     int64_t messages = 0;
     if ( isCapture( file ) )
         messages = readCapture( name, file, options, receive, tick );

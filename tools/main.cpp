@@ -34,7 +34,7 @@ int run( const Options &options )
                    [&]( std::FILE *from ) { progress.tick( from ); } )
                && read;
     progress.clear();
-    report->finish();
+    found = report->finish() || found;
     return !read ? exitTrouble : found ? exitFound : exitGood;
 }
 

@@ -17,11 +17,11 @@ class Report
 public:
     virtual ~Report() = default;
 
-    // The next message; whether errors or warnings were found in it.
+    // The next message. Returns whether errors or warnings are known to be in it.
     virtual bool add( const Cut &message, const Place &place ) = 0;
 
-    // There are no more messages.
-    virtual void finish() {}
+    // There are no more messages. Returns whether errors or warnings were found that add did not yet know of.
+    virtual bool finish() { return false; }
 };
 
 std::unique_ptr<Report> makeCheckText( const Options &options );

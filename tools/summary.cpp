@@ -1,6 +1,10 @@
-// Counts of messages and findings.
+// Counts of messages and findings. Several threads check messages, since a large capture has many of them.
 #include <algorithm>
+#include <condition_variable>
+#include <deque>
 #include <map>
+#include <mutex>
+#include <thread>
 
 #include "json.hpp"
 #include "report.hpp"
@@ -17,6 +21,12 @@ struct Counts
     int64_t findings[3] = {}; // by severity
 
     int64_t all() const { return findings[0] + findings[1] + findings[2]; }
+    void operator+=( const Counts &more )
+    {
+        messages += more.messages;
+        for ( std::size_t i = 0; i < std::size( findings ); ++i )
+            findings[i] += more.findings[i];
+    }
 };
 
 // Counts by name, for a limited number of names.
@@ -32,6 +42,12 @@ public:
         if ( at == counts.end() )
             at = counts.try_emplace( counts.size() < maxNames ? std::string( name ) : "(others)" ).first;
         return at->second;
+    }
+
+    void operator+=( const Tally &more )
+    {
+        for ( const auto &[name, counted] : more.counts )
+            ( *this )[name] += counted;
     }
 
     using Row = std::pair<std::string, Counts>;
@@ -51,14 +67,17 @@ private:
     std::map<std::string, Counts, std::less<>> counts;
 };
 
-class Summary : public Report
+// What one thread has counted.
+struct Counted
 {
-public:
-    explicit Summary( const Options &chosen ) : options( chosen ) {}
+    Counts total;
+    int64_t unreadable = 0;
+    bool areBad = false;
+    Tally methods, statuses, codes, agents;
 
-    bool add( const Cut &message, const Place & ) override
+    void add( const Cut &message, const std::set<std::string> &silenced )
     {
-        std::vector<Finding> findings = findIn( message, options.silenced );
+        std::vector<Finding> findings = findIn( message, silenced );
         bool isUnreadable = !findings.empty() && findings.front().severity == TELSX_FINDING_SEVERITY_ERROR;
         ++total.messages;
         if ( isUnreadable )
@@ -78,15 +97,18 @@ public:
             for ( Counts *each : { &total, &ofAgent, &ofCode } )
                 ++each->findings[finding.severity];
         }
-        return areBad( findings );
+        areBad = areBad || tools::areBad( findings );
     }
 
-    void finish() override
+    void operator+=( const Counted &more )
     {
-        if ( options.json )
-            printJson();
-        else
-            printText();
+        total += more.total;
+        unreadable += more.unreadable;
+        areBad = areBad || more.areBad;
+        methods += more.methods;
+        statuses += more.statuses;
+        codes += more.codes;
+        agents += more.agents;
     }
 
 private:
@@ -98,7 +120,115 @@ private:
         else
             ++statuses[bytes.substr( word.size() + 1, 3 )].messages;
     }
+};
 
+// Messages on their way to a thread, one after another.
+struct Batch
+{
+    static constexpr std::size_t enough = 1 << 18; // bytes
+
+    struct Part
+    {
+        std::size_t length;
+        bool lacksLength;
+    };
+    std::string bytes;
+    std::vector<Part> parts;
+};
+
+// Threads that count the messages of batches. Few batches wait for them, so that memory stays bounded.
+class Counters
+{
+public:
+    explicit Counters( const std::set<std::string> &silencedCodes ) : silenced( silencedCodes )
+    {
+        constexpr unsigned mostThreads = 16;
+        counted.resize( std::clamp( std::thread::hardware_concurrency(), 1U, mostThreads ) );
+        for ( Counted &own : counted )
+            threads.emplace_back( [this, &own] { run( own ); } );
+    }
+
+    void add( Batch batch )
+    {
+        std::unique_lock lock( mutex );
+        changed.wait( lock, [this] { return waiting.size() <= threads.size(); } );
+        waiting.push_back( std::move( batch ) );
+        changed.notify_all();
+    }
+
+    // Once there are no more batches.
+    Counted sum()
+    {
+        {
+            std::lock_guard lock( mutex );
+            isEnd = true;
+        }
+        changed.notify_all();
+        for ( std::thread &thread : threads )
+            thread.join();
+        Counted result;
+        for ( const Counted &each : counted )
+            result += each;
+        return result;
+    }
+
+private:
+    void run( Counted &own )
+    {
+        for ( ;; )
+        {
+            std::unique_lock lock( mutex );
+            changed.wait( lock, [this] { return isEnd || !waiting.empty(); } );
+            if ( waiting.empty() )
+                return;
+            Batch batch = std::move( waiting.front() );
+            waiting.pop_front();
+            lock.unlock();
+            changed.notify_all();
+            std::string_view rest = batch.bytes;
+            for ( auto [length, lacksLength] : batch.parts )
+            {
+                own.add( { rest.substr( 0, length ), lacksLength }, silenced );
+                rest.remove_prefix( length );
+            }
+        }
+    }
+
+    const std::set<std::string> &silenced;
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::deque<Batch> waiting;
+    bool isEnd = false;
+    std::vector<Counted> counted;
+    std::vector<std::thread> threads;
+};
+
+class Summary : public Report
+{
+public:
+    explicit Summary( const Options &chosen ) : options( chosen ), counters( options.silenced ) {}
+
+    bool add( const Cut &message, const Place & ) override
+    {
+        batch.bytes += message.bytes;
+        batch.parts.push_back( { message.bytes.size(), message.lacksLength } );
+        if ( batch.bytes.size() >= Batch::enough )
+            counters.add( std::exchange( batch, {} ) );
+        return false;
+    }
+
+    bool finish() override
+    {
+        counters.add( std::exchange( batch, {} ) );
+        sum = counters.sum();
+        if ( options.json )
+            printJson();
+        else
+            printText();
+        return sum.areBad;
+    }
+
+private:
     static int64_t messagesOf( const Counts &counts ) { return counts.messages; }
     static int64_t findingsOf( const Counts &counts ) { return counts.all(); }
 
@@ -111,17 +241,17 @@ private:
 
     void printText() const
     {
-        print( "messages: " + std::to_string( total.messages ) + '\n' );
-        for ( const auto &[name, counts] : methods.rows( messagesOf ) )
+        print( "messages: " + std::to_string( sum.total.messages ) + '\n' );
+        for ( const auto &[name, counts] : sum.methods.rows( messagesOf ) )
             line( counts.messages, name );
-        for ( const auto &[name, counts] : statuses.rows( messagesOf ) )
+        for ( const auto &[name, counts] : sum.statuses.rows( messagesOf ) )
             line( counts.messages, name );
-        if ( unreadable )
-            line( unreadable, "unreadable" );
-        print( "errors: " + std::to_string( total.findings[0] )
-               + ", warnings: " + std::to_string( total.findings[1] )
-               + ", remarks: " + std::to_string( total.findings[2] ) + '\n' );
-        for ( const auto &[name, counts] : codes.rows( findingsOf ) )
+        if ( sum.unreadable )
+            line( sum.unreadable, "unreadable" );
+        print( "errors: " + std::to_string( sum.total.findings[0] )
+               + ", warnings: " + std::to_string( sum.total.findings[1] )
+               + ", remarks: " + std::to_string( sum.total.findings[2] ) + '\n' );
+        for ( const auto &[name, counts] : sum.codes.rows( findingsOf ) )
         {
             int64_t severity = counts.findings[0] ? 0 : counts.findings[1] ? 1 : 2;
             line( counts.all(), name + " (" + severityName( severity ) + ", in "
@@ -129,7 +259,7 @@ private:
                                     + ( counts.messages == 1 ? " message)" : " messages)" ) );
         }
         print( "errors, warnings, remarks, messages by User-Agent or Server:\n" );
-        for ( const auto &[name, counts] : agents.rows( findingsOf ) )
+        for ( const auto &[name, counts] : sum.agents.rows( findingsOf ) )
         {
             char numbers[96];
             std::snprintf(
@@ -168,19 +298,19 @@ private:
     {
         Json json;
         json.begin( '{' );
-        addCounts( json, total );
-        json.name( "unreadable" ).number( unreadable );
-        addRows( json, "requests", "method", methods.rows( messagesOf ), false );
-        addRows( json, "responses", "status", statuses.rows( messagesOf ), false );
-        addRows( json, "codes", "code", codes.rows( findingsOf ), true );
-        addRows( json, "agents", "agent", agents.rows( findingsOf ), true );
+        addCounts( json, sum.total );
+        json.name( "unreadable" ).number( sum.unreadable );
+        addRows( json, "requests", "method", sum.methods.rows( messagesOf ), false );
+        addRows( json, "responses", "status", sum.statuses.rows( messagesOf ), false );
+        addRows( json, "codes", "code", sum.codes.rows( findingsOf ), true );
+        addRows( json, "agents", "agent", sum.agents.rows( findingsOf ), true );
         print( json.end( '}' ).take() + '\n' );
     }
 
     Options options;
-    Counts total;
-    int64_t unreadable = 0;
-    Tally methods, statuses, codes, agents;
+    Counters counters;
+    Batch batch;
+    Counted sum;
 };
 
 } // namespace

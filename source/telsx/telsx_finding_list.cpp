@@ -90,15 +90,22 @@ RT_VECTOR FindingList::take()
     std::stable_sort( findings.begin(), findings.end(),
                       []( TELSX_FINDING a, TELSX_FINDING b ) { return rt::compareFields( a, b ) < 0; } );
     Ref<RT_VECTOR> vector = adopt( rtVectorCreateWithCapacity( findings.length() ) );
-    Bytes rest = all;
+    std::size_t place = 0, endOfLine = all.find( '\n' );
     int64_t line = 1, column = 1;
     for ( TELSX_FINDING finding : findings )
     {
-        while ( lengthOf( all ) - lengthOf( rest ) < finding->offset )
+        auto offset = static_cast<std::size_t>( finding->offset );
+        for ( ; endOfLine < offset; endOfLine = all.find( '\n', place ) )
         {
-            bool isLineEnd = takeChar( rest ) == '\n';
-            line += isLineEnd;
-            column = isLineEnd ? 1 : column + 1;
+            place = endOfLine + 1;
+            ++line;
+            column = 1;
+        }
+        for ( ; place < offset; ++column )
+        {
+            Bytes rest = all.substr( place );
+            takeChar( rest );
+            place = all.size() - rest.size();
         }
         finding->line = line;
         finding->column = column;
