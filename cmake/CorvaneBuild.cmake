@@ -47,11 +47,21 @@ endif()
 # Headers are below our own folder, because <net/...> is also the system's.
 set( CORVANE_INCLUDE "${CMAKE_INSTALL_INCLUDEDIR}/corvane" )
 
-# corvane_library( rt OUTPUT name SUMMARY text NEEDS ... PRIVATE_NEEDS ... ) makes the shared library of source/rt, which
-# exports only what begins with the folder's name. NEEDS are libraries that its public headers include.
+# corvane_library( rt OUTPUT name SUMMARY text NEEDS ... PRIVATE_NEEDS ... FAST ... ) makes the shared library of
+# source/rt, which exports only what begins with the folder's name. NEEDS are libraries that its public headers include.
+# FAST names the units that nearly every message goes through, without their prefix. If it is given, all others are
+# compiled for size. The fast ones come first in the library, so that they are on few pages together and inline functions
+# that both kinds have are the fast ones.
 function( corvane_library NAME )
-    cmake_parse_arguments( ARG "" "OUTPUT;SUMMARY" "NEEDS;PRIVATE_NEEDS" ${ARGN} )
+    cmake_parse_arguments( ARG "" "OUTPUT;SUMMARY" "NEEDS;PRIVATE_NEEDS;FAST" ${ARGN} )
     file( GLOB units CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp" )
+    if( ARG_FAST )
+        list( TRANSFORM ARG_FAST REPLACE "(.+)" "${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/${NAME}_\\1.cpp" OUTPUT_VARIABLE fast )
+        list( REMOVE_ITEM units ${fast} )
+        set_source_files_properties( ${units} PROPERTIES
+            COMPILE_OPTIONS "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-Os>" )
+        list( PREPEND units ${fast} )
+    endif()
     add_library( ${NAME} SHARED ${units} )
     add_library( corvane::${NAME} ALIAS ${NAME} )
     target_include_directories( ${NAME} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>" )

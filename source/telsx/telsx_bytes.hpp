@@ -44,8 +44,6 @@ private:
     RT_CHAR chs[mostChars + rt::scanSlack];
 };
 
-// With slack after them, so that an encoder can copy them as blocks.
-inline constexpr char nameEndBytes[2 + rt::scanSlack] = ": ", lineEndBytes[2 + rt::scanSlack] = "\r\n";
-constexpr Bytes nameEnd = { nameEndBytes, 2 }, lineEnd = { lineEndBytes, 2 }, headEnd = "\r\n\r\n";
+constexpr Bytes lineEnd = "\r\n", headEnd = "\r\n\r\n";
 
 } // namespace telsx

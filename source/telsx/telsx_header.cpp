@@ -13,15 +13,6 @@ bool hasName( TELSX_MESSAGE_HEADER header, RT_STRING name )
     return header && rtStringEquals( header->name.get(), name );
 }
 
-HeaderLines::HeaderLines( TELSX_MESSAGE msg, HeaderName name ) : table( msg->fragment->headers.get() )
-{
-    if ( HeaderEntry *found = findHeader( table, name ) )
-    {
-        header = knownHeader( *found );
-        entry = header ? nullptr : found;
-    }
-}
-
 // A line's number in the table is 0 for the first line, and otherwise its index in moreLines plus 1.
 RT_STRING HeaderLines::next()
 {

@@ -22,7 +22,14 @@ class HeaderLines
 {
 public:
     explicit HeaderLines( TELSX_MESSAGE_HEADER rawHeader ) : header( rawHeader ) {}
-    HeaderLines( TELSX_MESSAGE msg, HeaderName name );
+    HeaderLines( TELSX_MESSAGE msg, HeaderName name ) : table( msg->fragment->headers.get() )
+    {
+        if ( HeaderEntry *found = findHeader( table, name ) )
+        {
+            header = knownHeader( *found );
+            entry = header ? nullptr : found;
+        }
+    }
 
     bool empty() const { return !entry && ( !header || rtVectorLength( header->lines.get() ) == 0 ); }
     RT_STRING next(); // null after the last one

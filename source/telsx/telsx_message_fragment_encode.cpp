@@ -12,8 +12,8 @@
 
 using namespace telsx;
 
-static constexpr char blankBytes[1 + rt::scanSlack] = " ";
-static constexpr Bytes blank = { blankBytes, 1 };
+// What stands between a name and its line, and the blank of a start line.
+static constexpr Bytes nameEnd = ": ", blank = " ";
 
 // The three words of a start line.
 using StartLine = std::array<Ref<RT_STRING>, 3>;
@@ -72,11 +72,11 @@ static void write( OUTPUT &to, const Head &head )
     if ( const auto &[first, second, third] = head.startLine; first )
     {
         to.add( first.get() );
-        to.add( blank );
+        to.addConstant( blank );
         to.add( second.get() );
-        to.add( blank );
+        to.addConstant( blank );
         to.add( third.get() );
-        to.add( lineEnd );
+        to.addConstant( lineEnd );
     }
     auto writeHeader = [&]( const HeaderEntry &entry )
     { eachLine( head, entry, [&]( auto line ) { to.addLine( entry, line ); } ); };
@@ -85,7 +85,7 @@ static void write( OUTPUT &to, const Head &head )
             writeHeader( entry );
     if ( !head.headers->is[lengthNumber] )
         writeHeader( contentLength );
-    to.add( lineEnd );
+    to.addConstant( lineEnd );
 }
 
 // Outputs: the head is written once to learn its size, and then into a buffer of that size. Most texts are ASCII and have
@@ -103,6 +103,7 @@ struct Counter
     int64_t size = 0;
 
     void add( Bytes bytes ) { size += lengthOf( bytes ); }
+    void addConstant( Bytes bytes ) { add( bytes ); }
     void add( RT_STRING string )
     {
         size += SIZES == Sizes::ascii ? textOf( string ).length : rt___StringUtf8Length( string );
@@ -128,6 +129,11 @@ struct Writer
         rt::copy( bytes.data(), lengthOf( bytes ), at );
         at += bytes.size();
     }
+    void addConstant( Bytes bytes )
+    {
+        std::memcpy( at, bytes.data(), bytes.size() );
+        at += bytes.size();
+    }
     void add( RT_STRING string )
     {
         if constexpr ( SIZES == Sizes::exact )
@@ -145,9 +151,9 @@ struct Writer
             add( knownNames[entry.number].bytes );
         else
             add( entry.name );
-        add( nameEnd );
+        addConstant( nameEnd );
         add( line );
-        add( lineEnd );
+        addConstant( lineEnd );
     }
 };
 
