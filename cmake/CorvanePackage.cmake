@@ -86,6 +86,8 @@ set( CPACK_DEBIAN_TOOLS_PACKAGE_NAME telsx-tools )
 set( CPACK_DEBIAN_TOOLS_PACKAGE_SECTION net )
 set( CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON )
 set( CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} (>= ${PROJECT_VERSION})" )
+# The program's own libraries are in another package, whose name is given above.
+set( CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/lib" )
 # A trigger renews the loader's cache, so the scripts that cpack writes for it are removed again.
 file( WRITE "${documents}/triggers" "activate-noawait ldconfig\n" )
 set( CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${documents}/triggers" )

@@ -45,7 +45,7 @@ std::optional<Packet> readV4( std::string_view bytes )
 {
     if ( bytes.size() < 20 )
         return std::nullopt;
-    std::size_t header = ( number8( bytes, 0 ) & 0xF ) * 4, total = number16( bytes, 2 );
+    std::size_t header = std::size_t( number8( bytes, 0 ) & 0xF ) * 4, total = number16( bytes, 2 );
     if ( total == 0 ) // the network card was to fill it in
         total = bytes.size();
     if ( header < 20 || total < header || bytes.size() < header )
@@ -56,7 +56,7 @@ std::optional<Packet> readV4( std::string_view bytes )
     packet.protocol = number8( bytes, 9 );
     packet.id = number16( bytes, 4 );
     packet.more = number16( bytes, 6 ) & 0x2000;
-    packet.offset = ( number16( bytes, 6 ) & 0x1FFF ) * 8;
+    packet.offset = std::size_t( number16( bytes, 6 ) & 0x1FFF ) * 8;
     packet.isFragment = packet.more || packet.offset;
     setPayload( packet, bytes.substr( header ), total - header );
     return packet;
@@ -87,9 +87,9 @@ std::optional<Packet> readV6( std::string_view bytes )
         if ( bytes.size() < 8 )
             return std::nullopt;
         packet.protocol = number8( bytes, 0 );
-        std::size_t size = ( number8( bytes, 1 ) + 1 ) * 8;
+        std::size_t size = std::size_t( number8( bytes, 1 ) + 1 ) * 8;
         if ( extension == authentication )
-            size = ( number8( bytes, 1 ) + 2 ) * 4;
+            size = std::size_t( number8( bytes, 1 ) + 2 ) * 4;
         if ( extension == fragment )
         {
             size = 8;

@@ -8,7 +8,7 @@ void Streams::add( const Packet &packet )
     std::string_view bytes = packet.payload;
     if ( bytes.size() < 20 )
         return;
-    std::size_t header = ( static_cast<unsigned char>( bytes[12] ) >> 4 ) * 4;
+    std::size_t header = std::size_t( static_cast<unsigned char>( bytes[12] ) >> 4 ) * 4;
     if ( header < 20 || header > bytes.size() )
         return;
     constexpr unsigned fin = 1, syn = 2, rst = 4;
