@@ -244,7 +244,8 @@ consteval bool listsAllFields()
         []( const auto &...field )
         {
             const void *places[] = { &field... };
-            return std::is_sorted( places, std::end( places ), std::less<const void *>() )
+            return std::adjacent_find( places, std::end( places ), std::greater_equal<const void *>() )
+                       == std::end( places )
                    && ( addsNothing || countMembers<T>() == 1 + sizeof...( field ) );
         },
         T::fields( object ) );
