@@ -56,9 +56,9 @@ TELSX_ACCEPT_CONTACT telsx___AcceptContactTryDecode( const RT_CHAR *chs, int64_t
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.isBare<"require">() )
+        if ( param.isWord<"require">() )
             param.storeFlag( acceptContact->require );
-        if ( param.isBare<"explicit">() )
+        if ( param.isWord<"explicit">() )
             param.storeFlag( acceptContact->isExplicit );
         param.storeGeneric( acceptContact->genericParams );
     }

@@ -1,6 +1,6 @@
 /* Access network: how a party is attached to the network.
  *
- *     access-net-spec = ( access-type / access-class ) *( SEMI access-info )
+ *     access-net-spec = ( access-type / access-class ) *( SEMI access-info )  ; RFC 7315, 5.4
  *     access-type = "IEEE-802.11" / "3GPP-E-UTRAN-FDD" / "ADSL" / token  ; among others
  *     access-class = "3GPP-GERAN" / "3GPP-E-UTRAN" / token  ; among others
  *     access-info = np / cgi-3gpp / utran-cell-id-3gpp / dsl-location / generic-param  ; among others

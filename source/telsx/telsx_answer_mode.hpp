@@ -43,7 +43,7 @@ HANDLE decodeAnswerMode( Text line, HANDLE ( *create )( RT_STRING answerModeValu
     ParamReader param( line );
     while ( param.next() )
     {
-        if ( param.isBare<"require">() )
+        if ( param.isWord<"require">() )
             param.storeFlag( hdr->require );
         param.storeGeneric( hdr->genericParams );
     }

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "telsx/telsx.h"
+#include "telsx/telsx_keyword.hpp"
 #include "telsx/telsx_number.hpp"
 
 namespace telsx
@@ -333,6 +334,27 @@ static bool readContact( GrammarReader &reader )
     return readFields( reader, fieldsOfContact );
 }
 
+static bool readFeatures( GrammarReader &reader )
+{
+    return reader.need( telsx___SkipStar, grammarPiece( "star" ) ) && reader.params();
+}
+
+static bool readContentId( GrammarReader &reader )
+{
+    static constexpr Field msgId = { FieldRole::text, {}, "MsgId", telsx___SkipMsgId };
+    return reader.need( telsx___SkipLaquot, grammarPiece( "bracket" ) ) && reader.need( msgId )
+           && reader.need( telsx___SkipRaquot, grammarPiece( "closing" ) ) && reader.end();
+}
+
+static int64_t skipTrueOrFalse( const RT_CHAR *chs, int64_t length )
+{
+    return skipKeyword<"true", "false">( { chs, length } );
+}
+static bool readReferSub( GrammarReader &reader )
+{
+    return reader.need( skipTrueOrFalse, grammarPiece( "true-or-false" ) ) && reader.params();
+}
+
 static bool readRetryAfter( GrammarReader &reader )
 {
     if ( !reader.number( telsxDeltaSecondsOk ) )
@@ -369,17 +391,21 @@ static constexpr struct
     bool ( *read )( GrammarReader &reader );
 } ownReaders[] = {
     { "Accept", readMediaType },
+    { "AcceptContact", readFeatures },
     { "Challenge", readAuth },
     { "Contact", readContact },
     { "Credentials", readAuth },
     { "HeaderAuthenticationInfo", readAuthParams },
+    { "HeaderContentId", readContentId },
     { "HeaderContentType", readMediaType },
     { "HeaderDate", []( GrammarReader &reader ) { return reader.isWrong( grammarPiece( "date" ) ); } },
     { "HeaderOrganization", readText },
+    { "HeaderReferSub", readReferSub },
     { "HeaderRetryAfter", readRetryAfter },
     { "HeaderServer", readProducts },
     { "HeaderSubject", readText },
     { "HeaderUserAgent", readProducts },
+    { "RejectContact", readFeatures },
     { "Via", readVia },
     { "WarningValue", readWarning },
 };

@@ -27,14 +27,20 @@ class HeaderCheck;
 
 // A kind of typed headers. A list or set has a skipper for its items, and the type of its values or the name of its
 // element in the place of its own.
+enum class Shape
+{
+    single,
+    listOfValues,
+    listOfTexts
+};
 struct HeaderKind
 {
     int64_t number; // of its name
     std::string_view name;
     void ( *check )( HeaderCheck &check );
     std::string_view type; // that the grammar knows it by
+    Shape shape = Shape::single;
     Skipper skipItem = nullptr;
-    bool isOfTexts = false;
     Separator ( *separator )() = [] { return comma; };
 };
 
@@ -170,10 +176,10 @@ private:
 #define CHECK( NAME ) []( HeaderCheck &check ) { check.header( adopt( telsx##NAME##TryDecodeFromMessage( check.message() ) ) ); }
 #define TELSX_KIND( NAME, SORT, SIP_NAME ) { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #NAME },
 #define TELSX_KIND_OF_SET( NAME, SORT, SIP_NAME, WORD ) \
-    { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #WORD, telsx___Skip##WORD, true, \
+    { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #WORD, Shape::listOfTexts, telsx___Skip##WORD, \
       [] { return separatorOf( TELSX_HANDLE( NAME )() ); } },
 #define TELSX_KIND_OF_LIST( NAME, SORT, SIP_NAME, WORD ) \
-    { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #WORD, telsx___Skip##WORD, true },
+    { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #WORD, Shape::listOfTexts, telsx___Skip##WORD },
 #define TELSX_KIND_OF_VALUES( NAME, SORT, SIP_NAME, WORD, VALUE ) \
     { knownNumber<SIP_NAME>(), SIP_NAME, []( HeaderCheck &check ) \
       { \
@@ -183,7 +189,7 @@ private:
               check.value( adopt( telsx##NAME##TryDecode##WORD##At( hdr.get(), i ) ), i ); \
           if ( check.header( hdr ) ) \
               check.endOfValues( count ); \
-      }, #VALUE, telsx___Skip##VALUE },
+      }, #VALUE, Shape::listOfValues, telsx___Skip##VALUE },
 constexpr HeaderKind kinds[] = {
 #include "telsx/telsx_headers.def"
 };
@@ -207,7 +213,7 @@ constexpr auto nameFacts = []
     for ( const HeaderKind &one : kinds )
     {
         of( one.name ).kind = &one;
-        of( one.name ).isSingle = !one.skipItem;
+        of( one.name ).isSingle = one.shape == Shape::single;
     }
     for ( std::string_view name : singleHeaders )
         of( name ).isSingle = true;
@@ -310,6 +316,15 @@ Ref<RT_STRING> spelledOut( std::string_view element, char between )
     return words;
 }
 
+// The words for an element that its name does not explain, or null.
+Ref<RT_STRING> wordsOf( const Ref<RT_STRING> &code )
+{
+    for ( const GrammarPiece &piece : grammarPieces )
+        if ( isWord( code.get(), piece.code ) )
+            return stringOf( piece.words );
+    return {};
+}
+
 void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
 {
     Text found = value.behind( obstacle.at );
@@ -317,8 +332,11 @@ void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
     if ( !obstacle.piece )
     {
         bool hasVowel = std::string_view( "AEIOU" ).find( obstacle.element[0] ) != std::string_view::npos;
-        words = joined( hasVowel ? std::string_view( "an " ) : "a ", spelledOut( obstacle.element, ' ' ) );
         pieceCode = spelledOut( obstacle.element, '-' );
+        words = wordsOf( pieceCode );
+        if ( !words )
+            words =
+                joined( hasVowel ? std::string_view( "an " ) : "a ", spelledOut( obstacle.element, ' ' ) );
     }
     else
     {
@@ -339,7 +357,7 @@ void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
 Obstacle HeaderCheck::obstacleOf( Text item, int64_t itemLength ) const
 {
     Obstacle separator = { itemLength, grammarPiece( "separator" ) };
-    if ( kind->isOfTexts )
+    if ( kind->shape == Shape::listOfTexts )
         return itemLength ? separator : Obstacle{ 0, nullptr, kind->type };
     Obstacle obstacle = findObstacle( kind->type, item, true );
     return obstacle.at < itemLength || ( itemLength && obstacle.piece == grammarPiece( "unreadable" ) )
@@ -375,7 +393,7 @@ bool HeaderCheck::reportItem( const HeadLine &line, bool mayContinue )
 // first with another item after it, since some lists have one value per line.
 void HeaderCheck::reportUnreadable()
 {
-    if ( !kind->skipItem )
+    if ( kind->shape == Shape::single )
     {
         PlacedText text = textOfLine( true );
         Text value = valueOf( text );

@@ -1,6 +1,6 @@
 /* P-Access-Network-Info header: how a party is attached to the network (RFC 7315, 5.4).
  *
- *     P-Access-Network-Info = "P-Access-Network-Info" HCOLON access-net-spec *( COMMA access-net-spec )
+ *     P-Access-Network-Info = "P-Access-Network-Info" HCOLON access-net-spec *( COMMA access-net-spec )  ; RFC 7315
  *
  * A list of values of telsx_access_net_spec.h. */
 #ifndef TELSX_TELSX_HEADER_P_ACCESS_NETWORK_INFO_H
