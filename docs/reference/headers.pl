@@ -130,9 +130,10 @@ sub read_header
         $comment = '' if $line eq '' and $used;
         next if $line eq '';
         $used = 1;
+        $line .= shift(@lines) =~ s/^ +/ /r while @lines and $line =~ /^[A-Z_]+\([^)]*$/;
         if ( $line =~ /^([A-Z_]+)\( .* \)$/ ) { push @items, expanded( $line, $comment ); next; }
         my $end = $line =~ /^#/ ? qr/$/ : $line =~ /^(typedef )?struct \w+$/ ? qr/^\}.*;$/m : qr/;$/;
-        $line .= "\n" . shift @lines until $line =~ $end;
+        $line .= "\n" . ( shift @lines // die "$unit: no end of $line\n" ) until $line =~ $end;
         $line =~ s/\b(RT_API|RT_NORETURN|RT_THREAD_LOCAL) //g;
         learn( $line, $comment ) if $line =~ /^#define \w+_(TYPE|OBJECT|HEADER|FUNC|SET|LIST|VALUES)\(/;
         push @items, [ $line =~ /___/ ? 'internal' : '', $line, $comment ];

@@ -1,6 +1,6 @@
 #!/usr/bin/perl
 # Turns a document of docs/ into a page of the reference: the page and its recipes become link targets, and code in its
-# tables is written so that Doxygen leaves it alone.
+# tables is written so that Doxygen leaves it alone. The page of the program telsx is not part of the reference.
 # usage: page.pl NAME <DOCUMENT
 use strict;
 use warnings;
@@ -21,6 +21,7 @@ while (<STDIN>)
     s/$/ {#$name}/ if $. == 1;
     s/^## (\d+)\..*/$& {#job$1}/;
     s/\((?:cookbook\.md)?#(\d+)-[^)]*\)/(\@ref job$1)/;
+    s/\[([^\]]*)\]\(telsx\.md\)/$1/g;
     s/`([^`]*)`/code($1)/ge if /^\|/;
     print;
 }
