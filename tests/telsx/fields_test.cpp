@@ -489,6 +489,23 @@ TEST( Fields, GivenToOtherCreators )
     EXPECT_DEATH( telsx___DiversionEncode( named.get() ), "quotable_string" );
 }
 
+TEST( Fields, GivenToNewValues )
+{
+    Ref<RT_STRING> iri = str( "sip:a" ), token = str( "A" );
+#define EXPECT_NEW( TEXT, NAME, ... ) \
+    EXPECT_EQ( TEXT, utf8( telsx##NAME##ToString( adopt( telsx##NAME##Create( __VA_ARGS__ ) ).get() ) ) )
+    EXPECT_NEW( "<sip:a>", AlertInfo, iri.get() );
+    EXPECT_NEW( "<sip:a>", AssociatedUri, iri.get() );
+    EXPECT_NEW( "<sip:a>", CallInfo, iri.get() );
+    EXPECT_NEW( "<sip:a>", ErrorInfo, iri.get() );
+    EXPECT_NEW( "<sip:a>", HeaderReferTo, iri.get() );
+    EXPECT_NEW( "A", InfoPackage, token.get() );
+    EXPECT_NEW( "<sip:a>", LocationValue, iri.get() );
+    EXPECT_NEW( "A;info=<sip:a>", Passport, token.get(), iri.get() );
+    EXPECT_NEW( "A", UuiValue, token.get() );
+#undef EXPECT_NEW
+}
+
 TEST( Fields, FromAndToAreMadeFromEachOther )
 {
     for ( const char *line : { "<sip:a>", "\"\" <sip:a>;tag=T;epid=E;tag=\"x\";y" } )
