@@ -39,10 +39,9 @@ TELSX_MESSAGE_HEADER telsxHeaderViaEncode( TELSX_HEADER_VIA hdr )
 static TELSX_HEADER_VIA decode( HeaderLines &lines )
 {
     Ref<TELSX_HEADER_VIA> hdr = adopt( telsxHeaderViaCreate() );
-    auto skip = [&hdr, isFirst = true]( const RT_CHAR *chs, int64_t length ) mutable
-    {
-        return std::exchange( isFirst, false ) ? skipVia( { chs, length }, hdr->firstPlaces )
-                                               : telsx___SkipVia( chs, length );
+    ViaPlaces otherPlaces;
+    auto skip = [&, places = &hdr->firstPlaces]( const RT_CHAR *chs, int64_t length ) mutable {
+        return skipVia( { chs, length }, *std::exchange( places, &otherPlaces ) );
     };
     return decodeValues( hdr->values, lines, skip, WithoutLines::isEmpty ) ? hdr.take() : nullptr;
 }

@@ -17,7 +17,6 @@
 #include "telsx/telsx_reason_protocol.h"
 #include "telsx/telsx_text.hpp"
 #include "telsx/telsx_transport.h"
-#include "telsx/telsx_via.hpp"
 
 using namespace telsx;
 
@@ -441,8 +440,13 @@ int64_t telsx___SkipVersion( const RT_CHAR *chs, int64_t length )
 
 int64_t telsx___SkipVia( const RT_CHAR *chs, int64_t length )
 {
-    ViaPlaces places;
-    return skipVia( { chs, length }, places );
+    Text text = { chs, length }, rest = text;
+    if ( !rest.take( skipAll( text, telsx___SkipVersion, telsx___SkipSlash, telsx___SkipTransport,
+                              telsx___SkipLws, telsx___SkipHost ) ) )
+        return 0;
+    if ( rest.take( telsx___SkipColon ) && !rest.take( telsx___SkipPort ) )
+        return 0;
+    return length - rest.length + skipParams( rest, telsx___SkipViaParams );
 }
 
 int64_t telsx___SkipViaParams( const RT_CHAR *chs, int64_t length )

@@ -2,6 +2,7 @@
 #include "telsx/telsx_via.h"
 
 #include "telsx/telsx_branch.h"
+#include "telsx/telsx_char.hpp"
 #include "telsx/telsx_host.hpp"
 #include "telsx/telsx_port.h"
 #include "telsx/telsx_skip.h"
@@ -138,8 +139,7 @@ RT_STRING telsx___ViaEncode( TELSX_VIA via )
     TELSX_ASSERT( via );
     Ref<RT_STRING> text = textWithRoom( 96 );
     append( text, adopt( telsx___VersionEncode( via->version.get() ) ), '/',
-            transportInUpperCase( via->transport.get() ), ' ',
-            adopt( telsx___HostEncode( via->host.get() ) ) );
+            transportInUpperCase( via->transport.get() ), ' ', encodedHost( via->host ) );
     if ( rt::present( via->port ) )
         append( text, ':', Decimal( via->port ) );
     ParamWriter params( text );
@@ -204,47 +204,62 @@ TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
 
 static constexpr int64_t versionLength = 7; // of SIP/2.0
 
-int64_t telsx::skipVia( Text text, ViaPlaces &places )
+// The usual form, see ViaPlaces; 0 if the value has another one.
+static int64_t skipUsual( Text text, ViaPlaces &places )
 {
     Text rest = text;
     auto at = [&text, &rest] { return static_cast<uint32_t>( text.length - rest.length ); };
-    places = {};
-    if ( !rest.take( telsx___SkipVersion ) || !rest.take( telsx___SkipSlash ) )
-        return 0;
-    bool isPlain = text.length <= UINT32_MAX && at() == versionLength + 1;
-    if ( !rest.take( telsx___SkipTransport ) )
+    auto take = [&rest]( RT_CHAR ch ) { return rest && rest.chs[0] == ch && rest.take( 1 ); };
+    if ( text.length > UINT32_MAX || text.length <= versionLength
+         || !equals<"SIP/2.0/">( rest.take( versionLength + 1 ) ) || !rest.take( runOf<classToken>( rest ) ) )
         return 0;
     places.transportEnd = at();
-    if ( !rest.take( telsx___SkipLws ) )
+    if ( !take( ' ' ) || !rest.take( telsx___SkipHost ) )
         return 0;
-    isPlain = isPlain && at() == places.transportEnd + 1;
-    if ( !rest.take( telsx___SkipHost ) )
+    places.hostEnd = at();
+    if ( take( ':' ) && !rest.take( telsx___SkipPort ) )
         return 0;
-    places.hostEnd = places.portEnd = at();
-    if ( Text colon = rest.take( telsx___SkipColon ) )
+    places.portEnd = at();
+    while ( take( ';' ) )
     {
-        isPlain = isPlain && colon.length == 1;
-        if ( !rest.take( telsx___SkipPort ) )
-            return 0;
-        places.portEnd = at();
-    }
-    for ( Text param = rest; param.take( telsx___SkipSemi ); param = rest )
-    {
-        Text whole = param.take( telsx___SkipViaParams );
-        if ( !whole )
-            break;
-        rest = param;
-        auto begin = static_cast<uint32_t>( at() - whole.length );
-        if ( beginsInAnyCase<"branch=">( whole ) && whole.length > 7
-             && telsx___SkipBranch( whole.chs + 7, 1 ) )
-            places.branch = begin + 7, places.branchEnd = at();
-        else if ( beginsInAnyCase<"rport">( whole ) && ( whole.length == 5 || whole.chs[5] == '=' ) )
-            places.rport = whole.length == 5 ? at() : begin + 6, places.rportEnd = at();
+        if ( !places.branch && beginsInAnyCase<"branch=">( rest ) )
+        {
+            rest.take( 7 );
+            places.branch = at();
+            if ( !rest.take( runOf<classToken>( rest ) ) )
+                return 0;
+            places.branchEnd = at();
+        }
+        else if ( !places.received && beginsInAnyCase<"received=">( rest ) )
+        {
+            rest.take( 9 );
+            places.received = at();
+            if ( !rest.take( skipAddress ) )
+                return 0;
+            places.receivedEnd = at();
+        }
+        else if ( !places.rport && beginsInAnyCase<"rport">( rest ) )
+        {
+            rest.take( 5 );
+            bool hasValue = take( '=' );
+            places.rport = at();
+            if ( hasValue && !rest.take( telsx___SkipPort ) )
+                return 0;
+            places.rportEnd = at();
+        }
         else
-            isPlain = false;
+            return 0;
     }
-    places.areKnown = isPlain;
-    return text.length - rest.length;
+    return rest && rest.chs[0] != ',' ? 0 : at();
+}
+
+int64_t telsx::skipVia( Text text, ViaPlaces &places )
+{
+    places = {};
+    if ( int64_t usual = skipUsual( text, places ) )
+        return usual;
+    places = {};
+    return telsx___SkipVia( text.chs, text.length );
 }
 
 TELSX_VIA telsx::tryDecodeVia( Text text, const ViaPlaces &places )
@@ -252,10 +267,16 @@ TELSX_VIA telsx::tryDecodeVia( Text text, const ViaPlaces &places )
     auto between = [text]( int64_t begin, int64_t end ) { return text.first( end ).behind( begin ); };
     auto number = [&between]( int64_t begin, int64_t end )
     { return between( begin, end ).as( telsx___PortTryDecode ); };
+    if ( !places.transportEnd )
+        return text.as( telsx___ViaTryDecode );
     bool hasPort = places.portEnd > places.hostEnd, hasNumericRport = places.rportEnd > places.rport;
     int64_t port = hasPort ? number( places.hostEnd + 1, places.portEnd ) : -1;
     int64_t rport = hasNumericRport ? number( places.rport, places.rportEnd ) : -1;
-    if ( !places.areKnown || hasPort != rt::present( port ) || hasNumericRport != rt::present( rport ) )
+    Ref<NET_ADDRESS> received;
+    if ( places.received )
+        received = adopt( between( places.received, places.receivedEnd ).as( netAddressTryCreateFromChars ) );
+    if ( hasPort != rt::present( port ) || hasNumericRport != rt::present( rport )
+         || ( places.received != 0 ) != bool( received ) )
         return text.as( telsx___ViaTryDecode );
     Ref<RT_STRING> host = hostOf( between( places.transportEnd + 1, places.hostEnd ) );
     if ( !host )
@@ -266,6 +287,7 @@ TELSX_VIA telsx::tryDecodeVia( Text text, const ViaPlaces &places )
     via->port = port;
     via->rportNumeric = rport;
     via->rportEmpty = places.rport && !hasNumericRport;
+    via->received = std::move( received );
     if ( places.branch )
         via->branch = between( places.branch, places.branchEnd ).copy();
     return via;
