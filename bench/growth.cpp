@@ -2,8 +2,10 @@
 // decoded, its headers and all their values are decoded to their types, everything is encoded again and released. Under
 // callgrind each of these phases ends with a dump of the instructions that it took:
 //
-//     growth                   lists the families
-//     growth FAMILY N...       prints for each n the peak memory use in bytes
+//     growth             lists the families
+//     growth FAMILY N    prints the peak memory use in bytes
+//
+// Each length is run in a process of its own: what a run costs depends on what earlier ones left on the heap.
 #include <valgrind/callgrind.h>
 
 #include <algorithm>
@@ -11,7 +13,6 @@
 #include <cstdio>
 #include <functional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "heap.hpp"
@@ -33,12 +34,12 @@ std::string request( const std::string &headers ) { return std::string( requestL
 using Item = std::string ( * )( int index );
 
 // A request with a header that has the items with indices below n, between the text before and the text after them.
-std::string repeated( std::string_view front, Item item, int n, std::string_view behind = "" )
+std::string repeated( std::string_view front, Item item, int n, std::string_view after = "" )
 {
     std::string headers( front );
     for ( int i = 0; i < n; ++i )
         headers += item( i );
-    return request( headers += behind );
+    return request( headers += after );
 }
 
 std::string digits( int index ) { return std::to_string( 1'000'000 + index ); }
@@ -260,22 +261,17 @@ void count( const std::string &label, const std::function<void()> &phase )
     CALLGRIND_DUMP_STATS_AT( label.c_str() );
 }
 
-// In a thread of its own, so that no block freed by an earlier run is used again.
 void measure( const Family &family, int n )
 {
-    auto run = [&]
-    {
-        Run each( family, n );
-        std::string label = std::string( family.name ) + "\t" + std::to_string( n ) + "\t";
-        int64_t before = heap::used;
-        heap::most = before;
-        count( label + "decode", [&] { each.decode(); } );
-        count( label + "typed", [&] { each.decodeTyped(); } );
-        count( label + "encode", [&] { each.encode(); } );
-        count( label + "release", [&] { each.release(); } );
-        std::printf( "%smemory\t%lld\n", label.c_str(), static_cast<long long>( heap::most - before ) );
-    };
-    std::thread( run ).join();
+    Run run( family, n );
+    std::string label = std::string( family.name ) + "\t" + std::to_string( n ) + "\t";
+    int64_t before = heap::used;
+    heap::most = before;
+    count( label + "decode", [&] { run.decode(); } );
+    count( label + "typed", [&] { run.decodeTyped(); } );
+    count( label + "encode", [&] { run.encode(); } );
+    count( label + "release", [&] { run.release(); } );
+    std::printf( "%smemory\t%lld\n", label.c_str(), static_cast<long long>( heap::most - before ) );
 }
 
 } // namespace
@@ -286,8 +282,7 @@ int main( int argc, char **argv )
     for ( const Family &family : families )
         if ( argc == 1 )
             std::puts( family.name );
-        else if ( argv[1] == std::string_view( family.name ) )
-            for ( int i = 2; i < argc; ++i )
-                measure( family, std::atoi( argv[i] ) );
+        else if ( argc == 3 && argv[1] == std::string_view( family.name ) )
+            measure( family, std::atoi( argv[2] ) );
     rtModuleStop( telsxModule() );
 }

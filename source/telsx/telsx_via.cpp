@@ -207,11 +207,11 @@ static constexpr int64_t versionLength = 7; // of SIP/2.0
 int64_t telsx::skipVia( Text text, ViaPlaces &places )
 {
     Text rest = text;
-    auto at = [&text, &rest] { return static_cast<uint16_t>( text.length - rest.length ); };
+    auto at = [&text, &rest] { return static_cast<uint32_t>( text.length - rest.length ); };
     places = {};
     if ( !rest.take( telsx___SkipVersion ) || !rest.take( telsx___SkipSlash ) )
         return 0;
-    bool isPlain = text.length <= UINT16_MAX && at() == versionLength + 1;
+    bool isPlain = text.length <= UINT32_MAX && at() == versionLength + 1;
     if ( !rest.take( telsx___SkipTransport ) )
         return 0;
     places.transportEnd = at();
@@ -234,7 +234,7 @@ int64_t telsx::skipVia( Text text, ViaPlaces &places )
         if ( !whole )
             break;
         rest = param;
-        auto begin = static_cast<uint16_t>( at() - whole.length );
+        auto begin = static_cast<uint32_t>( at() - whole.length );
         if ( beginsInAnyCase<"branch=">( whole ) && whole.length > 7
              && telsx___SkipBranch( whole.chs + 7, 1 ) )
             places.branch = begin + 7, places.branchEnd = at();

@@ -12,11 +12,11 @@ namespace telsx
 // Via. The places are known if the value has no optional white space and no parameters other than branch and rport.
 struct ViaPlaces
 {
-    uint16_t transportEnd, hostEnd,
-        portEnd;                // the transport begins after "SIP/2.0/"; no port: where the host ends
-    uint16_t branch, branchEnd; // 0 if there is none
-    uint16_t rport, rportEnd;   // 0 if there is none; the same if it has no value
-    uint16_t areKnown;
+    uint32_t transportEnd;      // it begins after "SIP/2.0/"
+    uint32_t hostEnd, portEnd;  // no port: both the same
+    uint32_t branch, branchEnd; // 0 if there is none
+    uint32_t rport, rportEnd;   // 0 if there is none; the same if it has no value
+    uint32_t areKnown;
 
     friend void clear( ViaPlaces &places ) { places = {}; }
 };
