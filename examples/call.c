@@ -229,15 +229,14 @@ static TELSX_MESSAGE respond( TELSX_MESSAGE to, int64_t statusCode, const PARTY 
     return msg;
 }
 
+CLIENT_DEFINE_FIRST( firstContact, TELSX_CONTACT, Contact )
+
 /* The address at which the other party wants to be reached, a new reference, or null. */
 static RT_STRING remoteTarget( TELSX_MESSAGE response )
 {
-    TELSX_HEADER_CONTACT header = telsxHeaderContactTryDecodeFromMessage( response );
-    bool some = header && telsxHeaderContactContactsLength( header ) > 0;
-    TELSX_CONTACT contact = some ? telsxHeaderContactTryDecodeContactAt( header, 0 ) : NULL;
+    TELSX_CONTACT contact = firstContact( response );
     RT_STRING iri = contact ? telsxContactIri( contact ) : NULL;
     clientRelease( contact );
-    clientRelease( header );
     return iri;
 }
 

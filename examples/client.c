@@ -103,15 +103,14 @@ void clientSend( CLIENT *client, TELSX_MESSAGE msg )
     sendBytes( client, msg );
 }
 
+CLIENT_DEFINE_FIRST( topVia, TELSX_VIA, Via )
+
 /* The branch of the top Via, a new reference, or null. */
 static RT_STRING branchOf( TELSX_MESSAGE msg )
 {
-    TELSX_HEADER_VIA vias = telsxHeaderViaTryDecodeFromMessage( msg );
-    bool some = vias && telsxHeaderViaViasLength( vias ) > 0;
-    TELSX_VIA top = some ? telsxHeaderViaTryDecodeViaAt( vias, 0 ) : NULL;
+    TELSX_VIA top = topVia( msg );
     RT_STRING branch = top ? telsxViaBranch( top ) : NULL;
     clientRelease( top );
-    clientRelease( vias );
     return branch;
 }
 

@@ -24,6 +24,18 @@ RT_STRING clientRandomText( void );
 /* Releases an object, if there is one. */
 void clientRelease( void *object );
 
+/* Defines FUNCTION, which returns the first value of the message's header, a new reference, or null if there is none that
+ * can be read. */
+#define CLIENT_DEFINE_FIRST( FUNCTION, VALUE, NAME )                                     \
+    static VALUE FUNCTION( TELSX_MESSAGE msg )                                           \
+    {                                                                                    \
+        void *header = telsxHeader##NAME##TryDecodeFromMessage( msg );                   \
+        bool some = header && telsxHeader##NAME##NAME##sLength( header ) > 0;            \
+        VALUE first = some ? telsxHeader##NAME##TryDecode##NAME##At( header, 0 ) : NULL; \
+        clientRelease( header );                                                         \
+        return first;                                                                    \
+    }
+
 /* The header as it is in another message, if it is there. */
 void clientTakeOver( TELSX_MESSAGE *msg, TELSX_MESSAGE from, const char *name );
 

@@ -27,16 +27,16 @@ typedef struct DIGEST
     const char *nonceCount, *cnonce;
 } DIGEST;
 
-/* 0 for an unknown algorithm; the number of a stronger one is greater. */
+/* 0 for an unknown algorithm; a stronger one has a greater number. */
 int digestStrength( const char *algorithm );
 
 /* The response in lower-case hex digits. The algorithm must be known. */
 void digestResponse( const DIGEST *digest, char hex[digestSize] );
 
-/* Hex digits that only who knows the key can make of the bytes (HMAC-SHA-256). */
+/* The HMAC-SHA-256 of the bytes in hex digits, which only someone who knows the key can make. */
 void digestSeal( const char *key, const void *bytes, size_t length, char hex[digestSize] );
 
-/* Whether as many bytes are the same, in a time that does not tell how many are. */
+/* Whether so many bytes are the same. The time that this takes does not depend on how many are. */
 bool digestEquals( const void *a, const void *b, size_t length );
 
 RT_END

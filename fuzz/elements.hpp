@@ -110,7 +110,7 @@ inline const char *brokenSkipping( const Element &element, Text text )
         return "a count is from 0 to the length";
     Block cut( text.first( count ) );
     if ( element.skip( cut.text().chs, count ) != count )
-        return "a text that is cut behind the count has the same count";
+        return "a text that is cut after the count has the same count";
     return nullptr;
 }
 

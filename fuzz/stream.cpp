@@ -115,7 +115,7 @@ void test( std::string_view input )
         encoded += bytes( message );
     Outcome again = decode( encoded, cutting );
     require( again.messages == whole.messages && !again.error && again.left == 0,
-             "messages that are encoded one behind the other are a stream of them" );
+             "messages that are encoded one after another are a stream of them" );
 }
 
 } // namespace

@@ -29,7 +29,8 @@ void tell( const char *name, const Losses &losses )
          "packets that were captured only in part" );
     add( losses.fragments, "datagram with missing fragments", "datagrams with missing fragments" );
     add( losses.holes, "hole in a TCP stream", "holes in TCP streams" );
-    add( losses.unfinished, "TCP stream that goes on", "TCP streams that go on" );
+    add( losses.unfinished, "TCP stream that ends inside a message",
+         "TCP streams that end inside a message" );
     add( losses.tooLong, "message of more than 1048576 bytes", "messages of more than 1048576 bytes" );
     if ( !what.empty() )
         complain( name, "left out: " + what );
@@ -62,7 +63,7 @@ int64_t readCapture( const char *name, std::FILE *file, const Options &options, 
     if ( !capture )
     {
         complain( name, error );
-        std::fclose( file );
+        closeFile( file );
         return -1;
     }
     int link = pcap_datalink( capture );

@@ -14,15 +14,14 @@ namespace tools
 class Fragments
 {
 public:
-    static constexpr std::size_t maxMemory = 4 << 20; // bytes; of more, the oldest datagrams are given up
-
-    static constexpr int64_t maxAge = 60; // seconds, as RFC 8200, 4.5 has it
+    static constexpr std::size_t maxMemory = 4 << 20; // bytes; beyond that, the oldest datagrams are given up
+    static constexpr int64_t maxAge = 60;             // seconds (RFC 8200, 4.5)
 
     // The payload of the datagram that this fragment completes, until the next call. A datagram whose fragments overlap
     // is given up (RFC 5722).
     std::optional<std::string_view> add( const Packet &packet, int64_t seconds );
 
-    // How many datagrams were given up or are not complete.
+    // How many datagrams were given up or are incomplete.
     int64_t lost() const { return givenUp + static_cast<int64_t>( datagrams.size() ); }
     std::size_t memory() const { return used; }
 

@@ -15,6 +15,12 @@ void complain( const char *name, const std::string &what )
     std::fprintf( stderr, "telsx: %s: %s\n", printable( name ).c_str(), printable( what ).c_str() );
 }
 
+void closeFile( std::FILE *file )
+{
+    if ( file != stdin )
+        std::fclose( file );
+}
+
 bool readFile( const char *name, const Options &options, const Receive &receive, const Tick &tick )
 {
     bool isInput = std::strcmp( name, "-" ) == 0;
@@ -22,7 +28,7 @@ bool readFile( const char *name, const Options &options, const Receive &receive,
     struct stat about = {};
     if ( file && fstat( fileno( file ), &about ) == 0 && S_ISDIR( about.st_mode ) )
     {
-        std::fclose( file );
+        closeFile( file );
         errno = EISDIR;
         file = nullptr;
     }
@@ -34,15 +40,11 @@ bool readFile( const char *name, const Options &options, const Receive &receive,
     static char buffer[1 << 18]; // the usual one holds only a few packets
     if ( !isInput )
         std::setvbuf( file, buffer, _IOFBF, sizeof buffer );
-    int64_t messages = 0;
-    if ( isCapture( file ) )
-        messages = readCapture( name, file, options, receive, tick );
-    else
-    {
-        messages = readText( name, file, receive, tick );
-        if ( !isInput )
-            std::fclose( file );
-    }
+    bool isCaptured = isCapture( file );
+    int64_t messages = isCaptured ? readCapture( name, file, options, receive, tick )
+                                  : readText( name, file, receive, tick );
+    if ( !isCaptured )
+        closeFile( file );
     if ( messages == 0 )
         complain( name, "no SIP message in it" );
     return messages > 0;

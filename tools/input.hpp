@@ -28,6 +28,9 @@ int64_t readCapture( const char *name, std::FILE *file, const Options &options, 
                      const Tick &tick );
 int64_t readText( const char *name, std::FILE *file, const Receive &receive, const Tick &tick );
 
+// Closes a file that is not standard input, which may be named again.
+void closeFile( std::FILE *file );
+
 // Tells what is wrong with the file.
 void complain( const char *name, const std::string &what );
 

@@ -102,7 +102,10 @@ std::optional<Options> readOptions( int argc, char **argv, int &status )
                 status = complain( std::string( "a value must follow " ) + argv[optind - 1] );
                 return std::nullopt;
             default:
-                status = complain( std::string( "no such option: " ) + argv[optind - 1] );
+                // A letter may be one of several in an argument.
+                status = complain( "no such option: "
+                                   + ( optopt > Summary ? std::string( "-" ) + static_cast<char>( optopt )
+                                                        : argv[optind - 1] ) );
                 return std::nullopt;
         }
     }

@@ -21,15 +21,15 @@ struct Options
     bool json = false;
     bool summary = false;
     std::set<std::string> silenced; // codes of findings
-    std::set<uint16_t> ports;       // on which all is taken for SIP
+    std::set<uint16_t> ports;       // on which everything is taken for SIP
     std::vector<const char *> files;
 };
 
 // Exit statuses.
 constexpr int exitGood = 0, exitFound = 1, exitTrouble = 2;
 
-// What the arguments ask for, or nothing if there is nothing to do but to exit with the status: help was printed, or
-// what is wrong with the arguments.
+// What the arguments ask for. Nothing if there is no more to do than to exit with the status, because help was printed or
+// the arguments were wrong, which is reported.
 std::optional<Options> readOptions( int argc, char **argv, int &status );
 
 } // namespace tools

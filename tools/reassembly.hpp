@@ -10,13 +10,13 @@
 namespace tools
 {
 
-// What of a capture could not be checked.
+// How much of a capture could not be checked.
 struct Losses
 {
     int64_t cutPackets = 0; // captured only in part
     int64_t fragments = 0;  // datagrams of which fragments are missing or overlap
     int64_t holes = 0;      // in TCP streams
-    int64_t unfinished = 0; // TCP streams of which the end is missing, inside a message
+    int64_t unfinished = 0; // TCP streams that end inside a message
     int64_t tooLong = 0;    // messages
 };
 
@@ -26,13 +26,13 @@ public:
     // Is told each message. Of its place, file, packet and time are those of the last call of add.
     using Receive = std::function<void( const Cut &, const Place & )>;
 
-    // What comes from or to one of the ports is taken for SIP, and elsewhere what begins with a start line.
+    // What comes from or goes to one of the ports is taken for SIP, and so is what begins with a start line elsewhere.
     Reassembly( std::set<uint16_t> sipPorts, Receive receiver );
 
     // Takes the next packet: the frame of a link that isLinkKnown.
     void add( int link, std::string_view frame, const Place &place );
 
-    // No packets come any more.
+    // No more packets come.
     void finish();
 
     Losses losses() const;

@@ -16,15 +16,16 @@ namespace tools
 class Streams
 {
 public:
-    static constexpr std::size_t maxMemory = 64 << 20; // bytes; of more, the quietest streams are given up
+    // Beyond these bytes and this number, the streams that have been quiet the longest are given up.
+    static constexpr std::size_t maxMemory = 64 << 20;
     static constexpr std::size_t maxStreams = 16384;
-    static constexpr std::size_t maxWaiting = 256
-                                              << 10; // bytes, of one stream, for a segment that is missing
+    // Of one stream, the bytes that wait for a missing segment. Beyond them the segment is given up.
+    static constexpr std::size_t maxWaiting = 256 << 10;
 
     // Is told each message, its source and its destination.
     using Receive = std::function<void( const Cut &, const Endpoint &, const Endpoint & )>;
 
-    // On connections that isSip picks all bytes are taken for SIP, on others only what begins with a start line.
+    // On connections that isSip picks, all bytes are taken for SIP, on others only what begins with a start line.
     Streams( Receive receiver, std::function<bool( const Endpoint &, const Endpoint & )> isSipPort )
         : receive( std::move( receiver ) ), isSip( std::move( isSipPort ) )
     {
@@ -33,7 +34,7 @@ public:
     // Takes a packet of TCP.
     void add( const Packet &packet );
 
-    // No packets come any more: gives out what waits after holes. A message that is not whole is none.
+    // No more packets come: gives out what waits after holes, but no message that is not whole.
     void finish();
 
     // Places where bytes are missing; streams that were given up or ended inside a message; messages that were too long.
@@ -76,7 +77,7 @@ private:
     Receive receive;
     std::function<bool( const Endpoint &, const Endpoint & )> isSip;
     Held streams;
-    std::list<Key> ages; // the one that has been quiet for longest first
+    std::list<Key> ages; // the one that has been quiet the longest first
     std::size_t used = 0;
     int64_t holeCount = 0, unfinishedCount = 0, tooLongCount = 0;
 };

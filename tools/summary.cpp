@@ -77,8 +77,11 @@ struct Counted
 
     void add( const Cut &message, const std::set<std::string> &silenced )
     {
-        std::vector<Finding> findings = findIn( message, silenced );
+        // A message stays unreadable if its error is silenced.
+        std::vector<Finding> findings = findIn( message, {} );
         bool isUnreadable = !findings.empty() && findings.front().severity == TELSX_FINDING_SEVERITY_ERROR;
+        std::erase_if( findings,
+                       [&]( const Finding &finding ) { return silenced.count( finding.code ) > 0; } );
         ++total.messages;
         if ( isUnreadable )
             ++unreadable;

@@ -65,7 +65,7 @@ std::optional<Message> Authentication::refuse( Request &request )
     return std::nullopt;
 }
 
-// The first credentials for this realm, if they have all that is asked for. Their URI need not be the Request-URI, which
+// The first credentials for this realm, if nothing is missing from them. Their URI need not be the Request-URI, which
 // a proxy may have changed.
 std::optional<Authentication::Claim> Authentication::findClaim( const Request &request ) const
 {
@@ -113,7 +113,7 @@ std::string Authentication::digest( const Claim &claim, const std::string &metho
     return hex;
 }
 
-// The nonce that begins with milliseconds and a number: those and half of a seal.
+// The whole nonce that begins with this time and number: half of their seal follows.
 std::string Authentication::completed( const std::string &front ) const
 {
     return front + '-' + sealed( key, std::string( realm ) + ' ' + front ).substr( 0, 32 );

@@ -1,5 +1,5 @@
-// Digest authentication of one user (RFC 3261, 22.4, and RFC 7616). A nonce says itself when it was made, and is sealed
-// with a key of this run, so nothing is kept for a client until it has proved that it knows the password.
+// Digest authentication of one user (RFC 3261, 22.4, and RFC 7616). A nonce contains the time at which it was made and
+// is sealed with a key of this run, so nothing is kept for a client until it has proved that it knows the password.
 #pragma once
 
 #include <map>
@@ -43,8 +43,8 @@ private:
     std::vector<std::string> algorithms;
     std::chrono::milliseconds life; // after which a nonce is stale
     uint32_t lastNumber = 0;
-    // With what only the request with the same use may have, as a copy of it has. If there are too many, the oldest
-    // nonce goes, and all up to it are stale.
+    // Each with the seal of its request, since only a copy of that request may use it again. If there are too many, the
+    // oldest nonce is dropped and counts as stale, like all before it.
     std::map<Use, std::string> uses;
     Use gone;
 };

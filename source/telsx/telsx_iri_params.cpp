@@ -57,6 +57,17 @@ void setIriParam( Ref<RT_DICT> &params, const Ref<RT_STRING> &key, const Ref<RT_
     rtDictSetStringKey( params.address(), key.get(), rt::asObj( rest.get() ) );
 }
 
+Ref<RT_DICT> comparedIriParams( const Ref<RT_DICT> &params )
+{
+    Ref<RT_DICT> compared = adopt( rtDictCreate() );
+    for ( int64_t i = 0; i < rtDictLength( params.get() ); ++i )
+    {
+        IriPair param = iriParamAt( params, i );
+        setIriParam( compared, param.name, asciiLowerCase( param.rest ) );
+    }
+    return compared;
+}
+
 bool isHidden( const Ref<RT_STRING> &key, std::initializer_list<ParamField> fields )
 {
     return std::any_of( fields.begin(), fields.end(),

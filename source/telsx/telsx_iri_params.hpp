@@ -33,6 +33,9 @@ IriPair iriParamAt( const Ref<RT_DICT> &params, int64_t index );
 Ref<RT_STRING> iriParamRest( const Ref<RT_DICT> &params, const Ref<RT_STRING> &key );
 void setIriParam( Ref<RT_DICT> &params, const Ref<RT_STRING> &key, const Ref<RT_STRING> &rest );
 
+// The parameters with their rests in lower case, for comparison.
+Ref<RT_DICT> comparedIriParams( const Ref<RT_DICT> &params );
+
 // A field that is written as a parameter, and whether a present one has that name and so hides the parameter.
 struct ParamField
 {

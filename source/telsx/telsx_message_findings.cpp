@@ -34,7 +34,7 @@ static Fault findFaultOfStatusLine( Text rest )
     rest.take( std::min<int64_t>( rest.length, 1 ) );
     Text status = takeWord( rest );
     bool isGood = telsxStatusCodeOk( tryDecodeNumber( status ) );
-    return isGood ? Fault() : Fault{ findingRule( "status-code" ), status };
+    return isGood ? Fault() : Fault{ findingRule( "status-code" ), status ? status : rest };
 }
 
 // The part after the method.

@@ -229,14 +229,9 @@ static Ref<RT_STRING> comparedHost( const Ref<RT_STRING> &host )
 // All parameters, including those in fields, in the form for comparison.
 static Ref<RT_DICT> comparedParams( TELSX_SIP_IRI sipIri )
 {
-    Ref<RT_DICT> params = adopt( rtDictCreate() );
+    Ref<RT_DICT> params = comparedIriParams( sipIri->params );
     auto set = [&]( RT_STRING name, const Ref<RT_STRING> &rest )
     { setIriParam( params, share( name ), rest ); };
-    for ( int64_t i = 0; i < rtDictLength( sipIri->params.get() ); ++i )
-    {
-        IriPair param = iriParamAt( sipIri->params, i );
-        set( param.name.get(), asciiLowerCase( param.rest ) );
-    }
     if ( sipIri->transport )
         set( literal<"transport">(), joined( '=', sipIri->transport ) );
     if ( sipIri->userParam )

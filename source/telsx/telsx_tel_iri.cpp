@@ -129,16 +129,11 @@ RT_BOOL telsxTelIriEquivalent( TELSX_TEL_IRI telIriA, TELSX_TEL_IRI telIriB )
     {
         auto inLowerCase = []( const Ref<RT_STRING> &text )
         { return text ? asciiLowerCase( text ) : Ref<RT_STRING>(); };
-        auto params = adopt( rtDictCreate() );
-        for ( int64_t i = 0; i < rtDictLength( telIri->params.get() ); ++i )
-        {
-            IriPair param = iriParamAt( telIri->params, i );
-            setIriParam( params, param.name, asciiLowerCase( param.rest ) );
-        }
         return std::tuple( asciiLowerCase( withoutSeparators( telIri->number ) ),
                            telIri->extension ? withoutSeparators( telIri->extension ) : telIri->extension,
                            inLowerCase( telIri->isub ),
-                           inLowerCase( comparedContext( telIri->phoneContext ) ), params );
+                           inLowerCase( comparedContext( telIri->phoneContext ) ),
+                           comparedIriParams( telIri->params ) );
     };
     return compared( telIriA ) == compared( telIriB );
 }

@@ -46,7 +46,7 @@ for code in "$scratch"/*-*.c; do
     fi
     "$cc" -std=c11 -Wall -Wextra -Werror -Isource -o "$base" "$program" "$scratch/leaks.c" "${libraries[@]}" $rpath &&
         { "$base" || echo "exits with $?"; } | tr -d '\r' |
-            diff -u --label "the text behind it" "$base.text" --label "printed by ${base##*/}" - || failed=1
+            diff -u --label "the text after it" "$base.text" --label "printed by ${base##*/}" - || failed=1
 done
 
 # What the documents name, which may be the beginning of a name, exists.

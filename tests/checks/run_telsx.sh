@@ -60,9 +60,12 @@ two:37:9: remark [cseq-method]
    37 | CSeq: 1 BYE
       |         ^
 END
-# What is silenced doesn't count.
+# What is silenced doesn't count, but doesn't make a message readable.
 expect 0 check --silence via-host --silence cseq-method two
 prints </dev/null
+printf 'a/b\r\n' >short
+expect 0 check --summary --json --silence status-code short
+grep -q '"errors":0,.*"unreadable":1,"requests":\[\],"responses":\[\]' out || fail "a silenced error makes a message readable"
 
 # Captures: one message in all ways that it can come, with other traffic in between. Fragments and segments come in any
 # order, some of them twice and overlapping.

@@ -34,8 +34,8 @@ public:
     // The parts of the address that the field of the name holds: their fields follow, and their end.
     virtual void beginParts( const char *name ) = 0;
     virtual void endParts() = 0;
-    // Names with values, of which one is called so, such as the parameters that have no field of their own: at least one
-    // pair follows, with a value that may be null, and their end.
+    // Pairs of a name and a value, such as the parameters that have no field of their own, with what one of them is called.
+    // At least one pair follows, whose value may be null, and then their end.
     virtual void beginPairs( const char *name ) = 0;
     virtual void pair( const String &name, const String &value ) = 0;
     virtual void endPairs() = 0;
