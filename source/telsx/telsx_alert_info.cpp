@@ -7,13 +7,8 @@
 
 using namespace telsx;
 
-struct TELSX_ALERT_INFO_
+struct TELSX_ALERT_INFO_ : Info
 {
-    RT_OBJECT object;
-    Ref<RT_STRING> iri;                      // never null
-    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
-
-    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.genericParams ); }
 };
 
 TELSX_DEFINE_VALUE_OF_TEXT( AlertInfo, ALERT_INFO, alertInfo, Iri, iri, Iri, takeInfoAddress,

@@ -34,18 +34,12 @@ TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Realm, realm, telsxQuotableSt
 TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Domain, domain, telsxQuotableStringOk( domain ) )
 TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Nonce, nonce, telsxQuotableStringOk( nonce ) )
 TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Opaque, opaque, telsxQuotableStringOk( opaque ) )
-TELSX_DEFINE_GETTER( Challenge, challenge, Stale, stale )
+TELSX_DEFINE_FLAG( Challenge, challenge, Stale, stale )
 TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Algorithm, algorithm, telsxTokenOk( algorithm ) )
 TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, QopOptions, qopOptions,
                              telsxQuotableStringOk( qopOptions ) )
 TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Token68, token68, telsxToken68Ok( token68 ) )
 TELSX_DEFINE_FIELD( Challenge, challenge, GenericParams, genericParams, genericParams )
-
-void telsxChallengeSetStale( TELSX_CHALLENGE *challenge, RT_BOOL stale )
-{
-    TELSX_ASSERT_HANDLE( challenge );
-    TELSX_OWN( challenge )->stale = stale != 0;
-}
 
 TELSX_CHALLENGE telsxChallengeCreate( RT_STRING scheme )
 {

@@ -22,4 +22,15 @@ inline RT_STRING encodeInfoAddress( RT_STRING iri )
     return text.take();
 }
 
+// The content of all these values except those of Call-Info and Identity.
+struct Info
+{
+    RT_OBJECT object;
+    Ref<RT_STRING> iri;                      // never null
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.genericParams ); }
+};
+static_assert( rt::listsAllFields<Info>() );
+
 } // namespace telsx
