@@ -4,8 +4,8 @@
 #include "telsx/telsx_value.hpp"
 
 // The unit of the value NAME after its structure. The text must be telsx<ELEMENT>Ok and is never null; it is called WORD
-// in the functions' names, and MEMBER in the structure. take removes it from the start of a Text, and returns null for
-// bad text; ENCODE makes the text on the wire of it.
+// in the functions' names, and MEMBER in the structure. TAKE takes it from the start of a Text, and returns null for
+// bad text; ENCODE returns it as it is on the wire, a new reference.
 #define TELSX_DEFINE_VALUE_OF_TEXT( NAME, SORT, SELF, WORD, MEMBER, ELEMENT, TAKE, ENCODE )   \
     TELSX_DEFINE_VALUE_OBJECT( NAME, SORT, SELF )                                             \
     TELSX_DEFINE_FIELD( NAME, SELF, WORD, MEMBER, telsx##ELEMENT##Ok( MEMBER ) )              \
