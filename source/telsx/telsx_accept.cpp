@@ -14,32 +14,21 @@ struct TELSX_ACCEPT_
     RT_OBJECT object;
     Ref<RT_STRING> mediaType;                // lower case; null for the star
     Ref<RT_STRING> mediaSubtype;             // lower case; null for the star
-    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
     int64_t qvalue;                          // thousandths
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
 
     static constexpr auto fields( auto &self )
-    {
-        return std::tie( self.mediaType, self.mediaSubtype, self.genericParams, self.qvalue );
-    }
-    static auto order( auto &self )
     {
         return std::tie( self.mediaType, self.mediaSubtype, self.qvalue, self.genericParams );
     }
 };
 
-TELSX_DEFINE_OBJECT( Accept, ACCEPT, telsx___AcceptFreeFunc, telsx___AcceptCompareFunc,
-                     telsx___AcceptToStringFunc )
-TELSX_DEFINE_FREE_FUNC( Accept, accept )
-TELSX_DEFINE_COMPARE_FUNC( Accept, accept )
-TELSX_DEFINE_TO_STRING_FUNC( Accept, accept )
-TELSX_DEFINE_NORMAL_FIELD( Accept, accept, MediaType, mediaType, telsxMediaTypeOk( mediaType ),
-                           telsxMediaTypeNormalize )
-TELSX_DEFINE_OPTION( Accept, accept, MediaType, mediaType )
-TELSX_DEFINE_NORMAL_FIELD( Accept, accept, MediaSubtype, mediaSubtype, telsxMediaSubtypeOk( mediaSubtype ),
-                           telsxMediaSubtypeNormalize )
-TELSX_DEFINE_OPTION( Accept, accept, MediaSubtype, mediaSubtype )
-TELSX_DEFINE_FIELD( Accept, accept, Qvalue, qvalue, telsxQvalueOk( qvalue ) )
-TELSX_DEFINE_OPTION( Accept, accept, Qvalue, qvalue )
+TELSX_DEFINE_VALUE_OBJECT( Accept, ACCEPT, accept )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( Accept, accept, MediaType, mediaType, telsxMediaTypeOk( mediaType ),
+                                    telsxMediaTypeNormalize )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( Accept, accept, MediaSubtype, mediaSubtype,
+                                    telsxMediaSubtypeOk( mediaSubtype ), telsxMediaSubtypeNormalize )
+TELSX_DEFINE_OPTIONAL_FIELD( Accept, accept, Qvalue, qvalue, telsxQvalueOk( qvalue ) )
 TELSX_DEFINE_FIELD( Accept, accept, GenericParams, genericParams, genericParams )
 
 TELSX_ACCEPT telsxAcceptCreate( void )
@@ -82,8 +71,7 @@ TELSX_ACCEPT telsx___AcceptTryDecode( const RT_CHAR *chs, int64_t length )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"q">( telsx___SkipQvalue ) )
-            param.store( accept->qvalue, param.value.as( telsx___QvalueTryDecode ) );
+        param.read<"q">( accept->qvalue, telsx___SkipQvalue, telsx___QvalueTryDecode );
         param.storeGeneric( accept->genericParams );
     }
     return param.failed() ? nullptr : accept.take();

@@ -18,11 +18,7 @@ struct TELSX_ACCEPT_CONTACT_
     }
 };
 
-TELSX_DEFINE_OBJECT( AcceptContact, ACCEPT_CONTACT, telsx___AcceptContactFreeFunc,
-                     telsx___AcceptContactCompareFunc, telsx___AcceptContactToStringFunc )
-TELSX_DEFINE_FREE_FUNC( AcceptContact, acceptContact )
-TELSX_DEFINE_COMPARE_FUNC( AcceptContact, acceptContact )
-TELSX_DEFINE_TO_STRING_FUNC( AcceptContact, acceptContact )
+TELSX_DEFINE_VALUE_OBJECT( AcceptContact, ACCEPT_CONTACT, acceptContact )
 TELSX_DEFINE_FLAG( AcceptContact, acceptContact, Require, require )
 TELSX_DEFINE_FLAG( AcceptContact, acceptContact, Explicit, isExplicit )
 TELSX_DEFINE_FIELD( AcceptContact, acceptContact, GenericParams, genericParams, genericParams )
@@ -56,10 +52,8 @@ TELSX_ACCEPT_CONTACT telsx___AcceptContactTryDecode( const RT_CHAR *chs, int64_t
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.isWord<"require">() )
-            param.storeFlag( acceptContact->require );
-        if ( param.isWord<"explicit">() )
-            param.storeFlag( acceptContact->isExplicit );
+        param.readMark<"require">( acceptContact->require );
+        param.readMark<"explicit">( acceptContact->isExplicit );
         param.storeGeneric( acceptContact->genericParams );
     }
     return param.failed() ? nullptr : acceptContact.take();

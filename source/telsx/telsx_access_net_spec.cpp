@@ -19,11 +19,7 @@ struct TELSX_ACCESS_NET_SPEC_
     }
 };
 
-TELSX_DEFINE_OBJECT( AccessNetSpec, ACCESS_NET_SPEC, telsx___AccessNetSpecFreeFunc,
-                     telsx___AccessNetSpecCompareFunc, telsx___AccessNetSpecToStringFunc )
-TELSX_DEFINE_FREE_FUNC( AccessNetSpec, accessNetSpec )
-TELSX_DEFINE_COMPARE_FUNC( AccessNetSpec, accessNetSpec )
-TELSX_DEFINE_TO_STRING_FUNC( AccessNetSpec, accessNetSpec )
+TELSX_DEFINE_VALUE_OBJECT( AccessNetSpec, ACCESS_NET_SPEC, accessNetSpec )
 TELSX_DEFINE_FIELD( AccessNetSpec, accessNetSpec, AccessType, accessType, telsxTokenOk( accessType ) )
 TELSX_DEFINE_FLAG( AccessNetSpec, accessNetSpec, Np, np )
 TELSX_DEFINE_FIELD( AccessNetSpec, accessNetSpec, GenericParams, genericParams, genericParams )
@@ -59,8 +55,7 @@ TELSX_ACCESS_NET_SPEC telsx___AccessNetSpecTryDecode( const RT_CHAR *chs, int64_
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.isWord<"np">() )
-            param.storeFlag( accessNetSpec->np );
+        param.readMark<"np">( accessNetSpec->np );
         param.storeGeneric( accessNetSpec->genericParams );
     }
     return param.failed() ? nullptr : accessNetSpec.take();

@@ -43,8 +43,7 @@ HANDLE decodeAnswerMode( Text line, HANDLE ( *create )( RT_STRING answerModeValu
     ParamReader param( line );
     while ( param.next() )
     {
-        if ( param.isWord<"require">() )
-            param.storeFlag( hdr->require );
+        param.readMark<"require">( hdr->require );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

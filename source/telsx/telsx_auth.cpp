@@ -10,11 +10,6 @@
 namespace telsx
 {
 
-static int64_t skipValue( const RT_CHAR *chs, int64_t length )
-{
-    return skipTokenOrQuoted( { chs, length } );
-}
-
 bool AuthParamReader::next()
 {
     bad = bad || open;
@@ -23,7 +18,7 @@ bool AuthParamReader::next()
     bool separated = !behindFirst || rest.take( telsx___SkipComma );
     name = rest.take( telsx___SkipToken );
     bool hasValue = name && rest.take( telsx___SkipEqual );
-    value = rest.take( skipValue );
+    value = rest.take( skipTokenOrQuoted );
     open = behindFirst = separated && hasValue && value;
     bad = !open;
     return open;
@@ -73,7 +68,8 @@ void AuthParamWriter::writeGeneric( const Ref<TELSX_GENERIC_PARAMS> &params )
 static int64_t skipAuthParam( const RT_CHAR *chs, int64_t length )
 {
     Text rest = { chs, length };
-    bool found = rest.take( telsx___SkipToken ) && rest.take( telsx___SkipEqual ) && rest.take( skipValue );
+    bool found =
+        rest.take( telsx___SkipToken ) && rest.take( telsx___SkipEqual ) && rest.take( skipTokenOrQuoted );
     return found ? length - rest.length : 0;
 }
 

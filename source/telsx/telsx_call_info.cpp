@@ -20,15 +20,10 @@ struct TELSX_CALL_INFO_
     }
 };
 
-TELSX_DEFINE_OBJECT( CallInfo, CALL_INFO, telsx___CallInfoFreeFunc, telsx___CallInfoCompareFunc,
-                     telsx___CallInfoToStringFunc )
-TELSX_DEFINE_FREE_FUNC( CallInfo, callInfo )
-TELSX_DEFINE_COMPARE_FUNC( CallInfo, callInfo )
-TELSX_DEFINE_TO_STRING_FUNC( CallInfo, callInfo )
+TELSX_DEFINE_VALUE_OBJECT( CallInfo, CALL_INFO, callInfo )
 TELSX_DEFINE_FIELD( CallInfo, callInfo, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_NORMAL_FIELD( CallInfo, callInfo, Purpose, purpose, telsxPurposeOk( purpose ),
-                           telsxPurposeNormalize )
-TELSX_DEFINE_OPTION( CallInfo, callInfo, Purpose, purpose )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( CallInfo, callInfo, Purpose, purpose, telsxPurposeOk( purpose ),
+                                    telsxPurposeNormalize )
 TELSX_DEFINE_FIELD( CallInfo, callInfo, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_CALL_INFO> create( Ref<RT_STRING> iri )
@@ -48,8 +43,7 @@ TELSX_CALL_INFO telsxCallInfoCreate( RT_STRING iri )
 RT_STRING telsx___CallInfoEncode( TELSX_CALL_INFO callInfo )
 {
     TELSX_ASSERT( callInfo );
-    Ref<RT_STRING> text = adopt( rtStringCreate() );
-    appendAddress( text, callInfo->iri );
+    Ref<RT_STRING> text = adopt( encodeInfoAddress( callInfo->iri.get() ) );
     ParamWriter params( text );
     params.write<"purpose">( callInfo->purpose );
     params.writeGeneric( callInfo->genericParams );
@@ -60,16 +54,15 @@ TELSX_CALL_INFO telsx___CallInfoTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
-    Ref<RT_STRING> iri;
-    if ( !takeInfoAddress( rest, iri ) )
+    Ref<RT_STRING> iri = takeInfoAddress( rest );
+    if ( !iri )
         return nullptr;
     Ref<TELSX_CALL_INFO> callInfo = create( std::move( iri ) );
 
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"purpose">( telsx___SkipPurpose ) )
-            param.storeNormal( callInfo->purpose, param.value.copy().take(), telsxPurposeNormalize );
+        param.readNormal<"purpose">( callInfo->purpose, telsx___SkipPurpose, telsxPurposeNormalize );
         param.storeGeneric( callInfo->genericParams );
     }
     return param.failed() ? nullptr : callInfo.take();

@@ -28,34 +28,18 @@ struct TELSX_CHALLENGE_
     }
 };
 
-TELSX_DEFINE_OBJECT( Challenge, CHALLENGE, telsx___ChallengeFreeFunc, telsx___ChallengeCompareFunc,
-                     telsx___ChallengeToStringFunc )
-TELSX_DEFINE_FREE_FUNC( Challenge, challenge )
-TELSX_DEFINE_COMPARE_FUNC( Challenge, challenge )
-TELSX_DEFINE_TO_STRING_FUNC( Challenge, challenge )
+TELSX_DEFINE_VALUE_OBJECT( Challenge, CHALLENGE, challenge )
 TELSX_DEFINE_FIELD( Challenge, challenge, Scheme, scheme, telsxTokenOk( scheme ) )
-TELSX_DEFINE_FIELD( Challenge, challenge, Realm, realm, telsxQuotableStringOk( realm ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, Realm, realm )
-TELSX_DEFINE_FIELD( Challenge, challenge, Domain, domain, telsxQuotableStringOk( domain ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, Domain, domain )
-TELSX_DEFINE_FIELD( Challenge, challenge, Nonce, nonce, telsxQuotableStringOk( nonce ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, Nonce, nonce )
-TELSX_DEFINE_FIELD( Challenge, challenge, Opaque, opaque, telsxQuotableStringOk( opaque ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, Opaque, opaque )
-TELSX_DEFINE_GETTER( Challenge, challenge, Stale, stale )
-TELSX_DEFINE_FIELD( Challenge, challenge, Algorithm, algorithm, telsxTokenOk( algorithm ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, Algorithm, algorithm )
-TELSX_DEFINE_FIELD( Challenge, challenge, QopOptions, qopOptions, telsxQuotableStringOk( qopOptions ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, QopOptions, qopOptions )
-TELSX_DEFINE_FIELD( Challenge, challenge, Token68, token68, telsxToken68Ok( token68 ) )
-TELSX_DEFINE_OPTION( Challenge, challenge, Token68, token68 )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Realm, realm, telsxQuotableStringOk( realm ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Domain, domain, telsxQuotableStringOk( domain ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Nonce, nonce, telsxQuotableStringOk( nonce ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Opaque, opaque, telsxQuotableStringOk( opaque ) )
+TELSX_DEFINE_FLAG( Challenge, challenge, Stale, stale )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Algorithm, algorithm, telsxTokenOk( algorithm ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, QopOptions, qopOptions,
+                             telsxQuotableStringOk( qopOptions ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Challenge, challenge, Token68, token68, telsxToken68Ok( token68 ) )
 TELSX_DEFINE_FIELD( Challenge, challenge, GenericParams, genericParams, genericParams )
-
-void telsxChallengeSetStale( TELSX_CHALLENGE *challenge, RT_BOOL stale )
-{
-    TELSX_ASSERT_HANDLE( challenge );
-    TELSX_OWN( challenge )->stale = stale != 0;
-}
 
 TELSX_CHALLENGE telsxChallengeCreate( RT_STRING scheme )
 {

@@ -36,26 +36,15 @@ struct TELSX_CONTACT_
     }
 };
 
-TELSX_DEFINE_OBJECT( Contact, CONTACT, telsx___ContactFreeFunc, telsx___ContactCompareFunc,
-                     telsx___ContactToStringFunc )
-TELSX_DEFINE_FREE_FUNC( Contact, contact )
-TELSX_DEFINE_COMPARE_FUNC( Contact, contact )
-TELSX_DEFINE_TO_STRING_FUNC( Contact, contact )
+TELSX_DEFINE_VALUE_OBJECT( Contact, CONTACT, contact )
 TELSX_DEFINE_FIELD( Contact, contact, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( Contact, contact, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( Contact, contact, DisplayName, displayName )
-TELSX_DEFINE_FIELD( Contact, contact, Qvalue, qvalue, telsxQvalueOk( qvalue ) )
-TELSX_DEFINE_OPTION( Contact, contact, Qvalue, qvalue )
-TELSX_DEFINE_FIELD( Contact, contact, Expires, expires, telsxDeltaSecondsOk( expires ) )
-TELSX_DEFINE_OPTION( Contact, contact, Expires, expires )
-TELSX_DEFINE_FIELD( Contact, contact, Rc, rc, telsxHistoryInfoIndexOk( rc ) )
-TELSX_DEFINE_OPTION( Contact, contact, Rc, rc )
-TELSX_DEFINE_FIELD( Contact, contact, Mp, mp, telsxHistoryInfoIndexOk( mp ) )
-TELSX_DEFINE_OPTION( Contact, contact, Mp, mp )
-TELSX_DEFINE_FIELD( Contact, contact, Np, np, telsxHistoryInfoIndexOk( np ) )
-TELSX_DEFINE_OPTION( Contact, contact, Np, np )
-TELSX_DEFINE_FIELD( Contact, contact, SipInstance, sipInstance, telsxSipInstanceOk( sipInstance ) )
-TELSX_DEFINE_OPTION( Contact, contact, SipInstance, sipInstance )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, Qvalue, qvalue, telsxQvalueOk( qvalue ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, Expires, expires, telsxDeltaSecondsOk( expires ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, Rc, rc, telsxHistoryInfoIndexOk( rc ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, Mp, mp, telsxHistoryInfoIndexOk( mp ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, Np, np, telsxHistoryInfoIndexOk( np ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Contact, contact, SipInstance, sipInstance, telsxSipInstanceOk( sipInstance ) )
 TELSX_DEFINE_FIELD( Contact, contact, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_CONTACT> create( Address address )
@@ -101,18 +90,12 @@ TELSX_CONTACT telsx___ContactTryDecode( const RT_CHAR *chs, int64_t length )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"q">( telsx___SkipQvalue ) )
-            param.store( contact->qvalue, param.value.as( telsx___QvalueTryDecode ) );
-        if ( param.is<"expires">( telsx___SkipDeltaSeconds ) )
-            param.store( contact->expires, param.value.as( telsx___DeltaSecondsTryDecode ) );
-        if ( param.is<"rc">( telsx___SkipHistoryInfoIndex ) )
-            param.store( contact->rc, param.value.copy() );
-        if ( param.is<"mp">( telsx___SkipHistoryInfoIndex ) )
-            param.store( contact->mp, param.value.copy() );
-        if ( param.is<"np">( telsx___SkipHistoryInfoIndex ) )
-            param.store( contact->np, param.value.copy() );
-        if ( param.is<"+sip.instance">( skipInQuotes<telsx___SkipSipInstance> ) )
-            param.store( contact->sipInstance, copyInQuotes( param.value ) );
+        param.read<"q">( contact->qvalue, telsx___SkipQvalue, telsx___QvalueTryDecode );
+        param.read<"expires">( contact->expires, telsx___SkipDeltaSeconds, telsx___DeltaSecondsTryDecode );
+        param.read<"rc">( contact->rc, telsx___SkipHistoryInfoIndex );
+        param.read<"mp">( contact->mp, telsx___SkipHistoryInfoIndex );
+        param.read<"np">( contact->np, telsx___SkipHistoryInfoIndex );
+        param.readInQuotes<"+sip.instance", telsx___SkipSipInstance>( contact->sipInstance );
         param.storeGeneric( contact->genericParams );
     }
     return param.failed() ? nullptr : contact.take();

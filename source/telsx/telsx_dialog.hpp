@@ -18,10 +18,8 @@ bool decodeDialog( Text rest, Ref<RT_STRING> &tag, Ref<RT_STRING> &otherTag,
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<TAG>( telsx___SkipTag ) )
-            param.store( tag, param.value.copy() );
-        if ( param.is<OTHER_TAG>( telsx___SkipTag ) )
-            param.store( otherTag, param.value.copy() );
+        param.read<TAG>( tag, telsx___SkipTag );
+        param.read<OTHER_TAG>( otherTag, telsx___SkipTag );
         if ( earlyOnly && param.isBare<"early-only">() )
             param.storeFlag( *earlyOnly );
         param.storeGeneric( genericParams );
@@ -36,10 +34,8 @@ bool decodeDialog( Text rest, Ref<RT_STRING> &tag, Ref<RT_STRING> &otherTag,
 #define TELSX_DEFINE_DIALOG( NAME, SORT, SIP_NAME, WORD, TAG, PARAM, OTHER_WORD, OTHER_TAG, OTHER_PARAM )  \
     TELSX_DEFINE_HEADER_OBJECT( NAME, SORT, hdr, SIP_NAME )                                                \
     TELSX_DEFINE_FIELD( NAME, hdr, CallId, callId, telsxCallIdOk( callId ) )                               \
-    TELSX_DEFINE_FIELD( NAME, hdr, WORD, TAG, telsxTagOk( TAG ) )                                          \
-    TELSX_DEFINE_OPTION( NAME, hdr, WORD, TAG )                                                            \
-    TELSX_DEFINE_FIELD( NAME, hdr, OTHER_WORD, OTHER_TAG, telsxTagOk( OTHER_TAG ) )                        \
-    TELSX_DEFINE_OPTION( NAME, hdr, OTHER_WORD, OTHER_TAG )                                                \
+    TELSX_DEFINE_OPTIONAL_FIELD( NAME, hdr, WORD, TAG, telsxTagOk( TAG ) )                                 \
+    TELSX_DEFINE_OPTIONAL_FIELD( NAME, hdr, OTHER_WORD, OTHER_TAG, telsxTagOk( OTHER_TAG ) )               \
     TELSX_DEFINE_FIELD( NAME, hdr, GenericParams, genericParams, genericParams )                           \
     TELSX_HANDLE( NAME ) telsx##NAME##Create( RT_STRING callId )                                           \
     {                                                                                                      \

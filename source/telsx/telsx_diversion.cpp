@@ -34,18 +34,16 @@ struct TELSX_DIVERSION_
 TELSX_DEFINE_OBJECT( Diversion, DIVERSION, telsx___DiversionFreeFunc, nullptr, nullptr )
 TELSX_DEFINE_FREE_FUNC( Diversion, diversion )
 TELSX_DEFINE_FIELD( Diversion, diversion, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( Diversion, diversion, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( Diversion, diversion, DisplayName, displayName )
-TELSX_DEFINE_NORMAL_FIELD( Diversion, diversion, Reason, reason, reason, telsxDiversionReasonNormalize )
-TELSX_DEFINE_OPTION( Diversion, diversion, Reason, reason )
-TELSX_DEFINE_FIELD( Diversion, diversion, Counter, counter, telsxDiversionCounterOk( counter ) )
-TELSX_DEFINE_OPTION( Diversion, diversion, Counter, counter )
-TELSX_DEFINE_FIELD( Diversion, diversion, Limit, limit, telsxDiversionLimitOk( limit ) )
-TELSX_DEFINE_OPTION( Diversion, diversion, Limit, limit )
-TELSX_DEFINE_NORMAL_FIELD( Diversion, diversion, Privacy, privacy, privacy, telsxDiversionPrivacyNormalize )
-TELSX_DEFINE_OPTION( Diversion, diversion, Privacy, privacy )
-TELSX_DEFINE_NORMAL_FIELD( Diversion, diversion, Screen, screen, screen, telsxDiversionScreenNormalize )
-TELSX_DEFINE_OPTION( Diversion, diversion, Screen, screen )
+TELSX_DEFINE_OPTIONAL_FIELD( Diversion, diversion, DisplayName, displayName,
+                             telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( Diversion, diversion, Reason, reason, reason,
+                                    telsxDiversionReasonNormalize )
+TELSX_DEFINE_OPTIONAL_FIELD( Diversion, diversion, Counter, counter, telsxDiversionCounterOk( counter ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Diversion, diversion, Limit, limit, telsxDiversionLimitOk( limit ) )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( Diversion, diversion, Privacy, privacy, privacy,
+                                    telsxDiversionPrivacyNormalize )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( Diversion, diversion, Screen, screen, screen,
+                                    telsxDiversionScreenNormalize )
 TELSX_DEFINE_FIELD( Diversion, diversion, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_DIVERSION> create( Address address )
@@ -100,10 +98,9 @@ TELSX_DIVERSION telsx___DiversionTryDecode( const RT_CHAR *chs, int64_t length )
         if ( param.is<"reason">( telsx___SkipDiversionReason ) )
             param.storeNormal( diversion->reason, param.value.as( telsx___DiversionReasonTryDecode ),
                                telsxDiversionReasonNormalize );
-        if ( param.is<"counter">( telsx___SkipDiversionCounter ) )
-            param.store( diversion->counter, param.value.as( telsx___DiversionCounterTryDecode ) );
-        if ( param.is<"limit">( telsx___SkipDiversionLimit ) )
-            param.store( diversion->limit, param.value.as( telsx___DiversionLimitTryDecode ) );
+        param.read<"counter">( diversion->counter, telsx___SkipDiversionCounter,
+                               telsx___DiversionCounterTryDecode );
+        param.read<"limit">( diversion->limit, telsx___SkipDiversionLimit, telsx___DiversionLimitTryDecode );
         if ( param.is<"privacy">( telsx___SkipDiversionPrivacy ) )
             param.storeNormal( diversion->privacy, param.value.as( telsx___DiversionPrivacyTryDecode ),
                                telsxDiversionPrivacyNormalize );

@@ -31,5 +31,5 @@ RT_STRING telsx___DiversionScreenTryDecode( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipDiversionScreen( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return skipTokenOrQuoted( { chs, length } );
+    return skipTokenOrQuoted( chs, length );
 }

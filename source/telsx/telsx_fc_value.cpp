@@ -16,11 +16,7 @@ struct TELSX_FC_VALUE_
     static constexpr auto fields( auto &self ) { return std::tie( self.featureCaps ); }
 };
 
-TELSX_DEFINE_OBJECT( FcValue, FC_VALUE, telsx___FcValueFreeFunc, telsx___FcValueCompareFunc,
-                     telsx___FcValueToStringFunc )
-TELSX_DEFINE_FREE_FUNC( FcValue, fcValue )
-TELSX_DEFINE_COMPARE_FUNC( FcValue, fcValue )
-TELSX_DEFINE_TO_STRING_FUNC( FcValue, fcValue )
+TELSX_DEFINE_VALUE_OBJECT( FcValue, FC_VALUE, fcValue )
 TELSX_DEFINE_FIELD( FcValue, fcValue, FeatureCaps, featureCaps, telsxFeatureCapsOk( featureCaps ) )
 
 TELSX_FC_VALUE telsxFcValueCreate( void )
@@ -44,10 +40,8 @@ TELSX_FC_VALUE telsx___FcValueTryDecode( const RT_CHAR *chs, int64_t length )
     if ( !covers( telsx___SkipFcValue, { chs, length } ) )
         return nullptr;
     auto fcValue = adopt( telsxFcValueCreate() );
-    ParamReader param( Text{ chs, length }.behind( 1 ) );
-    while ( param.next() )
-        param.storeGeneric( fcValue->featureCaps );
-    return param.failed() ? nullptr : fcValue.take();
+    return readGenericParams( Text{ chs, length }.behind( 1 ), fcValue->featureCaps ) ? fcValue.take()
+                                                                                      : nullptr;
 }
 
 // The grammar of feature capabilities

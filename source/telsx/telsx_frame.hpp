@@ -75,6 +75,15 @@ using rt::share;
         return telsx___##NAME##Encode( SELF );           \
     }
 
+// Everything of a value except its fields, its encoder and its decoder: TELSX_DEFINE_OBJECT with the three slots, and
+// their functions.
+#define TELSX_DEFINE_VALUE_OBJECT( NAME, SORT, SELF )                                       \
+    TELSX_DEFINE_OBJECT( NAME, SORT, telsx___##NAME##FreeFunc, telsx___##NAME##CompareFunc, \
+                         telsx___##NAME##ToStringFunc )                                     \
+    TELSX_DEFINE_FREE_FUNC( NAME, SELF )                                                    \
+    TELSX_DEFINE_COMPARE_FUNC( NAME, SELF )                                                 \
+    TELSX_DEFINE_TO_STRING_FUNC( NAME, SELF )
+
 // Getter of the field MEMBER, which is called WORD in the function's name.
 #define TELSX_DEFINE_GETTER( NAME, SELF, WORD, MEMBER )                                        \
     auto telsx##NAME##WORD( TELSX_HANDLE( NAME ) SELF )->decltype( rt::value( SELF->MEMBER ) ) \
@@ -128,3 +137,11 @@ using rt::share;
         TELSX_ASSERT_HANDLE( SELF );                            \
         rt::clear( TELSX_OWN( SELF )->MEMBER );                 \
     }
+
+// The accessors of a field that may be absent: getter, setter, Has and Del.
+#define TELSX_DEFINE_OPTIONAL_FIELD( NAME, SELF, WORD, MEMBER, OK ) \
+    TELSX_DEFINE_FIELD( NAME, SELF, WORD, MEMBER, OK )              \
+    TELSX_DEFINE_OPTION( NAME, SELF, WORD, MEMBER )
+#define TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( NAME, SELF, WORD, MEMBER, OK, NORMALIZE ) \
+    TELSX_DEFINE_NORMAL_FIELD( NAME, SELF, WORD, MEMBER, OK, NORMALIZE )              \
+    TELSX_DEFINE_OPTION( NAME, SELF, WORD, MEMBER )

@@ -31,10 +31,8 @@ bool decodeFromTo( FromTo &hdr, Text line )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"tag">( telsx___SkipTag ) )
-            param.store( hdr.tag, param.value.copy() );
-        if ( param.is<"epid">( telsx___SkipEpid ) )
-            param.store( hdr.epid, param.value.copy() );
+        param.read<"tag">( hdr.tag, telsx___SkipTag );
+        param.read<"epid">( hdr.epid, telsx___SkipEpid );
         param.storeGeneric( hdr.genericParams );
     }
     return !param.failed();

@@ -12,11 +12,7 @@
 
 using namespace telsx;
 
-TELSX_DEFINE_OBJECT( GenericParams, GENERIC_PARAMS, telsx___GenericParamsFreeFunc,
-                     telsx___GenericParamsCompareFunc, telsx___GenericParamsToStringFunc )
-TELSX_DEFINE_FREE_FUNC( GenericParams, params )
-TELSX_DEFINE_COMPARE_FUNC( GenericParams, params )
-TELSX_DEFINE_TO_STRING_FUNC( GenericParams, params )
+TELSX_DEFINE_VALUE_OBJECT( GenericParams, GENERIC_PARAMS, params )
 
 constexpr TELSX_GENERIC_PARAMS_ telsx::emptyGenericParams = {
     RT_STATIC_OBJECT( &telsx___sort_TELSX_GENERIC_PARAMS ), adopt( const_cast<RT_DICT>( &rt___emptyDict ) )

@@ -26,16 +26,14 @@ struct TELSX_HEADER_AUTHENTICATION_INFO_
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderAuthenticationInfo, HEADER_AUTHENTICATION_INFO, hdr, "Authentication-Info" )
-TELSX_DEFINE_FIELD( HeaderAuthenticationInfo, hdr, NextNonce, nextNonce, telsxQuotableStringOk( nextNonce ) )
-TELSX_DEFINE_OPTION( HeaderAuthenticationInfo, hdr, NextNonce, nextNonce )
-TELSX_DEFINE_FIELD( HeaderAuthenticationInfo, hdr, Qop, qop, telsxTokenOk( qop ) )
-TELSX_DEFINE_OPTION( HeaderAuthenticationInfo, hdr, Qop, qop )
-TELSX_DEFINE_FIELD( HeaderAuthenticationInfo, hdr, Rspauth, rspauth, telsxQuotableStringOk( rspauth ) )
-TELSX_DEFINE_OPTION( HeaderAuthenticationInfo, hdr, Rspauth, rspauth )
-TELSX_DEFINE_FIELD( HeaderAuthenticationInfo, hdr, Cnonce, cnonce, telsxQuotableStringOk( cnonce ) )
-TELSX_DEFINE_OPTION( HeaderAuthenticationInfo, hdr, Cnonce, cnonce )
-TELSX_DEFINE_FIELD( HeaderAuthenticationInfo, hdr, NonceCount, nonceCount, telsxNonceCountOk( nonceCount ) )
-TELSX_DEFINE_OPTION( HeaderAuthenticationInfo, hdr, NonceCount, nonceCount )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderAuthenticationInfo, hdr, NextNonce, nextNonce,
+                             telsxQuotableStringOk( nextNonce ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderAuthenticationInfo, hdr, Qop, qop, telsxTokenOk( qop ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderAuthenticationInfo, hdr, Rspauth, rspauth,
+                             telsxQuotableStringOk( rspauth ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderAuthenticationInfo, hdr, Cnonce, cnonce, telsxQuotableStringOk( cnonce ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderAuthenticationInfo, hdr, NonceCount, nonceCount,
+                             telsxNonceCountOk( nonceCount ) )
 TELSX_DEFINE_FIELD( HeaderAuthenticationInfo, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_AUTHENTICATION_INFO telsxHeaderAuthenticationInfoCreate( void )

@@ -24,9 +24,8 @@ struct TELSX_HEADER_CONTENT_DISPOSITION_
 TELSX_DEFINE_HEADER_OBJECT( HeaderContentDisposition, HEADER_CONTENT_DISPOSITION, hdr, "Content-Disposition" )
 TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, DispositionType, dispositionType, dispositionType,
                            telsxDispositionTypeNormalize )
-TELSX_DEFINE_NORMAL_FIELD( HeaderContentDisposition, hdr, Handling, handling, handling,
-                           telsxHandlingNormalize )
-TELSX_DEFINE_OPTION( HeaderContentDisposition, hdr, Handling, handling )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( HeaderContentDisposition, hdr, Handling, handling, handling,
+                                    telsxHandlingNormalize )
 TELSX_DEFINE_FIELD( HeaderContentDisposition, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_CONTENT_DISPOSITION telsxHeaderContentDispositionCreate( RT_STRING dispositionType )
@@ -60,8 +59,7 @@ static TELSX_HEADER_CONTENT_DISPOSITION decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"handling">( telsx___SkipHandling ) )
-            param.storeNormal( hdr->handling, param.value.copy().take(), telsxHandlingNormalize );
+        param.readNormal<"handling">( hdr->handling, telsx___SkipHandling, telsxHandlingNormalize );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

@@ -30,11 +30,9 @@ TELSX_DEFINE_NORMAL_FIELD( HeaderContentType, hdr, MediaType, mediaType, telsxMe
                            telsxMediaTypeNormalize )
 TELSX_DEFINE_NORMAL_FIELD( HeaderContentType, hdr, MediaSubtype, mediaSubtype,
                            telsxMediaSubtypeOk( mediaSubtype ), telsxMediaSubtypeNormalize )
-TELSX_DEFINE_NORMAL_FIELD( HeaderContentType, hdr, Charset, charset, telsxTokenOk( charset ),
-                           telsxTokenNormalize )
-TELSX_DEFINE_OPTION( HeaderContentType, hdr, Charset, charset )
-TELSX_DEFINE_FIELD( HeaderContentType, hdr, Boundary, boundary, telsxBoundaryOk( boundary ) )
-TELSX_DEFINE_OPTION( HeaderContentType, hdr, Boundary, boundary )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( HeaderContentType, hdr, Charset, charset, telsxTokenOk( charset ),
+                                    telsxTokenNormalize )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderContentType, hdr, Boundary, boundary, telsxBoundaryOk( boundary ) )
 TELSX_DEFINE_FIELD( HeaderContentType, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_CONTENT_TYPE telsxHeaderContentTypeCreate( RT_STRING mediaType, RT_STRING mediaSubtype )
@@ -59,16 +57,12 @@ TELSX_MESSAGE_HEADER telsxHeaderContentTypeEncode( TELSX_HEADER_CONTENT_TYPE hdr
     return createHeader( literal<"Content-Type">(), line );
 }
 
-static int64_t skipValue( const RT_CHAR *chs, int64_t length )
-{
-    return skipTokenOrQuoted( { chs, length } );
-}
-
 // Whether the text consists of parameters, each with a value.
 static bool areParameters( Text rest )
 {
     while ( rest.take( telsx___SkipSemi ) )
-        if ( !rest.take( telsx___SkipToken ) || !rest.take( telsx___SkipEqual ) || !rest.take( skipValue ) )
+        if ( !rest.take( telsx___SkipToken ) || !rest.take( telsx___SkipEqual )
+             || !rest.take( skipTokenOrQuoted ) )
             return false;
     return !rest;
 }
@@ -94,10 +88,10 @@ static TELSX_HEADER_CONTENT_TYPE decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"charset">( skipValue ) )
+        if ( param.is<"charset">( skipTokenOrQuoted ) )
             param.storeNormal( hdr->charset, tryDecodeValue( param.value, telsxTokenOk ).take(),
                                telsxTokenNormalize );
-        if ( param.is<"boundary">( skipValue ) )
+        if ( param.is<"boundary">( skipTokenOrQuoted ) )
             param.store( hdr->boundary, tryDecodeValue( param.value, telsxBoundaryOk ) );
         param.storeGeneric( hdr->genericParams );
     }

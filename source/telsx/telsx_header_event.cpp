@@ -67,8 +67,7 @@ static TELSX_HEADER_EVENT decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"id">( telsx___SkipToken ) )
-            param.store( hdr->id, param.value.copy() );
+        param.read<"id">( hdr->id, telsx___SkipToken );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

@@ -16,12 +16,9 @@ struct TELSX_HEADER_FROM_ : FromTo
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderFrom, HEADER_FROM, hdr, "From" )
 TELSX_DEFINE_FIELD( HeaderFrom, hdr, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( HeaderFrom, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( HeaderFrom, hdr, DisplayName, displayName )
-TELSX_DEFINE_FIELD( HeaderFrom, hdr, Tag, tag, telsxTagOk( tag ) )
-TELSX_DEFINE_OPTION( HeaderFrom, hdr, Tag, tag )
-TELSX_DEFINE_FIELD( HeaderFrom, hdr, Epid, epid, telsxEpidOk( epid ) )
-TELSX_DEFINE_OPTION( HeaderFrom, hdr, Epid, epid )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderFrom, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderFrom, hdr, Tag, tag, telsxTagOk( tag ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderFrom, hdr, Epid, epid, telsxEpidOk( epid ) )
 TELSX_DEFINE_FIELD( HeaderFrom, hdr, GenericParams, genericParams, genericParams )
 
 static TELSX_HEADER_FROM create() { return rt::create<TELSX_HEADER_FROM_>( telsxHeaderFromSort() ); }

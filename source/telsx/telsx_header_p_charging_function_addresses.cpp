@@ -24,14 +24,12 @@ struct TELSX_HEADER_P_CHARGING_FUNCTION_ADDRESSES_
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderPChargingFunctionAddresses, HEADER_P_CHARGING_FUNCTION_ADDRESSES, hdr,
                             "P-Charging-Function-Addresses" )
-TELSX_DEFINE_FIELD( HeaderPChargingFunctionAddresses, hdr, Ccf, ccf, telsxQuotableStringOk( ccf ) )
-TELSX_DEFINE_OPTION( HeaderPChargingFunctionAddresses, hdr, Ccf, ccf )
-TELSX_DEFINE_FIELD( HeaderPChargingFunctionAddresses, hdr, Ecf, ecf, telsxQuotableStringOk( ecf ) )
-TELSX_DEFINE_OPTION( HeaderPChargingFunctionAddresses, hdr, Ecf, ecf )
-TELSX_DEFINE_FIELD( HeaderPChargingFunctionAddresses, hdr, Ccf2, ccf2, telsxQuotableStringOk( ccf2 ) )
-TELSX_DEFINE_OPTION( HeaderPChargingFunctionAddresses, hdr, Ccf2, ccf2 )
-TELSX_DEFINE_FIELD( HeaderPChargingFunctionAddresses, hdr, Ecf2, ecf2, telsxQuotableStringOk( ecf2 ) )
-TELSX_DEFINE_OPTION( HeaderPChargingFunctionAddresses, hdr, Ecf2, ecf2 )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingFunctionAddresses, hdr, Ccf, ccf, telsxQuotableStringOk( ccf ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingFunctionAddresses, hdr, Ecf, ecf, telsxQuotableStringOk( ecf ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingFunctionAddresses, hdr, Ccf2, ccf2,
+                             telsxQuotableStringOk( ccf2 ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingFunctionAddresses, hdr, Ecf2, ecf2,
+                             telsxQuotableStringOk( ecf2 ) )
 TELSX_DEFINE_FIELD( HeaderPChargingFunctionAddresses, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_P_CHARGING_FUNCTION_ADDRESSES telsxHeaderPChargingFunctionAddressesCreate( void )
@@ -67,14 +65,10 @@ static TELSX_HEADER_P_CHARGING_FUNCTION_ADDRESSES decode( HeaderLines &lines )
     ParamReader param = ParamReader::withoutFront( line );
     while ( param.next() )
     {
-        if ( param.is<"ccf">( skipGenValue ) )
-            param.store( hdr->ccf ? hdr->ccf2 : hdr->ccf, param.value.as( tryDecodeGenValue ) );
-        if ( param.is<"ecf">( skipGenValue ) )
-            param.store( hdr->ecf ? hdr->ecf2 : hdr->ecf, param.value.as( tryDecodeGenValue ) );
-        if ( param.is<"ccf-2">( skipGenValue ) )
-            param.store( hdr->ccf2, param.value.as( tryDecodeGenValue ) );
-        if ( param.is<"ecf-2">( skipGenValue ) )
-            param.store( hdr->ecf2, param.value.as( tryDecodeGenValue ) );
+        param.read<"ccf">( hdr->ccf ? hdr->ccf2 : hdr->ccf, skipGenValue, tryDecodeGenValue );
+        param.read<"ecf">( hdr->ecf ? hdr->ecf2 : hdr->ecf, skipGenValue, tryDecodeGenValue );
+        param.read<"ccf-2">( hdr->ccf2, skipGenValue, tryDecodeGenValue );
+        param.read<"ecf-2">( hdr->ecf2, skipGenValue, tryDecodeGenValue );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

@@ -29,21 +29,16 @@ struct TELSX_HEADER_P_CHARGING_VECTOR_
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderPChargingVector, HEADER_P_CHARGING_VECTOR, hdr, "P-Charging-Vector" )
 TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, IcidValue, icidValue, telsxQuotableStringOk( icidValue ) )
-TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, IcidGeneratedAt, icidGeneratedAt,
-                    telsxHostOk( icidGeneratedAt ) )
-TELSX_DEFINE_OPTION( HeaderPChargingVector, hdr, IcidGeneratedAt, icidGeneratedAt )
-TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, OrigIoi, origIoi, telsxQuotableStringOk( origIoi ) )
-TELSX_DEFINE_OPTION( HeaderPChargingVector, hdr, OrigIoi, origIoi )
-TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, TermIoi, termIoi, telsxQuotableStringOk( termIoi ) )
-TELSX_DEFINE_OPTION( HeaderPChargingVector, hdr, TermIoi, termIoi )
-TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, TransitIoi, transitIoi, telsxTransitIoiOk( transitIoi ) )
-TELSX_DEFINE_OPTION( HeaderPChargingVector, hdr, TransitIoi, transitIoi )
-TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, RelatedIcid, relatedIcid,
-                    telsxQuotableStringOk( relatedIcid ) )
-TELSX_DEFINE_OPTION( HeaderPChargingVector, hdr, RelatedIcid, relatedIcid )
-TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, RelatedIcidGeneratedAt, relatedIcidGeneratedAt,
-                    telsxHostOk( relatedIcidGeneratedAt ) )
-TELSX_DEFINE_OPTION( HeaderPChargingVector, hdr, RelatedIcidGeneratedAt, relatedIcidGeneratedAt )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingVector, hdr, IcidGeneratedAt, icidGeneratedAt,
+                             telsxHostOk( icidGeneratedAt ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingVector, hdr, OrigIoi, origIoi, telsxQuotableStringOk( origIoi ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingVector, hdr, TermIoi, termIoi, telsxQuotableStringOk( termIoi ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingVector, hdr, TransitIoi, transitIoi,
+                             telsxTransitIoiOk( transitIoi ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingVector, hdr, RelatedIcid, relatedIcid,
+                             telsxQuotableStringOk( relatedIcid ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPChargingVector, hdr, RelatedIcidGeneratedAt, relatedIcidGeneratedAt,
+                             telsxHostOk( relatedIcidGeneratedAt ) )
 TELSX_DEFINE_FIELD( HeaderPChargingVector, hdr, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_HEADER_P_CHARGING_VECTOR> create( Ref<RT_STRING> icidValue )
@@ -81,25 +76,19 @@ static TELSX_HEADER_P_CHARGING_VECTOR decode( HeaderLines &lines )
 {
     ParamReader param = ParamReader::withoutFront( lines.lastText() );
     Ref<RT_STRING> icidValue;
-    if ( !param.next() || !param.is<"icid-value">( skipGenValue )
-         || !param.store( icidValue, param.value.as( tryDecodeGenValue ) ) )
+    if ( !param.next() || !param.read<"icid-value">( icidValue, skipGenValue, tryDecodeGenValue ) )
         return nullptr;
     Ref<TELSX_HEADER_P_CHARGING_VECTOR> hdr = create( std::move( icidValue ) );
 
     while ( param.next() )
     {
-        if ( param.is<"icid-generated-at">( telsx___SkipHost ) )
-            param.store( hdr->icidGeneratedAt, param.value.as( telsx___HostTryDecode ) );
-        if ( param.is<"orig-ioi">( skipGenValue ) )
-            param.store( hdr->origIoi, param.value.as( tryDecodeGenValue ) );
-        if ( param.is<"term-ioi">( skipGenValue ) )
-            param.store( hdr->termIoi, param.value.as( tryDecodeGenValue ) );
-        if ( param.is<"transit-ioi">( skipInQuotes<telsx___SkipTransitIoi> ) )
-            param.store( hdr->transitIoi, copyInQuotes( param.value ) );
-        if ( param.is<"related-icid">( skipGenValue ) )
-            param.store( hdr->relatedIcid, param.value.as( tryDecodeGenValue ) );
-        if ( param.is<"related-icid-generated-at">( telsx___SkipHost ) )
-            param.store( hdr->relatedIcidGeneratedAt, param.value.as( telsx___HostTryDecode ) );
+        param.read<"icid-generated-at">( hdr->icidGeneratedAt, telsx___SkipHost, telsx___HostTryDecode );
+        param.read<"orig-ioi">( hdr->origIoi, skipGenValue, tryDecodeGenValue );
+        param.read<"term-ioi">( hdr->termIoi, skipGenValue, tryDecodeGenValue );
+        param.readInQuotes<"transit-ioi", telsx___SkipTransitIoi>( hdr->transitIoi );
+        param.read<"related-icid">( hdr->relatedIcid, skipGenValue, tryDecodeGenValue );
+        param.read<"related-icid-generated-at">( hdr->relatedIcidGeneratedAt, telsx___SkipHost,
+                                                 telsx___HostTryDecode );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

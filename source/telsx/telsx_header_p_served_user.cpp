@@ -27,14 +27,12 @@ struct TELSX_HEADER_P_SERVED_USER_
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderPServedUser, HEADER_P_SERVED_USER, hdr, "P-Served-User" )
 TELSX_DEFINE_FIELD( HeaderPServedUser, hdr, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( HeaderPServedUser, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( HeaderPServedUser, hdr, DisplayName, displayName )
-TELSX_DEFINE_NORMAL_FIELD( HeaderPServedUser, hdr, Sescase, sescase, telsxSescaseOk( sescase ),
-                           telsxSescaseNormalize )
-TELSX_DEFINE_OPTION( HeaderPServedUser, hdr, Sescase, sescase )
-TELSX_DEFINE_NORMAL_FIELD( HeaderPServedUser, hdr, Regstate, regstate, telsxRegstateOk( regstate ),
-                           telsxRegstateNormalize )
-TELSX_DEFINE_OPTION( HeaderPServedUser, hdr, Regstate, regstate )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderPServedUser, hdr, DisplayName, displayName,
+                             telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( HeaderPServedUser, hdr, Sescase, sescase, telsxSescaseOk( sescase ),
+                                    telsxSescaseNormalize )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( HeaderPServedUser, hdr, Regstate, regstate, telsxRegstateOk( regstate ),
+                                    telsxRegstateNormalize )
 TELSX_DEFINE_FIELD( HeaderPServedUser, hdr, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_HEADER_P_SERVED_USER> create( Address address )
@@ -75,10 +73,8 @@ static TELSX_HEADER_P_SERVED_USER decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"sescase">( telsx___SkipSescase ) )
-            param.storeNormal( hdr->sescase, param.value.copy().take(), telsxSescaseNormalize );
-        if ( param.is<"regstate">( telsx___SkipRegstate ) )
-            param.storeNormal( hdr->regstate, param.value.copy().take(), telsxRegstateNormalize );
+        param.readNormal<"sescase">( hdr->sescase, telsx___SkipSescase, telsxSescaseNormalize );
+        param.readNormal<"regstate">( hdr->regstate, telsx___SkipRegstate, telsxRegstateNormalize );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

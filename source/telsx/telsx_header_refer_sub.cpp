@@ -43,9 +43,5 @@ static TELSX_HEADER_REFER_SUB decode( HeaderLines &lines )
     if ( !referSub && !rest.take( skipKeyword<"false">( rest ) ) )
         return nullptr;
     Ref<TELSX_HEADER_REFER_SUB> hdr = adopt( telsxHeaderReferSubCreate( referSub ) );
-
-    ParamReader param( rest );
-    while ( param.next() )
-        param.storeGeneric( hdr->genericParams );
-    return param.failed() ? nullptr : hdr.take();
+    return readGenericParams( rest, hdr->genericParams ) ? hdr.take() : nullptr;
 }

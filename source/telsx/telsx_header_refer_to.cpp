@@ -1,8 +1,6 @@
 // Refer-To header (RFC 3515, 2.1).
 #include "telsx/telsx_header_refer_to.h"
 
-#include "telsx/telsx_display_name.h"
-#include "telsx/telsx_iri.h"
 #include "telsx/telsx_party.hpp"
 #include "telsx/telsx_skip.h"
 
@@ -13,30 +11,7 @@ struct TELSX_HEADER_REFER_TO_ : Party
 };
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderReferTo, HEADER_REFER_TO, hdr, "Refer-To" )
-TELSX_DEFINE_FIELD( HeaderReferTo, hdr, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( HeaderReferTo, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( HeaderReferTo, hdr, DisplayName, displayName )
-TELSX_DEFINE_FIELD( HeaderReferTo, hdr, GenericParams, genericParams, genericParams )
-
-static TELSX_HEADER_REFER_TO create()
-{
-    return rt::create<TELSX_HEADER_REFER_TO_>( telsxHeaderReferToSort() );
-}
-
-TELSX_HEADER_REFER_TO telsxHeaderReferToCreate( RT_STRING iri )
-{
-    TELSX_ASSERT_OK( telsxIriOk, iri );
-    TELSX_HEADER_REFER_TO hdr = create();
-    hdr->iri = share( iri );
-    hdr->genericParams = noGenericParams();
-    return hdr;
-}
-
-TELSX_MESSAGE_HEADER telsxHeaderReferToEncode( TELSX_HEADER_REFER_TO hdr )
-{
-    TELSX_ASSERT( hdr );
-    return createHeader( literal<"Refer-To">(), encodeParty( *hdr ) );
-}
+TELSX_DEFINE_HEADER_OF_PARTY( HeaderReferTo, "Refer-To" )
 
 static TELSX_HEADER_REFER_TO decode( HeaderLines &lines )
 {

@@ -25,10 +25,9 @@ struct TELSX_HEADER_REFERRED_BY_
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderReferredBy, HEADER_REFERRED_BY, hdr, "Referred-By" )
 TELSX_DEFINE_FIELD( HeaderReferredBy, hdr, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( HeaderReferredBy, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( HeaderReferredBy, hdr, DisplayName, displayName )
-TELSX_DEFINE_FIELD( HeaderReferredBy, hdr, Cid, cid, telsxSipCleanMsgIdOk( cid ) )
-TELSX_DEFINE_OPTION( HeaderReferredBy, hdr, Cid, cid )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderReferredBy, hdr, DisplayName, displayName,
+                             telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderReferredBy, hdr, Cid, cid, telsxSipCleanMsgIdOk( cid ) )
 TELSX_DEFINE_FIELD( HeaderReferredBy, hdr, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_HEADER_REFERRED_BY> create( Address address )
@@ -68,8 +67,7 @@ static TELSX_HEADER_REFERRED_BY decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"cid">( skipInQuotes<telsx___SkipSipCleanMsgId> ) )
-            param.store( hdr->cid, copyInQuotes( param.value ) );
+        param.readInQuotes<"cid", telsx___SkipSipCleanMsgId>( hdr->cid );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

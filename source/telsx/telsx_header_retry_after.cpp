@@ -23,8 +23,7 @@ struct TELSX_HEADER_RETRY_AFTER_
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderRetryAfter, HEADER_RETRY_AFTER, hdr, "Retry-After" )
 TELSX_DEFINE_FIELD( HeaderRetryAfter, hdr, DeltaSeconds, deltaSeconds, telsxDeltaSecondsOk( deltaSeconds ) )
-TELSX_DEFINE_FIELD( HeaderRetryAfter, hdr, Duration, duration, telsxDeltaSecondsOk( duration ) )
-TELSX_DEFINE_OPTION( HeaderRetryAfter, hdr, Duration, duration )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderRetryAfter, hdr, Duration, duration, telsxDeltaSecondsOk( duration ) )
 
 TELSX_DEFINE_GETTER( HeaderRetryAfter, hdr, GenericParams, genericParams )
 
@@ -67,8 +66,7 @@ static TELSX_HEADER_RETRY_AFTER decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"duration">( telsx___SkipDeltaSeconds ) )
-            param.store( hdr->duration, param.value.as( telsx___DeltaSecondsTryDecode ) );
+        param.read<"duration">( hdr->duration, telsx___SkipDeltaSeconds, telsx___DeltaSecondsTryDecode );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() && !param.stopped() ? nullptr : hdr.take();

@@ -24,9 +24,8 @@ struct TELSX_HEADER_SESSION_EXPIRES_
 TELSX_DEFINE_HEADER_OBJECT( HeaderSessionExpires, HEADER_SESSION_EXPIRES, hdr, "Session-Expires" )
 TELSX_DEFINE_FIELD( HeaderSessionExpires, hdr, DeltaSeconds, deltaSeconds,
                     telsxDeltaSecondsOk( deltaSeconds ) )
-TELSX_DEFINE_NORMAL_FIELD( HeaderSessionExpires, hdr, Refresher, refresher, telsxRefresherOk( refresher ),
-                           telsxRefresherNormalize )
-TELSX_DEFINE_OPTION( HeaderSessionExpires, hdr, Refresher, refresher )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( HeaderSessionExpires, hdr, Refresher, refresher,
+                                    telsxRefresherOk( refresher ), telsxRefresherNormalize )
 TELSX_DEFINE_FIELD( HeaderSessionExpires, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_SESSION_EXPIRES telsxHeaderSessionExpiresCreate( int64_t deltaSeconds )
@@ -60,8 +59,7 @@ static TELSX_HEADER_SESSION_EXPIRES decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"refresher">( telsx___SkipRefresher ) )
-            param.storeNormal( hdr->refresher, param.value.copy().take(), telsxRefresherNormalize );
+        param.readNormal<"refresher">( hdr->refresher, telsx___SkipRefresher, telsxRefresherNormalize );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() && !param.stopped() ? nullptr : hdr.take();

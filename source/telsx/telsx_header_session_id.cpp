@@ -22,8 +22,7 @@ struct TELSX_HEADER_SESSION_ID_
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderSessionId, HEADER_SESSION_ID, hdr, "Session-Id" )
 TELSX_DEFINE_FIELD( HeaderSessionId, hdr, LocalUuid, localUuid, telsxSessUuidOk( localUuid ) )
-TELSX_DEFINE_FIELD( HeaderSessionId, hdr, RemoteUuid, remoteUuid, telsxSessUuidOk( remoteUuid ) )
-TELSX_DEFINE_OPTION( HeaderSessionId, hdr, RemoteUuid, remoteUuid )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderSessionId, hdr, RemoteUuid, remoteUuid, telsxSessUuidOk( remoteUuid ) )
 TELSX_DEFINE_FIELD( HeaderSessionId, hdr, GenericParams, genericParams, genericParams )
 
 TELSX_HEADER_SESSION_ID telsxHeaderSessionIdCreate( RT_STRING localUuid )
@@ -56,8 +55,7 @@ static TELSX_HEADER_SESSION_ID decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"remote">( telsx___SkipSessUuid ) )
-            param.store( hdr->remoteUuid, param.value.copy() );
+        param.read<"remote">( hdr->remoteUuid, telsx___SkipSessUuid );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

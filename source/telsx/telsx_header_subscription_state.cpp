@@ -27,9 +27,8 @@ struct TELSX_HEADER_SUBSCRIPTION_STATE_
 TELSX_DEFINE_HEADER_OBJECT( HeaderSubscriptionState, HEADER_SUBSCRIPTION_STATE, hdr, "Subscription-State" )
 TELSX_DEFINE_NORMAL_FIELD( HeaderSubscriptionState, hdr, SubstateValue, substateValue,
                            telsxSubstateValueOk( substateValue ), telsxSubstateValueNormalize )
-TELSX_DEFINE_NORMAL_FIELD( HeaderSubscriptionState, hdr, Reason, reason, telsxEventReasonValueOk( reason ),
-                           telsxEventReasonValueNormalize )
-TELSX_DEFINE_OPTION( HeaderSubscriptionState, hdr, Reason, reason )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( HeaderSubscriptionState, hdr, Reason, reason,
+                                    telsxEventReasonValueOk( reason ), telsxEventReasonValueNormalize )
 TELSX_DEFINE_FIELD( HeaderSubscriptionState, hdr, GenericParams, genericParams, genericParams )
 
 // The setters of the numbers name their argument by its meaning.
@@ -86,12 +85,10 @@ static TELSX_HEADER_SUBSCRIPTION_STATE decode( HeaderLines &lines )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"reason">( telsx___SkipEventReasonValue ) )
-            param.storeNormal( hdr->reason, param.value.copy().take(), telsxEventReasonValueNormalize );
-        if ( param.is<"expires">( telsx___SkipDeltaSeconds ) )
-            param.store( hdr->expires, param.value.as( telsx___DeltaSecondsTryDecode ) );
-        if ( param.is<"retry-after">( telsx___SkipDeltaSeconds ) )
-            param.store( hdr->retryAfter, param.value.as( telsx___DeltaSecondsTryDecode ) );
+        param.readNormal<"reason">( hdr->reason, telsx___SkipEventReasonValue,
+                                    telsxEventReasonValueNormalize );
+        param.read<"expires">( hdr->expires, telsx___SkipDeltaSeconds, telsx___DeltaSecondsTryDecode );
+        param.read<"retry-after">( hdr->retryAfter, telsx___SkipDeltaSeconds, telsx___DeltaSecondsTryDecode );
         param.storeGeneric( hdr->genericParams );
     }
     return param.failed() ? nullptr : hdr.take();

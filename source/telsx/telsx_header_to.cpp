@@ -16,12 +16,9 @@ struct TELSX_HEADER_TO_ : FromTo
 
 TELSX_DEFINE_HEADER_OBJECT( HeaderTo, HEADER_TO, hdr, "To" )
 TELSX_DEFINE_FIELD( HeaderTo, hdr, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( HeaderTo, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( HeaderTo, hdr, DisplayName, displayName )
-TELSX_DEFINE_FIELD( HeaderTo, hdr, Tag, tag, telsxTagOk( tag ) )
-TELSX_DEFINE_OPTION( HeaderTo, hdr, Tag, tag )
-TELSX_DEFINE_FIELD( HeaderTo, hdr, Epid, epid, telsxEpidOk( epid ) )
-TELSX_DEFINE_OPTION( HeaderTo, hdr, Epid, epid )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderTo, hdr, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderTo, hdr, Tag, tag, telsxTagOk( tag ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HeaderTo, hdr, Epid, epid, telsxEpidOk( epid ) )
 TELSX_DEFINE_FIELD( HeaderTo, hdr, GenericParams, genericParams, genericParams )
 
 static TELSX_HEADER_TO create() { return rt::create<TELSX_HEADER_TO_>( telsxHeaderToSort() ); }

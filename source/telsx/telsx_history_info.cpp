@@ -31,15 +31,11 @@ TELSX_DEFINE_OBJECT( HistoryInfo, HISTORY_INFO, telsx___HistoryInfoFreeFunc, tel
 TELSX_DEFINE_FREE_FUNC( HistoryInfo, hi )
 TELSX_DEFINE_COMPARE_FUNC( HistoryInfo, hi )
 TELSX_DEFINE_FIELD( HistoryInfo, hi, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( HistoryInfo, hi, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( HistoryInfo, hi, DisplayName, displayName )
+TELSX_DEFINE_OPTIONAL_FIELD( HistoryInfo, hi, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
 TELSX_DEFINE_FIELD( HistoryInfo, hi, Index, index, telsxHistoryInfoIndexOk( index ) )
-TELSX_DEFINE_FIELD( HistoryInfo, hi, Rc, rc, telsxHistoryInfoIndexOk( rc ) )
-TELSX_DEFINE_OPTION( HistoryInfo, hi, Rc, rc )
-TELSX_DEFINE_FIELD( HistoryInfo, hi, Mp, mp, telsxHistoryInfoIndexOk( mp ) )
-TELSX_DEFINE_OPTION( HistoryInfo, hi, Mp, mp )
-TELSX_DEFINE_FIELD( HistoryInfo, hi, Np, np, telsxHistoryInfoIndexOk( np ) )
-TELSX_DEFINE_OPTION( HistoryInfo, hi, Np, np )
+TELSX_DEFINE_OPTIONAL_FIELD( HistoryInfo, hi, Rc, rc, telsxHistoryInfoIndexOk( rc ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HistoryInfo, hi, Mp, mp, telsxHistoryInfoIndexOk( mp ) )
+TELSX_DEFINE_OPTIONAL_FIELD( HistoryInfo, hi, Np, np, telsxHistoryInfoIndexOk( np ) )
 TELSX_DEFINE_FIELD( HistoryInfo, hi, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_HISTORY_INFO> create( Address address )
@@ -86,14 +82,10 @@ TELSX_HISTORY_INFO telsx___HistoryInfoTryDecode( const RT_CHAR *chs, int64_t len
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"index">( telsx___SkipHistoryInfoIndex ) )
-            param.store( hi->index, param.value.copy() );
-        if ( param.is<"rc">( telsx___SkipHistoryInfoIndex ) )
-            param.store( hi->rc, param.value.copy() );
-        if ( param.is<"mp">( telsx___SkipHistoryInfoIndex ) )
-            param.store( hi->mp, param.value.copy() );
-        if ( param.is<"np">( telsx___SkipHistoryInfoIndex ) )
-            param.store( hi->np, param.value.copy() );
+        param.read<"index">( hi->index, telsx___SkipHistoryInfoIndex );
+        param.read<"rc">( hi->rc, telsx___SkipHistoryInfoIndex );
+        param.read<"mp">( hi->mp, telsx___SkipHistoryInfoIndex );
+        param.read<"np">( hi->np, telsx___SkipHistoryInfoIndex );
         param.storeGeneric( hi->genericParams );
     }
     return param.failed() || !hi->index ? nullptr : hi.take();

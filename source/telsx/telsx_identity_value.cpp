@@ -21,8 +21,8 @@ TELSX_DEFINE_OBJECT( IdentityValue, IDENTITY_VALUE, telsx___IdentityValueFreeFun
 TELSX_DEFINE_FREE_FUNC( IdentityValue, value )
 TELSX_DEFINE_COMPARE_FUNC( IdentityValue, value )
 TELSX_DEFINE_FIELD( IdentityValue, value, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( IdentityValue, value, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( IdentityValue, value, DisplayName, displayName )
+TELSX_DEFINE_OPTIONAL_FIELD( IdentityValue, value, DisplayName, displayName,
+                             telsxDisplayNameOk( displayName ) )
 
 static Ref<TELSX_IDENTITY_VALUE> create( Address address )
 {

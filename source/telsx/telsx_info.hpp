@@ -1,5 +1,5 @@
-// What the values of Alert-Info, Error-Info, Call-Info and Geolocation share: an address in angle brackets without a
-// display name.
+// What the values of Alert-Info, Error-Info, Call-Info, Geolocation and Identity share: an address in angle brackets
+// without a display name.
 #pragma once
 
 #include "telsx/telsx_value.hpp"
@@ -7,16 +7,22 @@
 namespace telsx
 {
 
-// The address at the start; false for bad text.
-inline bool takeInfoAddress( Text &rest, Ref<RT_STRING> &iri )
+// Takes the address at the start; null for bad text.
+inline Ref<RT_STRING> takeInfoAddress( Text &rest )
 {
     Address address;
     bool taken = takeAddress( rest, address ) && address.inBrackets && !address.displayName;
-    iri = std::move( address.iri );
-    return taken;
+    return taken ? std::move( address.iri ) : Ref<RT_STRING>();
 }
 
-// The content of all these values except those of Call-Info.
+inline RT_STRING encodeInfoAddress( RT_STRING iri )
+{
+    Ref<RT_STRING> text = adopt( rtStringCreate() );
+    appendAddress( text, share( iri ) );
+    return text.take();
+}
+
+// The content of all these values except those of Call-Info and Identity.
 struct Info
 {
     RT_OBJECT object;
@@ -26,25 +32,5 @@ struct Info
     static constexpr auto fields( auto &self ) { return std::tie( self.iri, self.genericParams ); }
 };
 static_assert( rt::listsAllFields<Info>() );
-
-inline RT_STRING encodeInfo( const Info &info )
-{
-    Ref<RT_STRING> text = adopt( rtStringCreate() );
-    appendAddress( text, info.iri );
-    appendGenericParams( text, info.genericParams.get() );
-    return text.take();
-}
-
-// Fills a new value from its text; false for bad text.
-inline bool decodeInfo( Info &info, Text text )
-{
-    if ( !takeInfoAddress( text, info.iri ) )
-        return false;
-    info.genericParams = noGenericParams();
-    ParamReader param( text );
-    while ( param.next() )
-        param.storeGeneric( info.genericParams );
-    return !param.failed();
-}
 
 } // namespace telsx

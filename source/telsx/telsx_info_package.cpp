@@ -1,43 +1,29 @@
 // Info package (RFC 6086, 9.2).
 #include "telsx/telsx_info_package.h"
 
-#include "telsx/telsx_info_package.hpp"
+#include "telsx/telsx_token.h"
+#include "telsx/telsx_value_of_text.hpp"
 
 using namespace telsx;
 
-struct TELSX_INFO_PACKAGE_ : InfoPackage
+struct TELSX_INFO_PACKAGE_
 {
+    RT_OBJECT object;
+    Ref<RT_STRING> name;                     // never null
+    Ref<TELSX_GENERIC_PARAMS> genericParams; // never null
+
+    static constexpr auto fields( auto &self ) { return std::tie( self.name, self.genericParams ); }
 };
 
-TELSX_DEFINE_OBJECT( InfoPackage, INFO_PACKAGE, telsx___InfoPackageFreeFunc, telsx___InfoPackageCompareFunc,
-                     telsx___InfoPackageToStringFunc )
-TELSX_DEFINE_FREE_FUNC( InfoPackage, infoPackage )
-TELSX_DEFINE_COMPARE_FUNC( InfoPackage, infoPackage )
-TELSX_DEFINE_TO_STRING_FUNC( InfoPackage, infoPackage )
-TELSX_DEFINE_FIELD( InfoPackage, infoPackage, Name, name, telsxTokenOk( name ) )
-TELSX_DEFINE_FIELD( InfoPackage, infoPackage, GenericParams, genericParams, genericParams )
-
-TELSX_INFO_PACKAGE telsxInfoPackageCreate( RT_STRING name )
+static Ref<RT_STRING> takeName( Text &rest )
 {
-    TELSX_ASSERT_OK( telsxTokenOk, name );
-    TELSX_INFO_PACKAGE infoPackage = rt::create<TELSX_INFO_PACKAGE_>( telsxInfoPackageSort() );
-    infoPackage->name = share( name );
-    infoPackage->genericParams = noGenericParams();
-    return infoPackage;
+    Text name = rest.take( telsx___SkipToken );
+    return name ? name.copy() : Ref<RT_STRING>();
 }
 
-RT_STRING telsx___InfoPackageEncode( TELSX_INFO_PACKAGE infoPackage )
-{
-    TELSX_ASSERT( infoPackage );
-    return encodeInfoPackage( *infoPackage ).take();
-}
+static RT_STRING encodeName( RT_STRING name ) { return share( name ).take(); }
 
-TELSX_INFO_PACKAGE telsx___InfoPackageTryDecode( const RT_CHAR *chs, int64_t length )
-{
-    TELSX_ASSERT_CHARS( chs, length );
-    auto infoPackage = adopt( rt::create<TELSX_INFO_PACKAGE_>( telsxInfoPackageSort() ) );
-    return decodeInfoPackage( *infoPackage.get(), { chs, length } ) ? infoPackage.take() : nullptr;
-}
+TELSX_DEFINE_VALUE_OF_TEXT( InfoPackage, INFO_PACKAGE, infoPackage, Name, name, Token, takeName, encodeName )
 
 int64_t telsx___SkipInfoPackage( const RT_CHAR *chs, int64_t length )
 {

@@ -230,8 +230,7 @@ RT_BOOL telsxMessageFragmentHasLoneLineEnds( TELSX_MESSAGE_FRAGMENT frag )
 
 // Body
 
-TELSX_DEFINE_FIELD( MessageFragment, frag, Body, body, body )
-TELSX_DEFINE_OPTION( MessageFragment, frag, Body, body )
+TELSX_DEFINE_OPTIONAL_FIELD( MessageFragment, frag, Body, body, body )
 
 // Functions that take a text, with the text as 8-bit and as wide characters
 

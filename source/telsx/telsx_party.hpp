@@ -2,7 +2,9 @@
 // Reply-To, P-Called-Party-Id and Remote-Party-Id, and the values of P-Associated-Uri.
 #pragma once
 
+#include "telsx/telsx_display_name.h"
 #include "telsx/telsx_header.hpp"
+#include "telsx/telsx_iri.h"
 #include "telsx/telsx_value.hpp"
 
 namespace telsx
@@ -36,10 +38,7 @@ inline bool decodeParty( Party &party, Address address, Text behind )
     party.iri = std::move( address.iri );
     party.displayName = std::move( address.displayName );
     party.genericParams = noGenericParams();
-    ParamReader param( behind );
-    while ( param.next() )
-        param.storeGeneric( party.genericParams );
-    return !param.failed();
+    return readGenericParams( behind, party.genericParams );
 }
 inline bool decodeParty( Party &party, Text text )
 {
@@ -48,3 +47,31 @@ inline bool decodeParty( Party &party, Text text )
 }
 
 } // namespace telsx
+
+// The accessors of the header or value NAME, and its creators: one for callers, and one of an empty object for the
+// decoder.
+#define TELSX_DEFINE_PARTY( NAME, SELF )                                                                   \
+    TELSX_DEFINE_FIELD( NAME, SELF, Iri, iri, telsxIriOk( iri ) )                                          \
+    TELSX_DEFINE_OPTIONAL_FIELD( NAME, SELF, DisplayName, displayName, telsxDisplayNameOk( displayName ) ) \
+    TELSX_DEFINE_FIELD( NAME, SELF, GenericParams, genericParams, genericParams )                          \
+    static auto create()                                                                                   \
+    {                                                                                                      \
+        return rt::create<std::remove_pointer_t<TELSX_HANDLE( NAME )>>( telsx##NAME##Sort() );             \
+    }                                                                                                      \
+    TELSX_HANDLE( NAME ) telsx##NAME##Create( RT_STRING iri )                                              \
+    {                                                                                                      \
+        TELSX_ASSERT_OK( telsxIriOk, iri );                                                                \
+        auto SELF = create();                                                                              \
+        SELF->iri = telsx::share( iri );                                                                   \
+        SELF->genericParams = telsx::noGenericParams();                                                    \
+        return SELF;                                                                                       \
+    }
+
+// The same of a header, and its encoder.
+#define TELSX_DEFINE_HEADER_OF_PARTY( NAME, SIP_NAME )                                        \
+    TELSX_DEFINE_PARTY( NAME, hdr )                                                           \
+    TELSX_MESSAGE_HEADER telsx##NAME##Encode( TELSX_HANDLE( NAME ) hdr )                      \
+    {                                                                                         \
+        TELSX_ASSERT( hdr );                                                                  \
+        return telsx::createHeader( telsx::literal<SIP_NAME>(), telsx::encodeParty( *hdr ) ); \
+    }

@@ -23,17 +23,11 @@ struct TELSX_PASSPORT_
     }
 };
 
-TELSX_DEFINE_OBJECT( Passport, PASSPORT, telsx___PassportFreeFunc, telsx___PassportCompareFunc,
-                     telsx___PassportToStringFunc )
-TELSX_DEFINE_FREE_FUNC( Passport, passport )
-TELSX_DEFINE_COMPARE_FUNC( Passport, passport )
-TELSX_DEFINE_TO_STRING_FUNC( Passport, passport )
+TELSX_DEFINE_VALUE_OBJECT( Passport, PASSPORT, passport )
 TELSX_DEFINE_FIELD( Passport, passport, Digest, digest, telsxSignedIdentityDigestOk( digest ) )
 TELSX_DEFINE_FIELD( Passport, passport, Info, info, telsxIriOk( info ) )
-TELSX_DEFINE_FIELD( Passport, passport, Alg, alg, telsxTokenOk( alg ) )
-TELSX_DEFINE_OPTION( Passport, passport, Alg, alg )
-TELSX_DEFINE_FIELD( Passport, passport, Ppt, ppt, telsxTokenOk( ppt ) )
-TELSX_DEFINE_OPTION( Passport, passport, Ppt, ppt )
+TELSX_DEFINE_OPTIONAL_FIELD( Passport, passport, Alg, alg, telsxTokenOk( alg ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Passport, passport, Ppt, ppt, telsxTokenOk( ppt ) )
 TELSX_DEFINE_FIELD( Passport, passport, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_PASSPORT> create( Ref<RT_STRING> digest, Ref<RT_STRING> info )
@@ -52,29 +46,22 @@ TELSX_PASSPORT telsxPassportCreate( RT_STRING digest, RT_STRING info )
     return create( share( digest ), share( info ) ).take();
 }
 
-static RT_STRING encodeInBrackets( RT_STRING iri )
-{
-    Ref<RT_STRING> text = adopt( rtStringCreate() );
-    appendAddress( text, share( iri ) );
-    return text.take();
-}
-
 RT_STRING telsx___PassportEncode( TELSX_PASSPORT passport )
 {
     TELSX_ASSERT( passport );
     Ref<RT_STRING> text = passport->digest;
     ParamWriter params( text );
-    params.write<"info">( passport->info, encodeInBrackets );
+    params.write<"info">( passport->info, encodeInfoAddress );
     params.write<"alg">( passport->alg );
     params.write<"ppt">( passport->ppt );
     params.writeGeneric( passport->genericParams );
     return text.take();
 }
 
-static Ref<RT_STRING> tryDecodeInfo( Text value )
+static RT_STRING tryDecodeInfo( const RT_CHAR *chs, int64_t length )
 {
-    Ref<RT_STRING> iri;
-    return takeInfoAddress( value, iri ) ? iri : Ref<RT_STRING>();
+    Text value = { chs, length };
+    return takeInfoAddress( value ).take();
 }
 
 // The address must be the first parameter.
@@ -85,21 +72,16 @@ TELSX_PASSPORT telsx___PassportTryDecode( const RT_CHAR *chs, int64_t length )
     Text digest = rest.take( telsx___SkipSignedIdentityDigest );
     ParamReader param( rest );
     Ref<RT_STRING> info;
-    if ( !digest || !param.next() || !param.is<"info">( telsx___SkipNameAddr )
-         || !param.store( info, tryDecodeInfo( param.value ) ) )
+    if ( !digest || !param.next() || !param.read<"info">( info, telsx___SkipNameAddr, tryDecodeInfo ) )
         return nullptr;
     Ref<TELSX_PASSPORT> passport = create( digest.copy(), std::move( info ) );
 
     while ( param.next() )
     {
-        if ( param.is<"alg">( telsx___SkipToken ) )
-            param.store( passport->alg, param.value.copy() );
-        if ( param.is<"alg">( skipInQuotes<telsx___SkipToken> ) )
-            param.store( passport->alg, copyInQuotes( param.value ) );
-        if ( param.is<"ppt">( telsx___SkipToken ) )
-            param.store( passport->ppt, param.value.copy() );
-        if ( param.is<"ppt">( skipInQuotes<telsx___SkipToken> ) )
-            param.store( passport->ppt, copyInQuotes( param.value ) );
+        param.read<"alg">( passport->alg, telsx___SkipToken );
+        param.readInQuotes<"alg", telsx___SkipToken>( passport->alg );
+        param.read<"ppt">( passport->ppt, telsx___SkipToken );
+        param.readInQuotes<"ppt", telsx___SkipToken>( passport->ppt );
         param.storeGeneric( passport->genericParams );
     }
     return param.failed() ? nullptr : passport.take();

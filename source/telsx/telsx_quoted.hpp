@@ -10,10 +10,10 @@
 namespace telsx
 {
 
-inline int64_t skipTokenOrQuoted( Text text )
+inline int64_t skipTokenOrQuoted( const RT_CHAR *chs, int64_t length )
 {
-    int64_t token = telsx___SkipToken( text.chs, text.length );
-    return token ? token : telsx___SkipQuotedString( text.chs, text.length );
+    int64_t token = telsx___SkipToken( chs, length );
+    return token ? token : telsx___SkipQuotedString( chs, length );
 }
 
 inline RT_STRING encodeTokenOrQuoted( RT_STRING plain )
@@ -29,12 +29,18 @@ inline RT_STRING tryDecodeTokenOrQuoted( Text text )
     return telsx___QuotableStringTryDecode( text.chs, text.length );
 }
 
+// Takes the element at the start, a new reference; null for bad text.
+inline Ref<RT_STRING> takeTokenOrQuoted( Text &rest )
+{
+    return adopt( tryDecodeTokenOrQuoted( rest.take( skipTokenOrQuoted ) ) );
+}
+
 // The same with an IPv6 reference, which is the only host that is not a token, as a third form (RFC 3261, 25.1,
 // gen-value).
 inline int64_t skipGenValue( const RT_CHAR *chs, int64_t length )
 {
     int64_t reference = telsx___SkipIpV6Reference( chs, length );
-    return reference ? reference : skipTokenOrQuoted( { chs, length } );
+    return reference ? reference : skipTokenOrQuoted( chs, length );
 }
 
 inline RT_STRING encodeGenValue( RT_STRING plain )

@@ -26,10 +26,8 @@ struct TELSX_REASON_
 TELSX_DEFINE_OBJECT( Reason, REASON, telsx___ReasonFreeFunc, nullptr, nullptr )
 TELSX_DEFINE_FREE_FUNC( Reason, reason )
 TELSX_DEFINE_FIELD( Reason, reason, Protocol, protocol, telsxReasonProtocolOk( protocol ) )
-TELSX_DEFINE_FIELD( Reason, reason, Cause, cause, telsxReasonCauseOk( cause ) )
-TELSX_DEFINE_OPTION( Reason, reason, Cause, cause )
-TELSX_DEFINE_FIELD( Reason, reason, Text, text, telsxReasonTextOk( text ) )
-TELSX_DEFINE_OPTION( Reason, reason, Text, text )
+TELSX_DEFINE_OPTIONAL_FIELD( Reason, reason, Cause, cause, telsxReasonCauseOk( cause ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Reason, reason, Text, text, telsxReasonTextOk( text ) )
 TELSX_DEFINE_FIELD( Reason, reason, GenericParams, genericParams, genericParams )
 
 TELSX_REASON telsxReasonCreate( RT_STRING reasonProtocol )
@@ -64,10 +62,8 @@ TELSX_REASON telsx___ReasonTryDecode( const RT_CHAR *chs, int64_t length )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"cause">( telsx___SkipReasonCause ) )
-            param.store( reason->cause, param.value.copy() );
-        if ( param.is<"text">( telsx___SkipReasonText ) )
-            param.store( reason->text, param.value.as( telsx___QuotableStringTryDecode ) );
+        param.read<"cause">( reason->cause, telsx___SkipReasonCause );
+        param.read<"text">( reason->text, telsx___SkipReasonText, telsx___QuotableStringTryDecode );
         param.storeGeneric( reason->genericParams );
     }
     return param.failed() ? nullptr : reason.take();

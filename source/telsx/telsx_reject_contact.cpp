@@ -14,11 +14,7 @@ struct TELSX_REJECT_CONTACT_
     static constexpr auto fields( auto &self ) { return std::tie( self.genericParams ); }
 };
 
-TELSX_DEFINE_OBJECT( RejectContact, REJECT_CONTACT, telsx___RejectContactFreeFunc,
-                     telsx___RejectContactCompareFunc, telsx___RejectContactToStringFunc )
-TELSX_DEFINE_FREE_FUNC( RejectContact, rejectContact )
-TELSX_DEFINE_COMPARE_FUNC( RejectContact, rejectContact )
-TELSX_DEFINE_TO_STRING_FUNC( RejectContact, rejectContact )
+TELSX_DEFINE_VALUE_OBJECT( RejectContact, REJECT_CONTACT, rejectContact )
 TELSX_DEFINE_FIELD( RejectContact, rejectContact, GenericParams, genericParams, genericParams )
 
 TELSX_REJECT_CONTACT telsxRejectContactCreate( void )
@@ -43,11 +39,7 @@ TELSX_REJECT_CONTACT telsx___RejectContactTryDecode( const RT_CHAR *chs, int64_t
     if ( !rest.take( telsx___SkipChar( chs, length, '*' ) ) )
         return nullptr;
     Ref<TELSX_REJECT_CONTACT> rejectContact = adopt( telsxRejectContactCreate() );
-
-    ParamReader param( rest );
-    while ( param.next() )
-        param.storeGeneric( rejectContact->genericParams );
-    return param.failed() ? nullptr : rejectContact.take();
+    return readGenericParams( rest, rejectContact->genericParams ) ? rejectContact.take() : nullptr;
 }
 
 int64_t telsx___SkipRejectContact( const RT_CHAR *chs, int64_t length )

@@ -24,8 +24,7 @@ TELSX_DEFINE_OBJECT( Route, ROUTE, telsx___RouteFreeFunc, telsx___RouteCompareFu
 TELSX_DEFINE_FREE_FUNC( Route, route )
 TELSX_DEFINE_COMPARE_FUNC( Route, route )
 TELSX_DEFINE_FIELD( Route, route, Iri, iri, telsxIriOk( iri ) )
-TELSX_DEFINE_FIELD( Route, route, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
-TELSX_DEFINE_OPTION( Route, route, DisplayName, displayName )
+TELSX_DEFINE_OPTIONAL_FIELD( Route, route, DisplayName, displayName, telsxDisplayNameOk( displayName ) )
 TELSX_DEFINE_FIELD( Route, route, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_ROUTE> create( Address address )
@@ -60,9 +59,5 @@ TELSX_ROUTE telsx___RouteTryDecode( const RT_CHAR *chs, int64_t length )
     if ( !takeAddress( rest, address ) )
         return nullptr;
     Ref<TELSX_ROUTE> route = create( std::move( address ) );
-
-    ParamReader param( rest );
-    while ( param.next() )
-        param.storeGeneric( route->genericParams );
-    return param.failed() ? nullptr : route.take();
+    return readGenericParams( rest, route->genericParams ) ? route.take() : nullptr;
 }

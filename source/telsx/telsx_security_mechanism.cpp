@@ -25,22 +25,15 @@ struct TELSX_SECURITY_MECHANISM_
     }
 };
 
-TELSX_DEFINE_OBJECT( SecurityMechanism, SECURITY_MECHANISM, telsx___SecurityMechanismFreeFunc,
-                     telsx___SecurityMechanismCompareFunc, telsx___SecurityMechanismToStringFunc )
-TELSX_DEFINE_FREE_FUNC( SecurityMechanism, securityMechanism )
-TELSX_DEFINE_COMPARE_FUNC( SecurityMechanism, securityMechanism )
-TELSX_DEFINE_TO_STRING_FUNC( SecurityMechanism, securityMechanism )
+TELSX_DEFINE_VALUE_OBJECT( SecurityMechanism, SECURITY_MECHANISM, securityMechanism )
 TELSX_DEFINE_FIELD( SecurityMechanism, securityMechanism, Mechanism, mechanism, telsxTokenOk( mechanism ) )
-TELSX_DEFINE_FIELD( SecurityMechanism, securityMechanism, Qvalue, qvalue, telsxQvalueOk( qvalue ) )
-TELSX_DEFINE_OPTION( SecurityMechanism, securityMechanism, Qvalue, qvalue )
-TELSX_DEFINE_FIELD( SecurityMechanism, securityMechanism, DigestAlgorithm, digestAlgorithm,
-                    telsxTokenOk( digestAlgorithm ) )
-TELSX_DEFINE_OPTION( SecurityMechanism, securityMechanism, DigestAlgorithm, digestAlgorithm )
-TELSX_DEFINE_FIELD( SecurityMechanism, securityMechanism, DigestQop, digestQop, telsxTokenOk( digestQop ) )
-TELSX_DEFINE_OPTION( SecurityMechanism, securityMechanism, DigestQop, digestQop )
-TELSX_DEFINE_FIELD( SecurityMechanism, securityMechanism, DigestVerify, digestVerify,
-                    telsxDigestVerifyOk( digestVerify ) )
-TELSX_DEFINE_OPTION( SecurityMechanism, securityMechanism, DigestVerify, digestVerify )
+TELSX_DEFINE_OPTIONAL_FIELD( SecurityMechanism, securityMechanism, Qvalue, qvalue, telsxQvalueOk( qvalue ) )
+TELSX_DEFINE_OPTIONAL_FIELD( SecurityMechanism, securityMechanism, DigestAlgorithm, digestAlgorithm,
+                             telsxTokenOk( digestAlgorithm ) )
+TELSX_DEFINE_OPTIONAL_FIELD( SecurityMechanism, securityMechanism, DigestQop, digestQop,
+                             telsxTokenOk( digestQop ) )
+TELSX_DEFINE_OPTIONAL_FIELD( SecurityMechanism, securityMechanism, DigestVerify, digestVerify,
+                             telsxDigestVerifyOk( digestVerify ) )
 TELSX_DEFINE_FIELD( SecurityMechanism, securityMechanism, GenericParams, genericParams, genericParams )
 
 TELSX_SECURITY_MECHANISM telsxSecurityMechanismCreate( RT_STRING mechanism )
@@ -77,14 +70,10 @@ TELSX_SECURITY_MECHANISM telsx___SecurityMechanismTryDecode( const RT_CHAR *chs,
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"q">( telsx___SkipQvalue ) )
-            param.store( securityMechanism->qvalue, param.value.as( telsx___QvalueTryDecode ) );
-        if ( param.is<"d-alg">( telsx___SkipToken ) )
-            param.store( securityMechanism->digestAlgorithm, param.value.copy() );
-        if ( param.is<"d-qop">( telsx___SkipToken ) )
-            param.store( securityMechanism->digestQop, param.value.copy() );
-        if ( param.is<"d-ver">( skipInQuotes<telsx___SkipDigestVerify> ) )
-            param.store( securityMechanism->digestVerify, copyInQuotes( param.value ) );
+        param.read<"q">( securityMechanism->qvalue, telsx___SkipQvalue, telsx___QvalueTryDecode );
+        param.read<"d-alg">( securityMechanism->digestAlgorithm, telsx___SkipToken );
+        param.read<"d-qop">( securityMechanism->digestQop, telsx___SkipToken );
+        param.readInQuotes<"d-ver", telsx___SkipDigestVerify>( securityMechanism->digestVerify );
         param.storeGeneric( securityMechanism->genericParams );
     }
     return param.failed() ? nullptr : securityMechanism.take();

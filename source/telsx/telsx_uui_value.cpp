@@ -21,21 +21,14 @@ struct TELSX_UUI_VALUE_
     }
 };
 
-TELSX_DEFINE_OBJECT( UuiValue, UUI_VALUE, telsx___UuiValueFreeFunc, telsx___UuiValueCompareFunc,
-                     telsx___UuiValueToStringFunc )
-TELSX_DEFINE_FREE_FUNC( UuiValue, uuiValue )
-TELSX_DEFINE_COMPARE_FUNC( UuiValue, uuiValue )
-TELSX_DEFINE_TO_STRING_FUNC( UuiValue, uuiValue )
+TELSX_DEFINE_VALUE_OBJECT( UuiValue, UUI_VALUE, uuiValue )
 TELSX_DEFINE_FIELD( UuiValue, uuiValue, UuiData, uuiData, telsxQuotableStringOk( uuiData ) )
-TELSX_DEFINE_NORMAL_FIELD( UuiValue, uuiValue, Purpose, purpose, telsxTokenOk( purpose ),
-                           telsxTokenNormalize )
-TELSX_DEFINE_OPTION( UuiValue, uuiValue, Purpose, purpose )
-TELSX_DEFINE_NORMAL_FIELD( UuiValue, uuiValue, Content, content, telsxTokenOk( content ),
-                           telsxTokenNormalize )
-TELSX_DEFINE_OPTION( UuiValue, uuiValue, Content, content )
-TELSX_DEFINE_NORMAL_FIELD( UuiValue, uuiValue, Encoding, encoding, telsxTokenOk( encoding ),
-                           telsxTokenNormalize )
-TELSX_DEFINE_OPTION( UuiValue, uuiValue, Encoding, encoding )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( UuiValue, uuiValue, Purpose, purpose, telsxTokenOk( purpose ),
+                                    telsxTokenNormalize )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( UuiValue, uuiValue, Content, content, telsxTokenOk( content ),
+                                    telsxTokenNormalize )
+TELSX_DEFINE_OPTIONAL_NORMAL_FIELD( UuiValue, uuiValue, Encoding, encoding, telsxTokenOk( encoding ),
+                                    telsxTokenNormalize )
 TELSX_DEFINE_FIELD( UuiValue, uuiValue, GenericParams, genericParams, genericParams )
 
 static Ref<TELSX_UUI_VALUE> create( Ref<RT_STRING> uuiData )
@@ -68,7 +61,7 @@ TELSX_UUI_VALUE telsx___UuiValueTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     Text rest = { chs, length };
-    auto uuiData = adopt( tryDecodeTokenOrQuoted( rest.take( skipTokenOrQuoted( rest ) ) ) );
+    auto uuiData = takeTokenOrQuoted( rest );
     if ( !uuiData )
         return nullptr;
     Ref<TELSX_UUI_VALUE> uuiValue = create( std::move( uuiData ) );
@@ -76,12 +69,9 @@ TELSX_UUI_VALUE telsx___UuiValueTryDecode( const RT_CHAR *chs, int64_t length )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"purpose">( telsx___SkipToken ) )
-            param.storeNormal( uuiValue->purpose, param.value.copy().take(), telsxTokenNormalize );
-        if ( param.is<"content">( telsx___SkipToken ) )
-            param.storeNormal( uuiValue->content, param.value.copy().take(), telsxTokenNormalize );
-        if ( param.is<"encoding">( telsx___SkipToken ) )
-            param.storeNormal( uuiValue->encoding, param.value.copy().take(), telsxTokenNormalize );
+        param.readNormal<"purpose">( uuiValue->purpose, telsx___SkipToken, telsxTokenNormalize );
+        param.readNormal<"content">( uuiValue->content, telsx___SkipToken, telsxTokenNormalize );
+        param.readNormal<"encoding">( uuiValue->encoding, telsx___SkipToken, telsxTokenNormalize );
         param.storeGeneric( uuiValue->genericParams );
     }
     return param.failed() ? nullptr : uuiValue.take();
@@ -90,5 +80,5 @@ TELSX_UUI_VALUE telsx___UuiValueTryDecode( const RT_CHAR *chs, int64_t length )
 int64_t telsx___SkipUuiValue( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
-    return skipWithParams( { chs, length }, skipTokenOrQuoted( { chs, length } ) );
+    return skipWithParams( { chs, length }, skipTokenOrQuoted( chs, length ) );
 }

@@ -52,6 +52,14 @@ void ParamReader::storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params )
     }
 }
 
+bool readGenericParams( Text behindFront, Ref<TELSX_GENERIC_PARAMS> &params )
+{
+    ParamReader param( behindFront );
+    while ( param.next() )
+        param.storeGeneric( params );
+    return !param.failed();
+}
+
 bool takeAddress( Text &rest, Address &address, RT_CHAR endOfBare )
 {
     Text behindName = rest;

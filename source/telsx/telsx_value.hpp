@@ -8,7 +8,21 @@
 namespace telsx
 {
 
-// Reads the parameters after the front of a value, one in each turn of the loop. Each if is an attempt; the first that
+// The element in double quotes, without white space; and the element in such a value.
+template <Skipper SKIP>
+int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
+{
+    Text rest = { chs, length };
+    bool found = rest.take( telsx___SkipChar( chs, length, '"' ) ) && rest.take( SKIP )
+                 && rest.take( telsx___SkipChar( rest.chs, rest.length, '"' ) );
+    return found ? length - rest.length : 0;
+}
+inline Ref<RT_STRING> copyInQuotes( Text quoted )
+{
+    return quoted.first( quoted.length - 1 ).behind( 1 ).copy();
+}
+
+// Reads the parameters after the front of a value, one in each turn of the loop. Each read is an attempt; the first that
 // stores something takes the parameter, and the others find nothing for the rest of the turn. If several parameters
 // have one name, the last one stays. A parameter that no attempt takes, or text after the value that does not begin
 // with a semicolon, ends the loop as failed.
@@ -16,8 +30,7 @@ namespace telsx
 //     ParamReader param( rest );
 //     while ( param.next() )
 //     {
-//         if ( param.is<"cause">( telsx___SkipReasonCause ) )
-//             param.store( reason->cause, param.value.copy() );
+//         param.read<"cause">( reason->cause, telsx___SkipReasonCause );
 //         param.storeGeneric( reason->genericParams );
 //     }
 class ParamReader
@@ -40,6 +53,43 @@ public:
     // Whether text is left that does not begin with a semicolon; some headers stop there instead of failing.
     bool stopped() const { return bad && !open && !behindSemi; }
 
+    // Stores the value of the parameter with this name, in any case, if it begins as the skipper requires: as much of it
+    // as the skipper matches, as it is, in its normal form, without its quotes, or as the decoder reads it unless that
+    // is null or -1. Each returns whether it stored something.
+    template <rt::Ascii NAME>
+    bool read( Ref<RT_STRING> &field, Skipper skipValue )
+    {
+        return is<NAME>( skipValue ) && store( field, value.copy() );
+    }
+    template <rt::Ascii NAME, class FIELD, class DECODED>
+    bool read( FIELD &field, Skipper skipValue, DECODED ( *tryDecode )( const RT_CHAR *chs, int64_t length ) )
+    {
+        return is<NAME>( skipValue ) && store( field, value.as( tryDecode ) );
+    }
+    template <rt::Ascii NAME>
+    bool readNormal( Ref<RT_STRING> &field, Skipper skipValue, RT_STRING ( *normalize )( RT_STRING ) )
+    {
+        return is<NAME>( skipValue ) && storeNormal( field, value.copy().take(), normalize );
+    }
+    template <rt::Ascii NAME, Skipper SKIP>
+    bool readInQuotes( Ref<RT_STRING> &field )
+    {
+        return is<NAME>( skipInQuotes<SKIP> ) && store( field, copyInQuotes( value ) );
+    }
+
+    // Sets the flag if the parameter is this name and no more, in any case. Names that only begin with it are other
+    // parameters.
+    template <rt::Ascii NAME>
+    bool readMark( RT_BOOL &field )
+    {
+        if ( !open )
+            return false;
+        value = rest.first( telsx___SkipGenericParam( rest.chs, rest.length ) );
+        return findWordInAnyCase<NAME>( value ) && storeFlag( field );
+    }
+
+    // What the attempts above consist of, for those that need more.
+
     // Whether the parameter has this name, in any case, and a value that begins as the skipper requires. The member
     // value is then as much of it as the skipper matches.
     template <rt::Ascii NAME>
@@ -54,16 +104,6 @@ public:
     bool isBare()
     {
         return open && beginsInAnyCase<NAME>( rest ) && hasNoValue( std::ssize( NAME.chs ) - 1 );
-    }
-
-    // Whether the parameter is this name and no more, in any case. Names that only begin with it are other parameters.
-    template <rt::Ascii NAME>
-    bool isWord()
-    {
-        if ( !open )
-            return false;
-        value = rest.first( telsx___SkipGenericParam( rest.chs, rest.length ) );
-        return findWordInAnyCase<NAME>( value );
     }
 
     // Stores the decoded value unless it is null or -1; returns whether it did.
@@ -99,19 +139,8 @@ private:
     bool behindSemi = false; // the last semicolon was found
 };
 
-// The element in double quotes, without white space; and the element in such a value.
-template <Skipper SKIP>
-int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
-{
-    Text rest = { chs, length };
-    bool found = rest.take( telsx___SkipChar( chs, length, '"' ) ) && rest.take( SKIP )
-                 && rest.take( telsx___SkipChar( rest.chs, rest.length, '"' ) );
-    return found ? length - rest.length : 0;
-}
-inline Ref<RT_STRING> copyInQuotes( Text quoted )
-{
-    return quoted.first( quoted.length - 1 ).behind( 1 ).copy();
-}
+// Reads all parameters after the front of a value as generic parameters; false for bad text.
+bool readGenericParams( Text behindFront, Ref<TELSX_GENERIC_PARAMS> &params );
 
 // The length of a value that begins with an element of that length, with the generic parameters after it; 0 without the
 // element.

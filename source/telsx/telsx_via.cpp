@@ -41,24 +41,16 @@ struct TELSX_VIA_
     }
 };
 
-TELSX_DEFINE_OBJECT( Via, VIA, telsx___ViaFreeFunc, telsx___ViaCompareFunc, telsx___ViaToStringFunc )
-TELSX_DEFINE_FREE_FUNC( Via, via )
-TELSX_DEFINE_COMPARE_FUNC( Via, via )
-TELSX_DEFINE_TO_STRING_FUNC( Via, via )
+TELSX_DEFINE_VALUE_OBJECT( Via, VIA, via )
 TELSX_DEFINE_FIELD( Via, via, Version, version, version )
 TELSX_DEFINE_NORMAL_FIELD( Via, via, Transport, transport, telsxTransportOk( transport ),
                            telsxTransportNormalize )
 TELSX_DEFINE_FIELD( Via, via, Host, host, telsxHostOk( host ) )
-TELSX_DEFINE_FIELD( Via, via, Port, port, telsxPortOk( port ) )
-TELSX_DEFINE_OPTION( Via, via, Port, port )
-TELSX_DEFINE_FIELD( Via, via, Ttl, ttl, telsxTtlOk( ttl ) )
-TELSX_DEFINE_OPTION( Via, via, Ttl, ttl )
-TELSX_DEFINE_FIELD( Via, via, Maddr, maddr, telsxHostOk( maddr ) )
-TELSX_DEFINE_OPTION( Via, via, Maddr, maddr )
-TELSX_DEFINE_FIELD( Via, via, Received, received, received )
-TELSX_DEFINE_OPTION( Via, via, Received, received )
-TELSX_DEFINE_FIELD( Via, via, Branch, branch, telsxBranchOk( branch ) )
-TELSX_DEFINE_OPTION( Via, via, Branch, branch )
+TELSX_DEFINE_OPTIONAL_FIELD( Via, via, Port, port, telsxPortOk( port ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Via, via, Ttl, ttl, telsxTtlOk( ttl ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Via, via, Maddr, maddr, telsxHostOk( maddr ) )
+TELSX_DEFINE_OPTIONAL_FIELD( Via, via, Received, received, received )
+TELSX_DEFINE_OPTIONAL_FIELD( Via, via, Branch, branch, telsxBranchOk( branch ) )
 TELSX_DEFINE_FIELD( Via, via, GenericParams, genericParams, genericParams )
 
 static TELSX_VIA create( Ref<TELSX_VERSION> version, Ref<RT_STRING> transport, Ref<RT_STRING> host )
@@ -184,19 +176,15 @@ TELSX_VIA telsx___ViaTryDecode( const RT_CHAR *chs, int64_t length )
     ParamReader param( rest );
     while ( param.next() )
     {
-        if ( param.is<"ttl">( telsx___SkipTtl ) )
-            param.store( via->ttl, param.value.as( telsx___TtlTryDecode ) );
+        param.read<"ttl">( via->ttl, telsx___SkipTtl, telsx___TtlTryDecode );
         if ( param.is<"maddr">( telsx___SkipHost ) )
             param.store( via->maddr, hostOf( param.value ) );
-        if ( param.is<"received">( skipAddress ) )
-            param.store( via->received, param.value.as( netAddressTryCreateFromChars ) );
+        param.read<"received">( via->received, skipAddress, netAddressTryCreateFromChars );
         if ( param.isBare<"rport">() && param.storeFlag( via->rportEmpty ) )
             via->rportNumeric = -1;
-        if ( param.is<"rport">( telsx___SkipPort )
-             && param.store( via->rportNumeric, param.value.as( telsx___PortTryDecode ) ) )
+        if ( param.read<"rport">( via->rportNumeric, telsx___SkipPort, telsx___PortTryDecode ) )
             via->rportEmpty = 0;
-        if ( param.is<"branch">( telsx___SkipBranch ) )
-            param.store( via->branch, param.value.copy() );
+        param.read<"branch">( via->branch, telsx___SkipBranch );
         param.storeGeneric( via->genericParams );
     }
     return param.failed() ? nullptr : via.take();
