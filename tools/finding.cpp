@@ -12,10 +12,11 @@ const char *severityName( int64_t severity )
                                                         : "remark";
 }
 
-std::vector<Finding> findIn( const Cut &message, const std::set<std::string> &silenced )
+std::vector<Finding> findIn( const Cut &message, const std::set<std::string> &silenced, TELSX_FINDER finder )
 {
     std::vector<Finding> result;
-    Owned found( telsxMessageFindings( toBuffer( message.bytes ).get() ) );
+    Buffer bytes = toBuffer( message.bytes );
+    Owned found( finder ? telsxFinderFindings( finder, bytes.get() ) : telsxMessageFindings( bytes.get() ) );
     for ( int64_t i = 0; i < rtVectorLength( found.get() ); ++i )
     {
         Owned object( rtVectorObjAt( found.get(), i ) );

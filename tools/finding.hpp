@@ -22,8 +22,10 @@ struct Finding
 // "error", "warning" or "remark".
 const char *severityName( int64_t severity );
 
-// The findings of the library in their order, and what only a stream can have, without those of silenced codes.
-std::vector<Finding> findIn( const Cut &message, const std::set<std::string> &silenced );
+// The findings of the library in their order, and what only a stream can have, without those of silenced codes. A finder
+// makes it faster if there are many messages.
+std::vector<Finding> findIn( const Cut &message, const std::set<std::string> &silenced,
+                             TELSX_FINDER finder = nullptr );
 
 // Whether one of them is more than a remark.
 bool areBad( const std::vector<Finding> &findings );

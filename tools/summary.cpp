@@ -75,9 +75,9 @@ struct Counted
     bool areBad = false;
     Tally methods, statuses, codes, agents;
 
-    void add( const Cut &message, const std::set<std::string> &silenced )
+    void add( const Cut &message, const std::set<std::string> &silenced, TELSX_FINDER finder )
     {
-        std::vector<Finding> findings = findIn( message, silenced );
+        std::vector<Finding> findings = findIn( message, silenced, finder );
         bool isUnreadable = !findings.empty() && findings.front().severity == TELSX_FINDING_SEVERITY_ERROR;
         ++total.messages;
         if ( isUnreadable )
@@ -175,6 +175,7 @@ public:
 private:
     void run( Counted &own )
     {
+        Owned finder( telsxFinderCreate() );
         for ( ;; )
         {
             std::unique_lock lock( mutex );
@@ -188,7 +189,7 @@ private:
             std::string_view rest = batch.bytes;
             for ( auto [length, lacksLength] : batch.parts )
             {
-                own.add( { rest.substr( 0, length ), lacksLength }, silenced );
+                own.add( { rest.substr( 0, length ), lacksLength }, silenced, finder.get() );
                 rest.remove_prefix( length );
             }
         }
