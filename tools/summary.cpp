@@ -75,7 +75,7 @@ struct Counted
     bool areBad = false;
     Tally methods, statuses, codes, agents;
 
-    void add( const Cut &message, const std::set<std::string> &silenced, TELSX_FINDER finder )
+    void add( const Cut &message, const std::set<std::string> &silenced, const Owned<TELSX_FINDER> &finder )
     {
         std::vector<Finding> findings = findIn( message, silenced, finder );
         bool isUnreadable = !findings.empty() && findings.front().severity == TELSX_FINDING_SEVERITY_ERROR;
@@ -132,6 +132,8 @@ struct Batch
         std::size_t length;
         bool lacksLength;
     };
+    Batch() { bytes.reserve( enough + enough / 4 ); }
+
     std::string bytes;
     std::vector<Part> parts;
 };
@@ -189,7 +191,7 @@ private:
             std::string_view rest = batch.bytes;
             for ( auto [length, lacksLength] : batch.parts )
             {
-                own.add( { rest.substr( 0, length ), lacksLength }, silenced, finder.get() );
+                own.add( { rest.substr( 0, length ), lacksLength }, silenced, finder );
                 rest.remove_prefix( length );
             }
         }

@@ -115,14 +115,23 @@ void PlacedText::append( Bytes piece, int64_t place )
         chs.append( ' ' );
         places.append( end );
     }
-    chs.reserve( chs.length() + lengthOf( piece ) );
-    places.reserve( places.length() + lengthOf( piece ) );
+    end = place + lengthOf( piece );
+    if ( rt___AsciiOk( piece.data(), lengthOf( piece ) ) )
+    {
+        RT_CHAR *ch = chs.extend( lengthOf( piece ) );
+        int64_t *at = places.extend( lengthOf( piece ) );
+        for ( std::size_t i = 0; i < piece.size(); ++i )
+        {
+            ch[i] = static_cast<unsigned char>( piece[i] );
+            at[i] = place + static_cast<int64_t>( i );
+        }
+        return;
+    }
     for ( Bytes rest = piece; !rest.empty(); )
     {
-        places.append( place + lengthOf( piece ) - lengthOf( rest ) );
+        places.append( end - lengthOf( rest ) );
         chs.append( takeChar( rest ) );
     }
-    end = place + lengthOf( piece );
 }
 
 PlacedText Head::startLine() const

@@ -32,7 +32,13 @@ public:
     int64_t length() const { return array.length; }
     bool empty() const { return array.length == 0; }
     void append( const T &item ) { array.append( item ); }
-    void reserve( int64_t count ) { array.reserve( count ); }
+    // Appends items that are still to be set, and returns the first.
+    T *extend( int64_t count )
+    {
+        if ( array.capacity - array.length < count )
+            array.reserve( rt::grown( array.capacity, array.length + count ) );
+        return array.items + std::exchange( array.length, array.length + count );
+    }
     void clear() { array.length = 0; }
 
 private:
