@@ -9,9 +9,10 @@
 namespace telsx
 {
 
-// The part of a line that is new in each transaction or dialog while the rest of it comes again: the branch after its
-// cookie, and the tag after an address in brackets. It is one or more characters of a token, no quotation mark or bracket
-// is among them, so any others in their place make no difference to what can be read.
+// The part of a line that is new in each dialog or transaction while the rest repeats: the tag after an address in
+// brackets, and the branch after its cookie. It is empty, or one or more characters of a token that stand in a parameter or
+// a quoted string, and the grammar tells no such characters apart there. To leave it out saves 30 % of the instructions for
+// INVITEs that differ in it.
 static Bytes changingPart( Bytes line, int64_t number )
 {
     Bytes mark;
