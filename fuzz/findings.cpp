@@ -70,6 +70,11 @@ void test( std::string_view input )
     Message message = adopt( telsxMessageTryDecode( bytesIn.get() ) );
     Ref<RT_VECTOR> findings = adopt( telsxMessageFindings( bytesIn.get() ) );
     requirePlaces( findings, input );
+    auto finder = adopt( telsxFinderCreate() );
+    for ( int i = 0; i < 2; ++i )
+        require( rtVectorEquals( findings.get(),
+                                 adopt( telsxFinderFindings( finder.get(), bytesIn.get() ) ).get() ),
+                 "a finder finds the same, also what it has seen before" );
 
     int errors = 0;
     std::map<std::string, int> warnings;

@@ -75,10 +75,10 @@ struct Counted
     bool areBad = false;
     Tally methods, statuses, codes, agents;
 
-    void add( const Cut &message, const std::set<std::string> &silenced )
+    void add( const Cut &message, const std::set<std::string> &silenced, const Owned<TELSX_FINDER> &finder )
     {
         // A message stays unreadable if its error is silenced.
-        std::vector<Finding> findings = findIn( message, {} );
+        std::vector<Finding> findings = findIn( message, {}, finder );
         bool isUnreadable = !findings.empty() && findings.front().severity == TELSX_FINDING_SEVERITY_ERROR;
         std::erase_if( findings,
                        [&]( const Finding &finding ) { return silenced.count( finding.code ) > 0; } );
@@ -135,6 +135,8 @@ struct Batch
         std::size_t length;
         bool lacksLength;
     };
+    Batch() { bytes.reserve( enough + enough / 4 ); }
+
     std::string bytes;
     std::vector<Part> parts;
 };
@@ -178,6 +180,7 @@ public:
 private:
     void run( Counted &own )
     {
+        Owned finder( telsxFinderCreate() );
         for ( ;; )
         {
             std::unique_lock lock( mutex );
@@ -191,7 +194,7 @@ private:
             std::string_view rest = batch.bytes;
             for ( auto [length, lacksLength] : batch.parts )
             {
-                own.add( { rest.substr( 0, length ), lacksLength }, silenced );
+                own.add( { rest.substr( 0, length ), lacksLength }, silenced, finder );
                 rest.remove_prefix( length );
             }
         }

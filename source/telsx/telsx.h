@@ -37,6 +37,7 @@
 #include "telsx/telsx_event_reason_value.h"
 #include "telsx/telsx_event_type.h"
 #include "telsx/telsx_fc_value.h"
+#include "telsx/telsx_finder.h"
 #include "telsx/telsx_finding.h"
 #include "telsx/telsx_generic_param.h"
 #include "telsx/telsx_generic_param_name.h"

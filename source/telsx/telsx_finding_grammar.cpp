@@ -424,10 +424,11 @@ Obstacle findObstacle( std::string_view type, Text value, bool isInList )
 
 // Where headers are defined
 
-static constexpr struct
+struct Reference
 {
     std::string_view name, reference;
-} references[] = {
+};
+static constexpr Reference references[] = {
     { "Accept", "RFC 3261, 20.1" },
     { "Accept-Contact", "RFC 3841, 9.2" },
     { "Accept-Encoding", "RFC 3261, 20.2" },
@@ -527,10 +528,10 @@ static constexpr struct
 
 std::string_view headerReference( std::string_view name )
 {
-    for ( const auto &one : references )
-        if ( one.name == name )
-            return one.reference;
-    return "RFC 3261, 7.3";
+    constexpr auto nameIn = &Reference::name;
+    static_assert( std::ranges::is_sorted( references, {}, nameIn ) );
+    auto found = std::ranges::lower_bound( references, name, {}, nameIn );
+    return found != std::end( references ) && found->name == name ? found->reference : "RFC 3261, 7.3";
 }
 
 } // namespace telsx

@@ -49,6 +49,28 @@ static Bytes takeLine( Bytes &rest )
     return line;
 }
 
+static Bytes takeFoldedLine( Bytes &rest )
+{
+    Bytes line = takeLine( rest );
+    while ( !rest.empty() && isWhite( rest.front() ) )
+    {
+        Bytes fold = takeLine( rest );
+        line = { line.data(), static_cast<std::size_t>( fold.data() + fold.size() - line.data() ) };
+    }
+    return line;
+}
+
+// The first line of the headers is no fold, whatever it begins with.
+Bytes lineAround( Bytes message, int64_t place )
+{
+    std::size_t firstHeader = message.find( lineEnd ) + lineEnd.size(), begin = std::size_t( place );
+    do
+        begin = message.rfind( lineEnd, begin - lineEnd.size() - 1 ) + lineEnd.size();
+    while ( begin > firstHeader && isWhite( message[begin] ) );
+    Bytes rest = message.substr( begin );
+    return takeFoldedLine( rest );
+}
+
 // A fold may stand between the name and the colon.
 static int64_t numberOfName( Bytes line )
 {
@@ -75,12 +97,7 @@ Head::Head( Bytes message ) : all( message )
     first = placed( takeLine( rest ) );
     while ( !rest.empty() )
     {
-        Bytes line = takeLine( rest );
-        while ( !rest.empty() && isWhite( rest.front() ) )
-        {
-            Bytes fold = takeLine( rest );
-            line = { line.data(), static_cast<std::size_t>( fold.data() + fold.size() - line.data() ) };
-        }
+        Bytes line = takeFoldedLine( rest );
         if ( !trimmed( line ).empty() )
             lines.append( placed( line ) );
     }
@@ -98,12 +115,23 @@ void PlacedText::append( Bytes piece, int64_t place )
         chs.append( ' ' );
         places.append( end );
     }
+    end = place + lengthOf( piece );
+    if ( rt___AsciiOk( piece.data(), lengthOf( piece ) ) )
+    {
+        RT_CHAR *ch = chs.extend( lengthOf( piece ) );
+        int64_t *at = places.extend( lengthOf( piece ) );
+        for ( std::size_t i = 0; i < piece.size(); ++i )
+        {
+            ch[i] = static_cast<unsigned char>( piece[i] );
+            at[i] = place + static_cast<int64_t>( i );
+        }
+        return;
+    }
     for ( Bytes rest = piece; !rest.empty(); )
     {
-        places.append( place + lengthOf( piece ) - lengthOf( rest ) );
+        places.append( end - lengthOf( rest ) );
         chs.append( takeChar( rest ) );
     }
-    end = place + lengthOf( piece );
 }
 
 PlacedText Head::startLine() const
@@ -113,12 +141,12 @@ PlacedText Head::startLine() const
     return text;
 }
 
-PlacedText Head::textOf( const HeadLine &line ) const
+PlacedText placedText( Bytes line, Bytes message )
 {
     PlacedText text;
-    for ( Bytes rest = bytesOf( line ); !rest.empty(); )
-        if ( Bytes piece = trimmed( takeLine( rest ) ); !piece.empty() )
-            text.append( piece, piece.data() - all.data() );
+    while ( !line.empty() )
+        if ( Bytes piece = trimmed( takeLine( line ) ); !piece.empty() )
+            text.append( piece, piece.data() - message.data() );
     return text;
 }
 

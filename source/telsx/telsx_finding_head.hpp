@@ -32,6 +32,13 @@ public:
     int64_t length() const { return array.length; }
     bool empty() const { return array.length == 0; }
     void append( const T &item ) { array.append( item ); }
+    // Appends items that are still to be set, and returns the first.
+    T *extend( int64_t count )
+    {
+        if ( array.capacity - array.length < count )
+            array.reserve( rt::grown( array.capacity, array.length + count ) );
+        return array.items + std::exchange( array.length, array.length + count );
+    }
     void clear() { array.length = 0; }
 
 private:
@@ -61,6 +68,12 @@ private:
     int64_t end = 0;
 };
 
+// A header line of the message with its folds undone, without the white space around it.
+PlacedText placedText( Bytes line, Bytes message );
+
+// The header line with all of its folds that holds the byte at that place, which is after its first character.
+Bytes lineAround( Bytes message, int64_t place );
+
 // A line with its folds, without the line end after it.
 struct HeadLine
 {
@@ -81,9 +94,9 @@ public:
 
     Bytes bytesOf( const HeadLine &line ) const;
 
-    // The first line as it is; a header line with its folds undone, without the white space around it.
+    // The first line as it is.
     PlacedText startLine() const;
-    PlacedText textOf( const HeadLine &line ) const;
+    PlacedText textOf( const HeadLine &line ) const { return placedText( bytesOf( line ), all ); }
 };
 
 // The part after the first colon, without leading white space. The text has a colon.

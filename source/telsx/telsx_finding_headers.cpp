@@ -3,10 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "telsx/telsx.h"
 #include "telsx/telsx_finding_grammar.hpp"
+#include "telsx/telsx_finding_memory.hpp"
 #include "telsx/telsx_finding_placements.hpp"
 #include "telsx/telsx_message.hpp"
 #include "telsx/telsx_message_fragment.hpp"
@@ -37,8 +37,8 @@ struct HeaderKind
 {
     int64_t number; // of its name
     std::string_view name;
-    void ( *check )( HeaderCheck &check );
-    std::string_view type; // that the grammar knows it by
+    bool ( *check )( HeaderCheck &check ); // false if the header cannot be read
+    std::string_view type;                 // that the grammar knows it by
     Shape shape = Shape::single;
     Skipper skipItem = nullptr;
     Separator ( *separator )() = [] { return comma; };
@@ -81,13 +81,19 @@ bool hasIriParam( Text iri, bool hasValue = false )
     }
 }
 
+bool hasBracket( Text value )
+{
+    const RT_CHAR *end = value.chs + value.length;
+    return std::find( value.chs, end, RT_CHAR( '<' ) ) != end;
+}
+
 bool isSips( const Ref<RT_STRING> &iri ) { return beginsInAnyCase<"sips:">( textOf( iri ) ); }
 
-// Goes through the headers of one message, each of which is decoded once.
+// Goes through the headers of one message, each of which is decoded once, or not at all if the memory holds it.
 class HeaderCheck
 {
 public:
-    HeaderCheck( TELSX_MESSAGE message, Bytes messageBytes, FindingList &findingList );
+    HeaderCheck( TELSX_MESSAGE message, Bytes messageBytes, FindingList &findingList, HeaderMemory *known );
 
     void run();
 
@@ -110,13 +116,18 @@ public:
         else if constexpr ( requires { see( decoded.get(), item ); } )
             see( decoded.get(), item );
     }
-    void endOfValues( int64_t count );
+    bool endOfValues( int64_t count );
 
 private:
-    // What is to be said of headers and values that can be read.
-    void see( TELSX_HEADER_CONTACT hdr );
-    void see( TELSX_HEADER_CSEQ hdr );
-    void see( TELSX_HEADER_EXPIRES hdr ) { expires = telsxHeaderExpiresDeltaSeconds( hdr ); }
+    // Looks at a header by itself, and then at what it means in this message.
+    void checkHeader( const HeaderEntry &entry );
+    bool read( const HeaderEntry &entry );
+    void judge();
+
+    // The faults and facts of headers and values that can be read.
+    void see( TELSX_HEADER_CONTACT hdr ) { facts.isStar = telsxHeaderContactIsStarForm( hdr ); }
+    void see( TELSX_HEADER_CSEQ hdr ) { facts.method = adopt( telsxHeaderCseqMethod( hdr ) ); }
+    void see( TELSX_HEADER_EXPIRES hdr ) { facts.expires = telsxHeaderExpiresDeltaSeconds( hdr ); }
     void see( TELSX_HEADER_FROM hdr );
     void see( TELSX_HEADER_REQUIRE hdr );
     void see( TELSX_HEADER_TO hdr );
@@ -125,7 +136,7 @@ private:
     void see( TELSX_VIA via, int64_t item );
     void seeAddress( const Ref<RT_STRING> &iri, int64_t item );
 
-    // Once all headers have been seen.
+    // What is wrong with the rest, and with headers among each other.
     void checkStartLine();
     void checkLines();
     void checkBody();
@@ -136,10 +147,10 @@ private:
 
     void add( const FindingRule *rule );
     void addAtName( const FindingRule *rule );
-    void addMissing( std::string_view name, std::string_view reference = {} );
+    void addMissing( int64_t missing, std::string_view reference = {} );
     void reportUnreadable();
     void reportItems();
-    bool reportItem( const HeadLine &line, bool mayContinue );
+    bool reportItem( Bytes line, bool mayContinue );
     Obstacle obstacleOf( Text item, int64_t itemLength ) const;
     void warn( const PlacedText &line, Text value, Obstacle obstacle );
 
@@ -147,13 +158,10 @@ private:
     bool isMethod( std::string_view name ) const { return method && isWord( method.get(), name ); }
     bool isOfInvite() const { return isMethod( "INVITE" ) && ( isRequest() || status / 100 == 2 ); }
     HeaderTable *table() const { return msg->fragment->headers.get(); }
-    const Head &head()
-    {
-        if ( !cutHead )
-            cutHead.emplace( bytes );
-        return *cutHead;
-    }
-    PlacedText textOfLine( bool last );
+    // Shows the lines of the header that is being looked at in their order, until one is enough.
+    template <class LOOK>
+    void eachLine( LOOK isEnough ) const;
+    PlacedText textOfLine( bool last ) const;
 
     TELSX_MESSAGE msg;
     Bytes bytes;
@@ -162,7 +170,6 @@ private:
     Ref<RT_STRING> method;   // of the request, also where this is the response to it; null if it is not known
     std::size_t methodPlace; // among placementMethods, or after them
     int64_t expires = -1;
-    std::optional<Head> cutHead;      // once a place is asked for
     int64_t number = -1;              // of the header that is being looked at,
     const HeaderKind *kind = nullptr; // and its kind
     List<ItemFault> itemFaults;       // of its values, in their order
@@ -170,10 +177,13 @@ private:
     bool requestIsSips = false;
     int64_t plainContact = -1; // the first Contact that is no sips URI
     bool contactIsStar = false;
+    HeaderMemory *memory; // or null
+    std::size_t headSize; // without the line end before the blank line
+    HeaderFacts facts;    // of the header that is being looked at
 };
 
 // clang-format off
-#define CHECK( NAME ) []( HeaderCheck &check ) { check.header( adopt( telsx##NAME##TryDecodeFromMessage( check.message() ) ) ); }
+#define CHECK( NAME ) []( HeaderCheck &check ) { return check.header( adopt( telsx##NAME##TryDecodeFromMessage( check.message() ) ) ); }
 #define TELSX_KIND( NAME, SORT, SIP_NAME ) { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #NAME },
 #define TELSX_KIND_OF_SET( NAME, SORT, SIP_NAME, WORD ) \
     { knownNumber<SIP_NAME>(), SIP_NAME, CHECK( NAME ), #WORD, Shape::listOfTexts, telsx___Skip##WORD, \
@@ -187,8 +197,7 @@ private:
           int64_t count = hdr ? telsx##NAME##WORD##sLength( hdr.get() ) : 0; \
           for ( int64_t i = 0; i < count; ++i ) \
               check.value( adopt( telsx##NAME##TryDecode##WORD##At( hdr.get(), i ) ), i ); \
-          if ( check.header( hdr ) ) \
-              check.endOfValues( count ); \
+          return check.header( hdr ) && check.endOfValues( count ); \
       }, #VALUE, Shape::listOfValues, telsx___Skip##VALUE },
 constexpr HeaderKind kinds[] = {
 #include "telsx/telsx_headers.def"
@@ -204,12 +213,13 @@ struct NameFacts
     std::size_t firstPlacement = 0, placementCount = 0;
     bool isSingle = false;
 };
+constexpr int64_t numberOf( std::string_view name ) { return knownNameNumber( name.data(), name.size() ); }
 constexpr auto nameFacts = []
 {
     std::array<NameFacts, knownCount> facts = {};
-    auto has = []( std::string_view name ) { return knownNameNumber( name.data(), name.size() ) != -1; };
+    auto has = []( std::string_view name ) { return numberOf( name ) != -1; };
     auto of = [&facts]( std::string_view name ) -> NameFacts &
-    { return facts[std::size_t( knownNameNumber( name.data(), name.size() ) )]; };
+    { return facts[std::size_t( numberOf( name ) )]; };
     for ( const HeaderKind &one : kinds )
     {
         of( one.name ).kind = &one;
@@ -230,11 +240,35 @@ constexpr auto nameFacts = []
     return facts;
 }();
 
+// The lines of the table of placements by which some message must have a header, and its number.
+struct NeedingPlacement
+{
+    const HeaderPlacement *placement;
+    int64_t number;
+};
+constexpr auto needingPlacements = []
+{
+    constexpr auto isNeeding = []( const HeaderPlacement &placement )
+    { return placement.methods.find( 'm' ) != std::string_view::npos; };
+    constexpr auto count =
+        std::count_if( std::begin( headerPlacements ), std::end( headerPlacements ), isNeeding );
+    std::array<NeedingPlacement, std::size_t( count )> needing = {};
+    std::size_t at = 0;
+    for ( const HeaderPlacement &placement : headerPlacements )
+        if ( isNeeding( placement ) )
+            needing[at++] = { &placement, numberOf( placement.name ) };
+    return needing;
+}();
+
 RT_STRING nameOf( int64_t number ) { return const_cast<RT_STRING>( knownNames[number].name ); }
 
-HeaderCheck::HeaderCheck( TELSX_MESSAGE message, Bytes messageBytes, FindingList &findingList )
-    : msg( message ), bytes( messageBytes ), findings( findingList )
+HeaderCheck::HeaderCheck( TELSX_MESSAGE message, Bytes messageBytes, FindingList &findingList,
+                          HeaderMemory *known )
+    : msg( message ), bytes( messageBytes ), findings( findingList ), memory( known ),
+      headSize( std::size_t( message->fragment->headers->size ) )
 {
+    if ( headSize < bytes.size() )
+        headSize -= lineEnd.size();
     TELSX_MESSAGE_FRAGMENT frag = msg->fragment.get();
     if ( frag->requestMethod )
     {
@@ -242,46 +276,56 @@ HeaderCheck::HeaderCheck( TELSX_MESSAGE message, Bytes messageBytes, FindingList
         requestIsSips = needsSips = isSips( frag->requestIri );
     }
     else
-    {
         status = frag->responseStatusCode;
-        if ( auto cseq = adopt( telsxHeaderCseqTryDecodeFromMessage( msg ) ) )
-            method = adopt( telsxHeaderCseqMethod( cseq.get() ) );
-    }
-    methodPlace = std::size( placementMethods );
-    for ( std::size_t i = 0; i < std::size( placementMethods ); ++i )
-        if ( isMethod( placementMethods[i] ) )
-            methodPlace = i;
 }
 
+// Cseq is the first header, since it tells the method of a response.
 void HeaderCheck::run()
 {
     checkStartLine();
     checkLines();
     checkBody();
+    if ( const HeaderEntry *entry = findHeader( table(), headerName<"Cseq">() ) )
+        checkHeader( *entry );
+    methodPlace = std::size( placementMethods );
+    for ( std::size_t i = 0; i < std::size( placementMethods ); ++i )
+        if ( isMethod( placementMethods[i] ) )
+            methodPlace = i;
     for ( const HeaderEntry &entry : table()->entries )
     {
-        number = entry.number;
-        if ( number == -1 )
+        if ( entry.number == -1 )
             continue;
-        const NameFacts &facts = nameFacts[std::size_t( number )];
-        kind = facts.kind;
-        if ( kind )
-            kind->check( *this );
+        if ( entry.number != knownNumber<"Cseq">() )
+            checkHeader( entry );
+        number = entry.number;
         checkPlacement( entry );
-        checkRepetition( entry, facts.isSingle );
+        checkRepetition( entry, nameFacts[std::size_t( number )].isSingle );
     }
     checkContacts();
     checkNeeded();
 }
 
-// The first or the last line of the header that is being looked at.
-PlacedText HeaderCheck::textOfLine( bool last )
+template <class LOOK>
+void HeaderCheck::eachLine( LOOK isEnough ) const
 {
-    const HeadLine *found = nullptr;
-    for ( const HeadLine &line : head().lines )
-        if ( line.number == number && ( last || !found ) )
-            found = &line;
-    return found ? head().textOf( *found ) : PlacedText();
+    const HeaderTable *all = table();
+    const HeaderLine *line =
+        all->is[std::size_t( number )] ? &all->entries.items[all->known[number]].first : nullptr;
+    while ( line && !isEnough( lineAround( bytes, line->begin ) ) )
+        line = line->next == -1 ? nullptr : &all->moreLines.items[line->next];
+}
+
+// The first or the last line of that header.
+PlacedText HeaderCheck::textOfLine( bool last ) const
+{
+    Bytes found;
+    eachLine(
+        [&]( Bytes line )
+        {
+            found = line;
+            return !last;
+        } );
+    return placedText( found, bytes );
 }
 
 // At the value of that header, of which the last line counts; at its name.
@@ -296,9 +340,8 @@ void HeaderCheck::addAtName( const FindingRule *rule )
     findings.add( *rule, text.placeOf( text.text() ), nameOf( number ) );
 }
 
-void HeaderCheck::addMissing( std::string_view name, std::string_view reference )
+void HeaderCheck::addMissing( int64_t missing, std::string_view reference )
 {
-    int64_t missing = knownNameNumber( name.data(), name.size() );
     if ( !table()->is[std::size_t( missing )] )
         findings.add( *findingRule( "-missing" ), 0, nameOf( missing ), reference );
 }
@@ -367,9 +410,9 @@ Obstacle HeaderCheck::obstacleOf( Text item, int64_t itemLength ) const
 
 // Warns of the first item of the line that is bad, or is not followed by a separator and another item; false if there is
 // none.
-bool HeaderCheck::reportItem( const HeadLine &line, bool mayContinue )
+bool HeaderCheck::reportItem( Bytes line, bool mayContinue )
 {
-    PlacedText text = head().textOf( line );
+    PlacedText text = placedText( line, bytes );
     for ( Text rest = valueOf( text ); rest; )
     {
         Text item = rest;
@@ -400,40 +443,45 @@ void HeaderCheck::reportUnreadable()
         return warn( text, value, findObstacle( kind->type, value, false ) );
     }
     for ( bool mayContinue : { true, false } )
-        for ( const HeadLine &line : head().lines )
-            if ( line.number == number && reportItem( line, mayContinue ) )
-                return;
+    {
+        bool isReported = false;
+        eachLine( [&]( Bytes line ) { return isReported = reportItem( line, mayContinue ); } );
+        if ( isReported )
+            return;
+    }
     PlacedText text = textOfLine( false );
     warn( text, valueOf( text ), {} );
 }
 
-// Reports the faults of the values, which are sorted, in one pass over the items.
+// Reports the faults of the values in one pass over the items.
 void HeaderCheck::reportItems()
 {
+    if ( itemFaults.empty() )
+        return;
+    std::stable_sort( itemFaults.begin(), itemFaults.end(),
+                      []( const ItemFault &a, const ItemFault &b ) { return a.item < b.item; } );
     int64_t at = 0, item = 0;
-    for ( const HeadLine &line : head().lines )
-    {
-        if ( line.number != number || at == itemFaults.length() )
-            continue;
-        PlacedText text = head().textOf( line );
-        for ( Text rest = valueOf( text ); rest; )
+    eachLine(
+        [&]( Bytes line )
         {
-            Text value = rest.take( kind->skipItem );
-            for ( ; at < itemFaults.length() && itemFaults[at].item == item; ++at )
+            PlacedText text = placedText( line, bytes );
+            for ( Text rest = valueOf( text ); rest; )
             {
-                const FindingRule *rule = itemFaults[at].rule;
-                bool hasBrackets = std::find( value.chs, value.chs + value.length, RT_CHAR( '<' ) )
-                                   != value.chs + value.length;
-                if ( !rule )
-                    warn( text, value, findObstacle( kind->type, value, false ) );
-                else if ( rule != findingRule( "-ambiguous" ) || !hasBrackets )
-                    findings.add( *rule, text.placeOf( value ), nameOf( number ) );
+                Text value = rest.take( kind->skipItem );
+                for ( ; at < itemFaults.length() && itemFaults[at].item == item; ++at )
+                {
+                    const FindingRule *rule = itemFaults[at].rule;
+                    if ( !rule )
+                        warn( text, value, findObstacle( kind->type, value, false ) );
+                    else if ( rule != findingRule( "-ambiguous" ) || !hasBracket( value ) )
+                        findings.add( *rule, text.placeOf( value ), nameOf( number ) );
+                }
+                ++item;
+                if ( !rest.take( kind->separator().skip ) )
+                    break;
             }
-            ++item;
-            if ( !rest.take( kind->separator().skip ) )
-                break;
-        }
-    }
+            return at == itemFaults.length();
+        } );
     PlacedText first = at < itemFaults.length() ? textOfLine( false ) : PlacedText();
     for ( ; at < itemFaults.length(); ++at )
         if ( !itemFaults[at].rule )
@@ -441,51 +489,29 @@ void HeaderCheck::reportItems()
     itemFaults.clear();
 }
 
-void HeaderCheck::endOfValues( int64_t count )
+bool HeaderCheck::endOfValues( int64_t count )
 {
-    if ( number == knownNumber<"Via">() && count > 1 && isRequest() && isMethod( "CANCEL" ) )
-        itemFaults.append( { 1, findingRule( "via-count" ) } );
-    if ( number == knownNumber<"Contact">() && count > 1 && isOfInvite() )
-        itemFaults.append( { 1, findingRule( "contact-count" ) } );
-    std::stable_sort( itemFaults.begin(), itemFaults.end(),
-                      []( const ItemFault &a, const ItemFault &b ) { return a.item < b.item; } );
-    if ( !itemFaults.empty() )
-        reportItems();
-}
-
-void HeaderCheck::see( TELSX_HEADER_CSEQ hdr )
-{
-    if ( !isRequest() || rtStringEquals( adopt( telsxHeaderCseqMethod( hdr ) ).get(), method.get() ) )
-        return;
-    PlacedText text = textOfLine( true );
-    Text rest = valueOf( text );
-    rest.take( telsx___SkipDigits );
-    rest.take( telsx___SkipLws );
-    findings.add( *findingRule( "cseq-method" ), text.placeOf( rest ), nameOf( number ) );
+    facts.count = count;
+    reportItems();
+    return true;
 }
 
 void HeaderCheck::see( TELSX_HEADER_FROM hdr )
 {
-    if ( !telsxHeaderFromHasTag( hdr ) )
-        add( findingRule( "from-tag" ) );
+    facts.hasTag = telsxHeaderFromHasTag( hdr );
     seeAddress( adopt( telsxHeaderFromIri( hdr ) ), -1 );
 }
 
 void HeaderCheck::see( TELSX_HEADER_TO hdr )
 {
-    if ( status > 100 && !telsxHeaderToHasTag( hdr ) )
-        add( findingRule( "to-tag" ) );
+    facts.hasTag = telsxHeaderToHasTag( hdr );
     seeAddress( adopt( telsxHeaderToIri( hdr ) ), -1 );
 }
 
 void HeaderCheck::see( TELSX_HEADER_REQUIRE hdr )
 {
-    bool mayAsk = isRequest() || ( status > 100 && status < 200 );
-    if ( !mayAsk && telsxHeaderRequireHasOptionTag( hdr, literal<"100rel">() ) )
-        add( findingRule( "require-100rel" ) );
+    facts.hasReliable = telsxHeaderRequireHasOptionTag( hdr, literal<"100rel">() );
 }
-
-void HeaderCheck::see( TELSX_HEADER_CONTACT hdr ) { contactIsStar = telsxHeaderContactIsStarForm( hdr ); }
 
 // Without angle brackets a comma or a question mark could belong to the header as well; -1 is the whole header.
 void HeaderCheck::seeAddress( const Ref<RT_STRING> &iri, int64_t item )
@@ -498,15 +524,15 @@ void HeaderCheck::seeAddress( const Ref<RT_STRING> &iri, int64_t item )
         return itemFaults.append( { item, findingRule( "-ambiguous" ) } );
     PlacedText line = textOfLine( true );
     Text value = valueOf( line );
-    if ( std::find( value.chs, value.chs + value.length, RT_CHAR( '<' ) ) == value.chs + value.length )
+    if ( !hasBracket( value ) )
         findings.add( *findingRule( "-ambiguous" ), line.placeOf( value ), nameOf( number ) );
 }
 
 void HeaderCheck::see( TELSX_CONTACT contact, int64_t item )
 {
     Ref<RT_STRING> iri = adopt( telsxContactIri( contact ) );
-    if ( plainContact == -1 && !isSips( iri ) )
-        plainContact = item;
+    if ( facts.plainValue == -1 && !isSips( iri ) )
+        facts.plainValue = item;
     if ( hasIriParam<"maddr">( textOf( iri ) ) )
         itemFaults.append( { item, findingRule( "-maddr" ) } );
     seeAddress( iri, item );
@@ -515,15 +541,12 @@ void HeaderCheck::see( TELSX_CONTACT contact, int64_t item )
 void HeaderCheck::see( TELSX_ROUTE route, int64_t item )
 {
     Ref<RT_STRING> iri = adopt( telsxRouteIri( route ) );
+    if ( item == 0 )
+        facts.first = isSips( iri ) ? HeaderFacts::Address::sips : HeaderFacts::Address::other;
     if ( hasIriParam<"lr">( textOf( iri ), true ) )
         itemFaults.append( { item, findingRule( "-lr" ) } );
     if ( hasIriParam<"maddr">( textOf( iri ) ) )
         itemFaults.append( { item, findingRule( "-maddr" ) } );
-    bool isRecord = number == knownNumber<"Record-Route">();
-    if ( item == 0 && isSips( iri ) && ( isRecord ? !isRequest() : number == knownNumber<"Route">() ) )
-        needsSips = true;
-    if ( item == 0 && isRecord && requestIsSips && !isSips( iri ) )
-        itemFaults.append( { item, findingRule( "record-route-sips" ) } );
 }
 
 void HeaderCheck::see( TELSX_VIA via, int64_t item )
@@ -535,6 +558,87 @@ void HeaderCheck::see( TELSX_VIA via, int64_t item )
     else if ( rtStringLength( branch.get() ) == cookieLength
               || !beginsInAnyCase<"z9hg4bk">( textOf( branch ) ) )
         itemFaults.append( { item, findingRule( "via-cookie" ) } );
+}
+
+void HeaderCheck::checkHeader( const HeaderEntry &entry )
+{
+    number = entry.number;
+    kind = nameFacts[std::size_t( number )].kind;
+    if ( kind && read( entry ) )
+        judge();
+}
+
+// Looks the header up or decodes it; false if it cannot be read.
+bool HeaderCheck::read( const HeaderEntry &entry )
+{
+    facts = {};
+    if ( !memory )
+        return kind->check( *this );
+    HeaderKey key( *table(), entry );
+    if ( const HeaderFacts *known = memory->find( key ) )
+    {
+        facts = *known;
+        return true;
+    }
+    int64_t before = findings.length();
+    bool isGood = kind->check( *this );
+    if ( findings.length() == before )
+        memory->add( key, facts );
+    return isGood;
+}
+
+void HeaderCheck::judge()
+{
+    switch ( number )
+    {
+        case knownNumber<"Contact">():
+            plainContact = facts.plainValue;
+            contactIsStar = facts.isStar;
+            if ( facts.count > 1 && isOfInvite() )
+                itemFaults.append( { 1, findingRule( "contact-count" ) } );
+            break;
+        case knownNumber<"Cseq">():
+            if ( !isRequest() )
+                method = facts.method;
+            else if ( !rtStringEquals( facts.method.get(), method.get() ) )
+            {
+                PlacedText text = textOfLine( true );
+                Text rest = valueOf( text );
+                rest.take( telsx___SkipDigits );
+                rest.take( telsx___SkipLws );
+                findings.add( *findingRule( "cseq-method" ), text.placeOf( rest ), nameOf( number ) );
+            }
+            break;
+        case knownNumber<"Expires">(): expires = facts.expires; break;
+        case knownNumber<"From">():
+            if ( !facts.hasTag )
+                add( findingRule( "from-tag" ) );
+            break;
+        case knownNumber<"Record-Route">():
+            if ( facts.first == HeaderFacts::Address::sips && !isRequest() )
+                needsSips = true;
+            if ( facts.first == HeaderFacts::Address::other && requestIsSips )
+                itemFaults.append( { 0, findingRule( "record-route-sips" ) } );
+            break;
+        case knownNumber<"Require">():
+            if ( facts.hasReliable && !isRequest() && ( status <= 100 || status >= 200 ) )
+                add( findingRule( "require-100rel" ) );
+            break;
+        case knownNumber<"Route">():
+            if ( facts.first == HeaderFacts::Address::sips )
+                needsSips = true;
+            break;
+        case knownNumber<"To">():
+            if ( status > 100 && !facts.hasTag )
+                add( findingRule( "to-tag" ) );
+            break;
+        case knownNumber<"Via">():
+            if ( facts.count > 1 && isRequest() && isMethod( "CANCEL" ) )
+                itemFaults.append( { 1, findingRule( "via-count" ) } );
+            break;
+        default: break;
+    }
+    reportItems();
 }
 
 void HeaderCheck::checkStartLine()
@@ -554,12 +658,33 @@ void HeaderCheck::checkStartLine()
         findings.add( *findingRule( "request-uri-headers" ), int64_t( mark ) );
 }
 
+// Whether each LF follows a CR and the other way round. This is so in nearly all heads, and quickly seen.
+bool areLineEnds( Bytes head )
+{
+    std::size_t at = 1;
+    if ( head.empty() || head.front() == '\n' || head.back() == '\r' )
+        return head.empty();
+    for ( ; head.size() - at >= 16; at += 16 )
+    {
+        auto before = rt::ByteBlock::at( head.data() + at - 1 ),
+             block = rt::ByteBlock::at( head.data() + at );
+        if ( same( before, rt::ByteBlock::of( '\r' ) ).mask()
+             != same( block, rt::ByteBlock::of( '\n' ) ).mask() )
+            return false;
+    }
+    for ( ; at < head.size(); ++at )
+        if ( ( head[at - 1] == '\r' ) != ( head[at] == '\n' ) )
+            return false;
+    return true;
+}
+
 // The first CR and the first LF that do not end a line, and all long lines.
 void HeaderCheck::checkLines()
 {
     static constexpr std::size_t longest = 8192;
-    std::size_t headSize = std::min( findHeadEnd( bytes, 0 ), bytes.size() );
     Bytes headBytes = bytes.substr( 0, headSize );
+    if ( headSize <= longest && areLineEnds( headBytes ) )
+        return;
     for ( std::size_t at = 0; ( at = headBytes.find( '\r', at ) ) != Bytes::npos; ++at )
         if ( at + 1 == bytes.size() || bytes[at + 1] != '\n' )
         {
@@ -581,8 +706,7 @@ void HeaderCheck::checkLines()
 
 void HeaderCheck::checkBody()
 {
-    std::size_t headEndAt = findHeadEnd( bytes, 0 );
-    int64_t held = headEndAt == Bytes::npos ? 0 : int64_t( bytes.size() - headEndAt - headEnd.size() );
+    int64_t held = headSize == bytes.size() ? 0 : int64_t( bytes.size() - headSize - headEnd.size() );
     int64_t told = msg->fragment->body ? rtBufferLength( msg->fragment->body.get() ) : 0;
     number = knownNumber<"Content-Length">();
     if ( held > told )
@@ -605,12 +729,12 @@ bool isNeeded( const HeaderPlacement &placement, std::size_t methodPlace )
 
 void HeaderCheck::checkPlacement( const HeaderEntry &entry )
 {
-    const NameFacts &facts = nameFacts[std::size_t( entry.number )];
-    if ( facts.placementCount == 0 || methodPlace == std::size( placementMethods ) )
+    const NameFacts &name = nameFacts[std::size_t( entry.number )];
+    if ( name.placementCount == 0 || methodPlace == std::size( placementMethods ) )
         return;
-    for ( std::size_t i = 0; i < facts.placementCount; ++i )
+    for ( std::size_t i = 0; i < name.placementCount; ++i )
     {
-        const HeaderPlacement &placement = headerPlacements[facts.firstPlacement + i];
+        const HeaderPlacement &placement = headerPlacements[name.firstPlacement + i];
         if ( isFor( placement, status ) && placement.methods[methodPlace] != '-' )
             return;
     }
@@ -621,10 +745,8 @@ void HeaderCheck::checkRepetition( const HeaderEntry &entry, bool isSingle )
 {
     if ( !isSingle || entry.last == -1 )
         return;
-    bool isFirst = true;
-    for ( const HeadLine &line : head().lines )
-        if ( line.number == entry.number && !std::exchange( isFirst, false ) )
-            return findings.add( *findingRule( "-twice" ), line.begin, nameOf( entry.number ) );
+    Bytes second = lineAround( bytes, table()->moreLines[entry.first.next].begin );
+    findings.add( *findingRule( "-twice" ), second.data() - bytes.data(), nameOf( entry.number ) );
 }
 
 void HeaderCheck::checkContacts()
@@ -643,19 +765,21 @@ void HeaderCheck::checkContacts()
 
 void HeaderCheck::checkNeeded()
 {
-    for ( const HeaderPlacement &placement : headerPlacements )
-        if ( isFor( placement, status ) && isNeeded( placement, methodPlace ) )
-            addMissing( placement.name );
+    for ( const NeedingPlacement &needing : needingPlacements )
+        if ( isFor( *needing.placement, status ) && isNeeded( *needing.placement, methodPlace ) )
+            addMissing( needing.number );
+    if ( !isRequest() || methodPlace < std::size( placementMethods ) )
+        return;
     for ( const NeededHeader &needed : neededHeaders )
-        if ( isRequest() && isMethod( needed.method ) )
-            addMissing( needed.name, needed.reference );
+        if ( isMethod( needed.method ) )
+            addMissing( numberOf( needed.name ), needed.reference );
 }
 
 } // namespace
 
-void findHeaderFaults( TELSX_MESSAGE msg, Bytes bytes, FindingList &findings )
+void findHeaderFaults( TELSX_MESSAGE msg, Bytes bytes, FindingList &findings, HeaderMemory *memory )
 {
-    HeaderCheck( msg, bytes, findings ).run();
+    HeaderCheck( msg, bytes, findings, memory ).run();
 }
 
 } // namespace telsx

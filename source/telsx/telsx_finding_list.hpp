@@ -16,6 +16,7 @@ public:
     FindingList &operator=( const FindingList & ) = delete;
     ~FindingList();
 
+    int64_t length() const { return findings.length(); }
     bool empty() const { return findings.empty(); }
 
     // The rule is broken at that place; the name is that of the header, or null; the reference is the rule's own

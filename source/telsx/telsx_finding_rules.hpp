@@ -82,14 +82,17 @@ inline constexpr FindingRule findingRules[] = {
       "among responses, only 101 to 199 may require 100rel" },
 };
 
-// The rule of a code, which must be there.
-consteval const FindingRule *findingRule( std::string_view code )
+// The line of a table that has the code, which must be there.
+template <class LINE, std::size_t COUNT>
+consteval const LINE *lineOf( const LINE ( &table )[COUNT], std::string_view code )
 {
-    for ( const FindingRule &rule : findingRules )
-        if ( rule.code == code )
-            return &rule;
+    for ( const LINE &line : table )
+        if ( line.code == code )
+            return &line;
     std::abort();
 }
+
+consteval const FindingRule *findingRule( std::string_view code ) { return lineOf( findingRules, code ); }
 
 // What the grammar of a header requires at a place. The code follows the name of the header, as in via-host; the words
 // say what was expected.
@@ -141,12 +144,6 @@ inline constexpr GrammarPiece grammarPieces[] = {
     { "warn-text", "a text in quotation marks" },
 };
 
-consteval const GrammarPiece *grammarPiece( std::string_view code )
-{
-    for ( const GrammarPiece &piece : grammarPieces )
-        if ( piece.code == code )
-            return &piece;
-    std::abort();
-}
+consteval const GrammarPiece *grammarPiece( std::string_view code ) { return lineOf( grammarPieces, code ); }
 
 } // namespace telsx

@@ -5,6 +5,7 @@
 #include "telsx/telsx_finding_headers.hpp"
 #include "telsx/telsx_finding_list.hpp"
 #include "telsx/telsx_message.hpp"
+#include "telsx/telsx_message_findings.hpp"
 #include "telsx/telsx_message_fragment.hpp"
 #include "telsx/telsx_number.hpp"
 
@@ -139,16 +140,21 @@ static void findError( const Head &head, FindingList &findings )
     findings.addExpected( *fault.rule, text.placeOf( fault.part ), fault.part, literal<"Content-Length">() );
 }
 
-RT_VECTOR telsxMessageFindings( RT_BUFFER buf )
+Ref<RT_VECTOR> telsx::findingsOf( RT_BUFFER buf, HeaderMemory *memory )
 {
-    TELSX_ASSERT( buf );
     Bytes bytes = bytesOf( buf );
     FindingList findings( bytes );
     if ( auto msg = adopt( telsxMessageTryDecode( buf ) ) )
-        findHeaderFaults( msg.get(), bytes, findings );
+        findHeaderFaults( msg.get(), bytes, findings, memory );
     else
         findError( Head( bytes ), findings );
-    return findings.take();
+    return adopt( findings.take() );
+}
+
+RT_VECTOR telsxMessageFindings( RT_BUFFER buf )
+{
+    TELSX_ASSERT( buf );
+    return findingsOf( buf, nullptr ).take();
 }
 
 // The message without what cannot be read

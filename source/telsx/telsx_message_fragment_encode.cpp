@@ -32,7 +32,7 @@ static StartLine startLineOf( TELSX_MESSAGE_FRAGMENT frag )
 }
 
 // What a head consists of besides the fragment's headers.
-struct Head
+struct OutputHead
 {
     StartLine startLine; // empty if the bytes of the headers begin with it, or if there is none
     Bytes startLineBytes;
@@ -45,7 +45,7 @@ static constexpr int64_t lengthNumber = knownNumber<"Content-Length">();
 // The lines of a header: that of Content-Length is the true length, those of a header that was decoded and not replaced go
 // out as they came, and those of any other are its object's.
 template <class LINE>
-static void eachLine( const Head &head, const HeaderEntry &entry, LINE line )
+static void eachLine( const OutputHead &head, const HeaderEntry &entry, LINE line )
 {
     if ( entry.number == lengthNumber )
         line( head.bodyLength.chars() );
@@ -63,7 +63,7 @@ static void eachLine( const Head &head, const HeaderEntry &entry, LINE line )
 
 // All pieces of a head in order.
 template <class OUTPUT>
-static void write( OUTPUT &to, const Head &head )
+static void write( OUTPUT &to, const OutputHead &head )
 {
     static constexpr HeaderEntry contentLength = {
         literal<"Content-Length">(), nullptr, {}, -1, lengthNumber
@@ -159,7 +159,7 @@ struct Writer
 
 // The encoded message, or null if the sizes are wrong.
 template <Sizes SIZES>
-static RT_BUFFER tryEncode( const Head &head, Bytes body )
+static RT_BUFFER tryEncode( const OutputHead &head, Bytes body )
 {
     Counter<SIZES> counter;
     write( counter, head );
@@ -174,7 +174,7 @@ static RT_BUFFER tryEncode( const Head &head, Bytes body )
     return nullptr;
 }
 
-[[gnu::cold]] static RT_BUFFER encodeExactly( const Head &head, Bytes body )
+[[gnu::cold]] static RT_BUFFER encodeExactly( const OutputHead &head, Bytes body )
 {
     return tryEncode<Sizes::exact>( head, body );
 }
@@ -183,7 +183,7 @@ RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
     Bytes body = frag->body ? bytesOf( frag->body.get() ) : Bytes();
-    Head head = { {}, {}, Decimal( lengthOf( body ) ), frag->headers.get() };
+    OutputHead head = { {}, {}, Decimal( lengthOf( body ) ), frag->headers.get() };
     if ( frag->startLineSize != -1 )
         head.startLineBytes = { head.headers->bytes(), static_cast<std::size_t>( frag->startLineSize ) };
     else if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )

@@ -10,9 +10,14 @@ namespace
 
 using namespace support;
 
+// A finder that has seen the messages before finds the same.
 std::vector<Ref<TELSX_FINDING>> findingsOf( std::string_view bytes )
 {
+    static const auto finder = adopt( telsxFinderCreate() );
     auto vector = adopt( telsxMessageFindings( buffer( bytes ).get() ) );
+    for ( int i = 0; i < 2; ++i )
+        EXPECT_TRUE( rtVectorEquals(
+            vector.get(), adopt( telsxFinderFindings( finder.get(), buffer( bytes ).get() ) ).get() ) );
     std::vector<Ref<TELSX_FINDING>> findings;
     for ( int64_t i = 0; i < rtVectorLength( vector.get() ); ++i )
         findings.push_back( adopt( telsxFindingFrom( rtVectorObjAt( vector.get(), i ) ) ) );

@@ -10,6 +10,7 @@ using namespace support;
     { OBJECT_TYPE( telsx##NAME, TELSX_##SORT, sample<TELSX_##SORT>() ), ERASED( telsx##NAME##CreateFrom ) },
 static const ObjectType types[] = {
 #include "telsx/telsx_objects.def"
+    { OBJECT_TYPE( telsxFinder, TELSX_FINDER, sample<TELSX_FINDER>() ) },
     { OBJECT_TYPE( telsxMessageStreamDecoder, TELSX_MESSAGE_STREAM_DECODER,
                    sample<TELSX_MESSAGE_STREAM_DECODER>() ) },
 };
@@ -22,9 +23,12 @@ TEST( Sorts, HaveTheFunctionsThatTheirTypesNeed )
                                                        "TELSX_HEADER_MAX_BREADTH",
                                                        "TELSX_HEADER_MAX_FORWARDS",
                                                        "TELSX_HEADER_MIN_EXPIRES" },
-                                       withoutCompare = { "TELSX_DIVERSION", "TELSX_MESSAGE",
+                                       withoutCompare = { "TELSX_DIVERSION",
+                                                          "TELSX_FINDER",
+                                                          "TELSX_MESSAGE",
                                                           "TELSX_MESSAGE_FRAGMENT",
-                                                          "TELSX_MESSAGE_STREAM_DECODER", "TELSX_REASON" },
+                                                          "TELSX_MESSAGE_STREAM_DECODER",
+                                                          "TELSX_REASON" },
                                        withoutText = { "TELSX_HISTORY_INFO", "TELSX_IDENTITY_VALUE",
                                                        "TELSX_MESSAGE_HEADER", "TELSX_ROUTE",
                                                        "TELSX_WARNING_VALUE" };

@@ -36,6 +36,12 @@ inline Ref<TELSX_FINDING> sample<TELSX_FINDING>()
 }
 
 template <>
+inline Ref<TELSX_FINDER> sample<TELSX_FINDER>()
+{
+    return adopt( telsxFinderCreate() );
+}
+
+template <>
 inline Ref<TELSX_MESSAGE_STREAM_DECODER> sample<TELSX_MESSAGE_STREAM_DECODER>()
 {
     auto decoder = adopt( telsxMessageStreamDecoderCreate() );
