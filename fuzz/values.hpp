@@ -108,7 +108,7 @@ inline const char *brokenAddress( const Type &type, Text text )
         return "a message doesn't change an address";
     if ( !isMadeAgain( type, value ) )
         return "what is made of an address makes the same again";
-    Ref<RT_OBJ> other = end < text.length ? type.decoded( text.behind( end + 1 ) ) : Ref<RT_OBJ>();
+    Ref<RT_OBJ> other = end < text.length ? type.decoded( text.after( end + 1 ) ) : Ref<RT_OBJ>();
     if ( other && type.equivalent( value.get(), other.get() ) != type.equivalent( other.get(), value.get() ) )
         return "equivalence is symmetric";
     return nullptr;

@@ -167,7 +167,7 @@ RT_STRING netDnsIdnaDomainNameToUnicode( RT_STRING name )
         Text label = takeLabel( &rest );
         if ( Ref<RT_STRING> unicode = tryConvertToUnicode( label ) )
         {
-            Text before = text.behind( copied ).first( label.chs - text.chs - copied );
+            Text before = text.after( copied ).first( label.chs - text.chs - copied );
             rtStringAppendChars( result.address(), before.chs, before.length );
             rtStringAppend( result.address(), unicode.get() );
             copied = text.length - rest.length;

@@ -125,7 +125,7 @@ static Found find( Text text, RT_CHAR end = UINT32_MAX )
             rest.take( 2 );
             continue;
         }
-        if ( ch == end || !place.takes( ch ) || ( ch == ',' && beginsAddress( rest.behind( 1 ) ) ) )
+        if ( ch == end || !place.takes( ch ) || ( ch == ',' && beginsAddress( rest.after( 1 ) ) ) )
             break;
         found.unicode |= ch >= 0x80;
         found.convertible |= ch == '-' && rest.length > 1 && rest.chs[1] == '-';
@@ -153,7 +153,7 @@ static Parts split( Text iri )
         return text.first( std::find_if( text.chs, text.chs + text.length, isEnd ) - text.chs );
     };
     Text scheme = iri.first( skipScheme( iri ) );
-    Text authority = iri.behind( scheme.length + 1 );
+    Text authority = iri.after( scheme.length + 1 );
     auto isScheme = [&]( std::string_view name )
     {
         return std::equal( scheme.chs, scheme.chs + scheme.length, name.begin(), name.end(),
@@ -164,13 +164,13 @@ static Parts split( Text iri )
     {
         if ( authority.length < 2 || authority.chs[0] != '/' || authority.chs[1] != '/' )
             return { iri, {}, {} };
-        authority = until( authority.behind( 2 ), "/?#" );
+        authority = until( authority.after( 2 ), "/?#" );
     }
     Text user = until( authority, "@" );
     // This cuts an address in brackets into pieces. Like the whole address, they do not change.
     Text host =
-        until( user.length < authority.length ? authority.behind( user.length + 1 ) : authority, ":;/?#" );
-    return { iri.first( host.chs - iri.chs ), host, iri.behind( host.chs + host.length - iri.chs ) };
+        until( user.length < authority.length ? authority.after( user.length + 1 ) : authority, ":;/?#" );
+    return { iri.first( host.chs - iri.chs ), host, iri.after( host.chs + host.length - iri.chs ) };
 }
 
 // Characters outside ASCII become escapes of their UTF-8.

@@ -22,7 +22,6 @@
 #include <concepts>
 #include <cstddef>
 #include <cstring>
-#include <functional>
 #include <memory>
 #include <string_view>
 #include <tuple>

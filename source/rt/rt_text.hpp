@@ -21,7 +21,7 @@ struct Text
     explicit operator bool() const { return length != 0; }
     Ref<RT_STRING> copy() const { return adopt( rtStringCreateFromCharsCopy( chs, length ) ); }
     Text first( int64_t count ) const { return { chs, count }; }
-    Text behind( int64_t count ) const { return { chs + count, length - count }; }
+    Text after( int64_t count ) const { return { chs + count, length - count }; }
 
     // What a decoder makes of the text.
     template <class RESULT>
@@ -34,7 +34,7 @@ struct Text
     Text take( int64_t count )
     {
         Text front = first( count );
-        *this = behind( count );
+        *this = after( count );
         return front;
     }
     Text take( Skipper skip ) { return take( skip( chs, length ) ); }

@@ -15,11 +15,11 @@ bool AuthParamReader::next()
     bad = bad || open;
     if ( bad || !rest )
         return false;
-    bool separated = !behindFirst || rest.take( telsx___SkipComma );
+    bool separated = !afterFirst || rest.take( telsx___SkipComma );
     name = rest.take( telsx___SkipToken );
     bool hasValue = name && rest.take( telsx___SkipEqual );
     value = rest.take( skipTokenOrQuoted );
-    open = behindFirst = separated && hasValue && value;
+    open = afterFirst = separated && hasValue && value;
     bad = !open;
     return open;
 }
@@ -44,7 +44,7 @@ void AuthParamReader::readGeneric( Ref<TELSX_GENERIC_PARAMS> &params )
 
 RT_STRING AuthParamWriter::separator()
 {
-    if ( std::exchange( behindFirst, true ) )
+    if ( std::exchange( afterFirst, true ) )
         return literal<", ">();
     return rtStringLength( text.get() ) ? literal<" ">() : literal<"">();
 }

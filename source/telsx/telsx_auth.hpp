@@ -42,7 +42,7 @@ private:
     void store( Ref<RT_STRING> &field, RT_BOOL ( *ok )( RT_STRING ) );
 
     Text rest, name, value;
-    bool behindFirst = false;
+    bool afterFirst = false;
     bool open = false; // nothing has taken the parameter yet
     bool bad = false;  // the loop has failed
 };
@@ -81,7 +81,7 @@ private:
     }
 
     Ref<RT_STRING> &text;
-    bool behindFirst = false;
+    bool afterFirst = false;
     RT_STRING written[16]; // More fields than any value has.
     std::size_t count = 0;
 };

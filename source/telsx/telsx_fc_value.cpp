@@ -40,8 +40,8 @@ TELSX_FC_VALUE telsx___FcValueTryDecode( const RT_CHAR *chs, int64_t length )
     if ( !covers( telsx___SkipFcValue, { chs, length } ) )
         return nullptr;
     auto fcValue = adopt( telsxFcValueCreate() );
-    return readGenericParams( Text{ chs, length }.behind( 1 ), fcValue->featureCaps ) ? fcValue.take()
-                                                                                      : nullptr;
+    return readGenericParams( Text{ chs, length }.after( 1 ), fcValue->featureCaps ) ? fcValue.take()
+                                                                                     : nullptr;
 }
 
 // The grammar of feature capabilities
@@ -93,7 +93,7 @@ static int64_t skipFeatureValue( const RT_CHAR *chs, int64_t length )
     int64_t quoted = telsx___SkipQuotedString( chs, length );
     if ( !quoted )
         return 0;
-    Text rest = Text{ chs, quoted - 1 }.behind( 1 );
+    Text rest = Text{ chs, quoted - 1 }.after( 1 );
     if ( rest.length > 1 && rest.chs[0] == '<' && rest.chs[rest.length - 1] == '>' )
         return quoted;
     do
@@ -139,5 +139,5 @@ int64_t telsx___SkipFcValue( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     bool isStar = skipOneOf<'*'>( chs, length );
-    return isStar ? 1 + skipFeatureCaps( Text{ chs, length }.behind( 1 ) ) : 0;
+    return isStar ? 1 + skipFeatureCaps( Text{ chs, length }.after( 1 ) ) : 0;
 }

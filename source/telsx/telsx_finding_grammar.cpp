@@ -78,7 +78,7 @@ public:
             return true;
         if ( !takes( telsx___SkipLdquot ) )
             return isMissing( piece );
-        rest = rest.behind( rest.length );
+        rest = rest.after( rest.length );
         return isMissing( grammarPiece( "quote" ) );
     }
 

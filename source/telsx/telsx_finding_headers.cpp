@@ -66,7 +66,7 @@ bool hasIriParam( Text iri, bool hasValue = false )
     const RT_CHAR *end = std::find( iri.chs, iri.chs + iri.length, RT_CHAR( '?' ) );
     Text rest = iri.first( end - iri.chs );
     if ( const RT_CHAR *at = std::find( rest.chs, end, RT_CHAR( '@' ) ); at != end )
-        rest = rest.behind( at - rest.chs );
+        rest = rest.after( at - rest.chs );
     for ( ;; )
     {
         rest.take( std::find( rest.chs, end, RT_CHAR( ';' ) ) - rest.chs );
@@ -75,7 +75,7 @@ bool hasIriParam( Text iri, bool hasValue = false )
         rest.take( 1 );
         if ( !beginsInAnyCase<NAME>( rest ) )
             continue;
-        Text after = rest.behind( std::ssize( NAME.chs ) - 1 );
+        Text after = rest.after( std::ssize( NAME.chs ) - 1 );
         if ( !after || after.chs[0] == ';' || after.chs[0] == '=' )
             return !hasValue || ( after && after.chs[0] == '=' );
     }
@@ -370,7 +370,7 @@ Ref<RT_STRING> wordsOf( const Ref<RT_STRING> &code )
 
 void HeaderCheck::warn( const PlacedText &line, Text value, Obstacle obstacle )
 {
-    Text found = value.behind( obstacle.at );
+    Text found = value.after( obstacle.at );
     Ref<RT_STRING> words, pieceCode;
     if ( !obstacle.piece )
     {

@@ -101,7 +101,7 @@ private:
 inline Ref<RT_STRING> withoutFirstSemi( const Ref<RT_STRING> &params )
 {
     Text text = textOf( params );
-    return text.behind( text ? 1 : 0 ).copy();
+    return text.after( text ? 1 : 0 ).copy();
 }
 
 } // namespace telsx

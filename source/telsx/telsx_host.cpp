@@ -29,7 +29,7 @@ static int64_t skipLabels( Text text )
             label = end = ++at;
         else if ( ch == '-' && at > label )
             ++at;
-        else if ( ch == '%' && isEscape( text.behind( at ) ) )
+        else if ( ch == '%' && isEscape( text.after( at ) ) )
             end = at += 3;
         else
             return end;

@@ -15,7 +15,7 @@ IriPair toIriPair( Text text, const rt::CharSet &plain, const rt::CharSet &accep
     name = asciiLowerCase( resolvedOf( name ) );
     if ( !text )
         return { name, share( literal<"">() ) };
-    Ref<RT_STRING> value = escapedForm( text.behind( 1 ), plain, accepted );
+    Ref<RT_STRING> value = escapedForm( text.after( 1 ), plain, accepted );
     return value ? IriPair{ name, joined( '=', value ) } : IriPair();
 }
 
@@ -27,7 +27,7 @@ void appendIriPair( Ref<RT_STRING> &text, const IriPair &pair, const rt::CharSet
 Ref<RT_STRING> valueOf( const Ref<RT_STRING> &rest )
 {
     Text text = rest ? textOf( rest ) : Text();
-    return text ? resolved( text.behind( 1 ) ) : Ref<RT_STRING>();
+    return text ? resolved( text.after( 1 ) ) : Ref<RT_STRING>();
 }
 
 Ref<RT_STRING> restOf( RT_STRING value, const rt::CharSet &plain )

@@ -25,7 +25,7 @@ static RT_CHAR takeEscaped( Text &text )
     unsigned char bytes[4] = {};
     RT_CHAR chs[4] = {};
     int64_t count = 0, needed = 1;
-    for ( int64_t byte; count < needed && ( byte = escapedByte( text.behind( 3 * count ) ) ) != -1; ++count )
+    for ( int64_t byte; count < needed && ( byte = escapedByte( text.after( 3 * count ) ) ) != -1; ++count )
     {
         bytes[count] = static_cast<unsigned char>( byte );
         if ( count == 0 )

@@ -34,7 +34,7 @@ int64_t telsx___SkipLanguageTag( const RT_CHAR *chs, int64_t length )
         return 0;
     while ( rest && rest.chs[0] == '-' )
     {
-        int64_t subtag = skipTag<classAlphanum>( rest.behind( 1 ) );
+        int64_t subtag = skipTag<classAlphanum>( rest.after( 1 ) );
         if ( !subtag )
             break;
         rest.take( 1 + subtag );

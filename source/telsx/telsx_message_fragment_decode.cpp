@@ -124,9 +124,9 @@ static const char *findLineEnd( const char *at, const char *end )
 // Takes the line at the start, and its line end.
 static inline Bytes takeLine( const char *&at, const char *end )
 {
-    const char *begin = at, *behind = findLineEnd( at, end );
-    at = behind == end ? end : behind + lineEnd.size();
-    return { begin, behind };
+    const char *begin = at, *after = findLineEnd( at, end );
+    at = after == end ? end : after + lineEnd.size();
+    return { begin, after };
 }
 
 // Decodes all header lines, which are in the table's bytes. A line that begins with white space continues the header

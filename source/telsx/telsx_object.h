@@ -30,9 +30,9 @@
 #define TELSX_COMPARE_FUNC( NAME ) RT_API int64_t telsx___##NAME##CompareFunc( RT_OBJ objA, RT_OBJ objB );
 #define TELSX_TO_STRING_FUNC( NAME ) RT_API RT_STRING telsx___##NAME##ToStringFunc( RT_OBJ obj );
 
-/* A value of a list header, or an address: the functions of TELSX_OBJECT, and what such a header needs of the value. TELSX_OBJECT is not
- * used here, because the preprocessor expands what one macro hands on to another, and other libraries define names such as
- * ACCEPT.
+/* A value of a list header, or an address: the functions of TELSX_OBJECT, and what such a header needs of the value.
+ * TELSX_OBJECT is not used here, because the preprocessor expands what one macro hands on to another, and other libraries
+ * define names such as ACCEPT.
  *
  *   CreateFrom        creates an object with the same fields, which shares what they refer to; aborts for null
  *   Encode            the value's text, a new reference; aborts for null

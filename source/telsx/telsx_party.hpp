@@ -33,12 +33,12 @@ inline Ref<RT_STRING> encodeParty( const Party &party )
 }
 
 // Fills a new object from its address and the text after it, or from its text; false for bad text.
-inline bool decodeParty( Party &party, Address address, Text behind )
+inline bool decodeParty( Party &party, Address address, Text after )
 {
     party.iri = std::move( address.iri );
     party.displayName = std::move( address.displayName );
     party.genericParams = noGenericParams();
-    return readGenericParams( behind, party.genericParams );
+    return readGenericParams( after, party.genericParams );
 }
 inline bool decodeParty( Party &party, Text text )
 {

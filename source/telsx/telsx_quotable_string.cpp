@@ -24,17 +24,17 @@ RT_STRING telsx___QuotableStringEncode( RT_STRING quotableString )
     int64_t length = rtStringLength( quotableString );
     Ref<RT_STRING> quoted = adopt( rtStringCreate() );
     rtStringAppendChar( quoted.address(), '"' );
-    bool behindBareSpace = false;
+    bool afterBareSpace = false;
     for ( int64_t i = 0; i < length; ++i )
     {
         TELSX_ASSERT( backing[i] != RT_CHAR_CARRIAGE_RETURN && backing[i] != RT_CHAR_LINE_FEED );
         RT_CHAR ch = backing[i];
         bool isControl = ch < 0x20 || ch == 0x7F;
-        bool escaped = isControl || ch == '"' || ch == '\\' || ( ch == ' ' && behindBareSpace );
+        bool escaped = isControl || ch == '"' || ch == '\\' || ( ch == ' ' && afterBareSpace );
         if ( escaped )
             rtStringAppendChar( quoted.address(), '\\' );
         rtStringAppendChar( quoted.address(), ch );
-        behindBareSpace = ch == ' ' && !escaped;
+        afterBareSpace = ch == ' ' && !escaped;
     }
     rtStringAppendChar( quoted.address(), '"' );
     return quoted.take();
@@ -44,7 +44,7 @@ RT_STRING telsx___QuotableStringTryDecode( const RT_CHAR *chs, int64_t length )
 {
     if ( !length || telsx___SkipQuotedString( chs, length ) != length )
         return nullptr;
-    Text inner = Text{ chs, length - 1 }.behind( telsx___SkipLdquot( chs, length ) );
+    Text inner = Text{ chs, length - 1 }.after( telsx___SkipLdquot( chs, length ) );
     auto untilBackslash = [&inner]
     { return std::find( inner.chs, inner.chs + inner.length, RT_CHAR( '\\' ) ) - inner.chs; };
     if ( untilBackslash() == inner.length )

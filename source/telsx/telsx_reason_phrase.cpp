@@ -27,7 +27,7 @@ RT_STRING telsx___ReasonPhraseEncode( RT_STRING s )
     if ( std::none_of( rest.chs, rest.chs + rest.length, needsEscape ) )
         return share( s ).take();
     Ref<RT_STRING> encoded = adopt( rtStringCreate() );
-    for ( ; rest; rest = rest.behind( 1 ) )
+    for ( ; rest; rest = rest.after( 1 ) )
         if ( needsEscape( rest.chs[0] ) )
             rtStringAppendFormatCstr( encoded.address(), "%%%^02!16i", -1,
                                       static_cast<int64_t>( rest.chs[0] ) );

@@ -25,6 +25,6 @@ int64_t telsx___SkipResourceValue( const RT_CHAR *chs, int64_t length )
     int64_t dot = runOf<classTokenNodot>( text );
     if ( !dot || dot == length || chs[dot] != '.' )
         return 0;
-    int64_t priority = runOf<classTokenNodot>( text.behind( dot + 1 ) );
+    int64_t priority = runOf<classTokenNodot>( text.after( dot + 1 ) );
     return priority ? dot + 1 + priority : 0;
 }

@@ -320,9 +320,9 @@ static Ref<RT_STRING> userBeforePassword( const Ref<RT_STRING> &user )
     int64_t end = text.length;
     while ( end > 0 && text.chs[end - 1] != ',' )
         --end;
-    if ( end == 0 || !findWordInAnyCase<"sip", "sips", "tel">( text.behind( end ) ) )
+    if ( end == 0 || !findWordInAnyCase<"sip", "sips", "tel">( text.after( end ) ) )
         return user;
-    return joined( text.first( end - 1 ), "%2C", text.behind( end ) );
+    return joined( text.first( end - 1 ), "%2C", text.after( end ) );
 }
 
 RT_STRING telsx___SipIriEncode( TELSX_SIP_IRI sipIri )
@@ -425,7 +425,7 @@ static bool takeHeaders( Text &rest, TELSX_SIP_IRI sipIri )
 static Text takeUserInfo( Text &rest )
 {
     int64_t plain = userChars.runOf( rest.chs, rest.length );
-    int64_t length = plain + until( rest.behind( plain ), '@' ).length;
+    int64_t length = plain + until( rest.after( plain ), '@' ).length;
     if ( length == rest.length )
         return {};
     Text info = rest.take( length );
@@ -444,7 +444,7 @@ static bool decodeUserInfo( Text info, TELSX_SIP_IRI sipIri )
     if ( !sipIri->user || !info )
         return bool( sipIri->user );
     sipIri->user = userBeforePassword( sipIri->user );
-    sipIri->password = escapedForm( info.behind( 1 ), passwordChars );
+    sipIri->password = escapedForm( info.after( 1 ), passwordChars );
     return bool( sipIri->password );
 }
 
@@ -457,7 +457,7 @@ static bool isEndOfHost( Text rest )
 static Ref<RT_STRING> takeHost( Text &rest )
 {
     Text host = rest.first( telsx___SkipHost( rest.chs, rest.length ) );
-    bool isPlain = host && isEndOfHost( rest.behind( host.length ) ) && !hasEscapes( host );
+    bool isPlain = host && isEndOfHost( rest.after( host.length ) ) && !hasEscapes( host );
     if ( !isPlain )
         host = until( rest, ':', ';', '?' );
     rest.take( host.length );

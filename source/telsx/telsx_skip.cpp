@@ -135,14 +135,14 @@ int64_t telsx___SkipCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
 {
     Text rest = { chs, length };
     int64_t found = telsx___SkipChar( chs, length, ch );
-    return found ? found + skipWhite( rest.behind( found ) ) : 0;
+    return found ? found + skipWhite( rest.after( found ) ) : 0;
 }
 
 static int64_t skipSwsCharSws( Text text, RT_CHAR ch )
 {
     int64_t at = skipWhite( text );
     bool found = at < text.length && text.chs[at] == ch;
-    return found ? at + 1 + skipWhite( text.behind( at + 1 ) ) : 0;
+    return found ? at + 1 + skipWhite( text.after( at + 1 ) ) : 0;
 }
 
 int64_t telsx___SkipSwsCharSws( const RT_CHAR *chs, int64_t length, RT_CHAR ch )
@@ -319,7 +319,7 @@ static int64_t skipParams( Text text, Skipper skipParam )
 // A mandatory front and the generic parameters after it.
 static int64_t skipWithParams( Text text, int64_t front )
 {
-    return front ? front + skipParams( text.behind( front ), telsx___SkipGenericParam ) : 0;
+    return front ? front + skipParams( text.after( front ), telsx___SkipGenericParam ) : 0;
 }
 
 int64_t telsx___SkipDisplayName( const RT_CHAR *chs, int64_t length )

@@ -58,7 +58,7 @@ static bool areDigits( Text text, IS_DIGIT isDigit )
 static bool isGlobal( Text number ) { return number && number.chs[0] == '+'; }
 static bool isGlobalNumber( Text text )
 {
-    return isGlobal( text ) && areDigits( text.behind( 1 ), isPhoneDigit );
+    return isGlobal( text ) && areDigits( text.after( 1 ), isPhoneDigit );
 }
 
 RT_BOOL telsxTelIriNumberOk( RT_STRING number )
@@ -233,7 +233,7 @@ TELSX_TEL_IRI telsx___TelIriTryDecode( const RT_CHAR *chs, int64_t length )
 {
     TELSX_ASSERT_CHARS( chs, length );
     Text text = { chs, length };
-    return beginsInAnyCase<"tel:">( text ) ? decodeSubscriber( text.behind( 4 ) ).take() : nullptr;
+    return beginsInAnyCase<"tel:">( text ) ? decodeSubscriber( text.after( 4 ) ).take() : nullptr;
 }
 
 TELSX_TEL_IRI telsxTelIriTryDecode( RT_STRING iri )

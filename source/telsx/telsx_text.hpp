@@ -153,7 +153,7 @@ inline int64_t skipDotted( Text text, Skipper skipElement )
     int64_t at = skipElement( text.chs, text.length );
     while ( at && at < text.length && text.chs[at] == '.' )
     {
-        Text rest = text.behind( at + 1 );
+        Text rest = text.after( at + 1 );
         int64_t element = skipElement( rest.chs, rest.length );
         if ( !element )
             break;

@@ -13,29 +13,29 @@ bool ParamReader::next()
     bad = bad || open;
     if ( bad || !rest )
         return false;
-    open = behindSemi = std::exchange( atFirst, false ) || rest.take( telsx___SkipSemi );
+    open = afterSemi = std::exchange( atFirst, false ) || rest.take( telsx___SkipSemi );
     bad = !open;
     return open;
 }
 
 bool ParamReader::hasValue( int64_t nameLength, Skipper skipValue )
 {
-    Text behind = rest.behind( nameLength );
-    value = behind.take( telsx___SkipEqual ) ? behind.take( skipValue ) : Text();
+    Text after = rest.after( nameLength );
+    value = after.take( telsx___SkipEqual ) ? after.take( skipValue ) : Text();
     return bool( value );
 }
 
 bool ParamReader::hasNoValue( int64_t nameLength )
 {
-    Text behind = rest.behind( nameLength );
+    Text after = rest.after( nameLength );
     value = rest.first( nameLength );
-    return !telsx___SkipEqual( behind.chs, behind.length );
+    return !telsx___SkipEqual( after.chs, after.length );
 }
 
 // The parameter is taken: the rest begins after its value.
 bool ParamReader::take()
 {
-    rest = rest.behind( value.chs + value.length - rest.chs );
+    rest = rest.after( value.chs + value.length - rest.chs );
     open = false;
     return true;
 }
@@ -52,9 +52,9 @@ void ParamReader::storeGeneric( Ref<TELSX_GENERIC_PARAMS> &params )
     }
 }
 
-bool readGenericParams( Text behindFront, Ref<TELSX_GENERIC_PARAMS> &params )
+bool readGenericParams( Text afterFront, Ref<TELSX_GENERIC_PARAMS> &params )
 {
-    ParamReader param( behindFront );
+    ParamReader param( afterFront );
     while ( param.next() )
         param.storeGeneric( params );
     return !param.failed();
@@ -62,16 +62,16 @@ bool readGenericParams( Text behindFront, Ref<TELSX_GENERIC_PARAMS> &params )
 
 bool takeAddress( Text &rest, Address &address, RT_CHAR endOfBare )
 {
-    Text behindName = rest;
+    Text afterName = rest;
     bool hasName = rest && rest.chs[0] != '<';
-    Text name = hasName ? behindName.take( telsx___SkipDisplayName ) : Text();
-    if ( name && behindName.take( telsx___SkipLaquot ) )
+    Text name = hasName ? afterName.take( telsx___SkipDisplayName ) : Text();
+    if ( name && afterName.take( telsx___SkipLaquot ) )
     {
         address.displayName = adopt( name.as( telsx___DisplayNameTryDecode ) );
         if ( !address.displayName )
             return false;
         address.inBrackets = true;
-        rest = behindName;
+        rest = afterName;
     }
     else
         address.inBrackets = bool( rest.take( telsx___SkipLaquot ) );

@@ -19,7 +19,7 @@ int64_t skipInQuotes( const RT_CHAR *chs, int64_t length )
 }
 inline Ref<RT_STRING> copyInQuotes( Text quoted )
 {
-    return quoted.first( quoted.length - 1 ).behind( 1 ).copy();
+    return quoted.first( quoted.length - 1 ).after( 1 ).copy();
 }
 
 // Reads the parameters after the front of a value, one in each turn of the loop. Each read is an attempt; the first that
@@ -36,7 +36,7 @@ inline Ref<RT_STRING> copyInQuotes( Text quoted )
 class ParamReader
 {
 public:
-    explicit ParamReader( Text behindFront ) : rest( behindFront ) {}
+    explicit ParamReader( Text afterFront ) : rest( afterFront ) {}
 
     // For a text that consists of parameters, and so has no semicolon before the first.
     static ParamReader withoutFront( Text params )
@@ -51,7 +51,7 @@ public:
     bool failed() const { return bad; }
 
     // Whether text is left that does not begin with a semicolon; some headers stop there instead of failing.
-    bool stopped() const { return bad && !open && !behindSemi; }
+    bool stopped() const { return bad && !open && !afterSemi; }
 
     // Stores the value of the parameter with this name, in any case, if it begins as the skipper requires: as much of it
     // as the skipper matches, as it is, in its normal form, without its quotes, or as the decoder reads it unless that
@@ -132,21 +132,21 @@ private:
     bool hasNoValue( int64_t nameLength );
     bool take();
 
-    Text rest;               // from the parameter's name on
-    bool atFirst = false;    // no semicolon precedes the next parameter
-    bool open = false;       // nothing has taken the parameter yet
-    bool bad = false;        // the loop has failed
-    bool behindSemi = false; // the last semicolon was found
+    Text rest;              // from the parameter's name on
+    bool atFirst = false;   // no semicolon precedes the next parameter
+    bool open = false;      // nothing has taken the parameter yet
+    bool bad = false;       // the loop has failed
+    bool afterSemi = false; // the last semicolon was found
 };
 
 // Reads all parameters after the front of a value as generic parameters; false for bad text.
-bool readGenericParams( Text behindFront, Ref<TELSX_GENERIC_PARAMS> &params );
+bool readGenericParams( Text afterFront, Ref<TELSX_GENERIC_PARAMS> &params );
 
 // The length of a value that begins with an element of that length, with the generic parameters after it; 0 without the
 // element.
 inline int64_t skipWithParams( Text text, int64_t front )
 {
-    Text rest = text.behind( front );
+    Text rest = text.after( front );
     return front ? front + telsx___SkipGenericParams( rest.chs, rest.length ) : 0;
 }
 

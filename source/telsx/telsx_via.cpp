@@ -252,7 +252,7 @@ int64_t telsx::skipVia( Text text, ViaPlaces &places )
 
 TELSX_VIA telsx::tryDecodeVia( Text text, const ViaPlaces &places )
 {
-    auto between = [text]( int64_t begin, int64_t end ) { return text.first( end ).behind( begin ); };
+    auto between = [text]( int64_t begin, int64_t end ) { return text.first( end ).after( begin ); };
     auto number = [&between]( int64_t begin, int64_t end )
     { return between( begin, end ).as( telsx___PortTryDecode ); };
     if ( !places.transportEnd )

@@ -30,10 +30,10 @@ TEST( RtCharset, IsStrictAtEveryBoundary )
                             "\xF0\x8F\xBF\xBF \xF0\x90\x80 \xF1\x80\x80\x7F \xF4\x90\x80\x80 "
                             "\xF5\x80\x80\x80 \xF8\x88\x80\x80\x80 \xFE \xFF";
     for ( std::size_t before : { 0U, 1U, 15U, 16U, 17U, 40U } )
-        for ( std::size_t behind : { 0U, 1U, 16U } )
+        for ( std::size_t after : { 0U, 1U, 16U } )
         {
             SCOPED_TRACE( before );
-            std::string front( before, 'a' ), back( behind, 'z' );
+            std::string front( before, 'a' ), back( after, 'z' );
             std::istringstream goodOnes( good ), badOnes( bad );
             for ( std::string sequence; goodOnes >> sequence; )
                 EXPECT_EQ( front + sequence + back, decoded( front + sequence + back ) );
