@@ -177,7 +177,7 @@ inline FourChars narrow( const RT_CHAR *from, unsigned char *into )
 inline const char *findByte( const char *at, const char *end, char ch )
 {
     for ( ; at < end; at += 16 )
-        if ( uint32_t found = same( ByteBlock::at( at ), ByteBlock::of( ch ) ).mask() )
+        if ( uint32_t found = same( ByteBlock::at( at ), ByteBlock::of( ch ) ).mask() ) [[likely]]
         {
             at += std::countr_zero( found );
             break;

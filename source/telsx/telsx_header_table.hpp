@@ -98,6 +98,7 @@ inline void addLine( HeaderTable *table, HeaderName name, int64_t begin, int64_t
 {
     int64_t place = table->entries.length;
     if ( name.number == -1 || table->is[std::size_t( name.number )] || place == table->entries.capacity )
+        [[unlikely]]
         return addAnyLine( table, name, begin, length );
     table->is[std::size_t( name.number )] = true;
     table->known[name.number] = static_cast<int32_t>( place );

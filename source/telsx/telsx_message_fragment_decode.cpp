@@ -17,7 +17,14 @@
 
 using namespace telsx;
 
-static bool isWhite( char ch ) { return ch <= ' ' && ( ch == ' ' || ch == '\t' ); }
+// The compiler expects loops to go round, but few lines have more than one blank to trim, or a fold. Saying so, here and
+// below, spares decodeHeaders half of its jumps.
+static bool isWhite( char ch )
+{
+    if ( ch <= ' ' ) [[unlikely]]
+        return ch == ' ' || ch == '\t';
+    return false;
+}
 
 static Bytes trimmedLeft( Bytes bytes )
 {
@@ -117,7 +124,7 @@ static bool decodeHeader( HeaderTable *table, Bytes text )
 static const char *findLineEnd( const char *at, const char *end )
 {
     while ( ( at = rt::findByte( at, end, '\r' ) ) != end && at[1] != '\n' )
-        ++at;
+        [[unlikely]]++ at;
     return at;
 }
 
