@@ -93,10 +93,10 @@ inline RT_OBJ createObject( int64_t size, RT_SORT sort )
 inline void freeBlock( RT_OBJ obj )
 {
     int64_t size = obj->size;
-    if ( rt___blockLists && size <= mostListed )
+    if ( rt___blockLists && size <= mostListed ) [[likely]]
     {
         BlockList &list = blockListOf( size );
-        if ( list.bytes < mostBytesInList )
+        if ( list.bytes < mostBytesInList ) [[likely]]
         {
             void *block = obj;
             *static_cast<void **>( block ) = list.first;
