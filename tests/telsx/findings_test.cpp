@@ -10,10 +10,18 @@ namespace
 
 using namespace support;
 
-// A finder that has seen the messages before finds the same.
+// Has seen the earlier messages of the test, and finds in each what a new one would.
+Ref<TELSX_FINDER> finder;
+
+class Findings : public testing::Test
+{
+protected:
+    Findings() { finder = adopt( telsxFinderCreate() ); }
+    ~Findings() override { finder = {}; }
+};
+
 std::vector<Ref<TELSX_FINDING>> findingsOf( std::string_view bytes )
 {
-    static const auto finder = adopt( telsxFinderCreate() );
     auto vector = adopt( telsxMessageFindings( buffer( bytes ).get() ) );
     for ( int i = 0; i < 2; ++i )
         EXPECT_TRUE( rtVectorEquals(
@@ -100,7 +108,7 @@ void expectFaults( std::string_view message, std::initializer_list<Fault> faults
     }
 }
 
-TEST( Findings, ErrorsSayWhyThereIsNoMessage )
+TEST_F( Findings, ErrorsSayWhyThereIsNoMessage )
 {
     expectFaults( request, {
                                { "request-uri", "INVITE^" },
@@ -129,7 +137,7 @@ TEST( Findings, ErrorsSayWhyThereIsNoMessage )
                             } );
 }
 
-TEST( Findings, WarningsSayWhereTheGrammarEnds )
+TEST_F( Findings, WarningsSayWhereTheGrammarEnds )
 {
     expectFaults(
         request, {
@@ -170,7 +178,7 @@ TEST( Findings, WarningsSayWhereTheGrammarEnds )
                  } );
 }
 
-TEST( Findings, RemarksSayWhichRuleIsBroken )
+TEST_F( Findings, RemarksSayWhichRuleIsBroken )
 {
     expectFaults( request,
                   {
@@ -205,7 +213,7 @@ TEST( Findings, RemarksSayWhichRuleIsBroken )
 }
 
 // Of each kind of header all that its decoder refuses is found, once.
-TEST( Findings, EveryKindOfHeaderIsWarnedOf )
+TEST_F( Findings, EveryKindOfHeaderIsWarnedOf )
 {
     for ( const headers::Kind &kind : headers::all )
         for ( const Texts &texts : headerTexts )
@@ -232,7 +240,7 @@ TEST( Findings, EveryKindOfHeaderIsWarnedOf )
 }
 
 // A server can answer what it cannot read.
-TEST( Findings, AMessageIsSavedWithoutItsBadLines )
+TEST_F( Findings, AMessageIsSavedWithoutItsBadLines )
 {
     auto saved = []( const std::string &bytes )
     {
@@ -248,7 +256,7 @@ TEST( Findings, AMessageIsSavedWithoutItsBadLines )
         EXPECT_EQ( "null", saved( changed( std::string( request ), line ) ) ) << line;
 }
 
-TEST( Findings, TheDocumentHasAllCodes )
+TEST_F( Findings, TheDocumentHasAllCodes )
 {
     std::set<std::string> rows, expected;
     std::ifstream document( DOCUMENTS "/findings.md" );
