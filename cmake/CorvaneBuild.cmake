@@ -47,22 +47,38 @@ endif()
 # Headers are below our own folder, because <net/...> is also the system's.
 set( CORVANE_INCLUDE "${CMAKE_INSTALL_INCLUDEDIR}/corvane" )
 
+# corvane_objects( telsx-small LIKE telsx unit ... ) makes object files as the library telsx would.
+function( corvane_objects NAME )
+    cmake_parse_arguments( ARG "" "LIKE" "" ${ARGN} )
+    add_library( ${NAME} OBJECT ${ARG_UNPARSED_ARGUMENTS} )
+    set_target_properties( ${NAME} PROPERTIES POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON )
+    foreach( property IN ITEMS COMPILE_DEFINITIONS COMPILE_OPTIONS INCLUDE_DIRECTORIES )
+        set_target_properties( ${NAME} PROPERTIES ${property} "$<TARGET_PROPERTY:${ARG_LIKE},${property}>" )
+    endforeach()
+endfunction()
+
 # corvane_library( rt OUTPUT name SUMMARY text NEEDS ... PRIVATE_NEEDS ... FAST ... ) makes the shared library of
 # source/rt, which exports only what begins with the folder's name. NEEDS are libraries that its public headers include.
-# FAST names the units that nearly every message goes through, without their prefix. If it is given, all others are
-# compiled for size. The fast ones come first in the library, so that they are on few pages together and inline functions
-# that both kinds have are the fast ones.
+# FAST names the units that nearly every message goes through, without their prefix; by default these are all. The others
+# are compiled for size. The fast ones come first in the library, so that they are on few pages together and inline
+# functions that both kinds have are the fast ones.
 function( corvane_library NAME )
     cmake_parse_arguments( ARG "" "OUTPUT;SUMMARY" "NEEDS;PRIVATE_NEEDS;FAST" ${ARGN} )
     file( GLOB units CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp" )
+    set( fast ${units} )
     if( ARG_FAST )
         list( TRANSFORM ARG_FAST REPLACE "(.+)" "${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/${NAME}_\\1.cpp" OUTPUT_VARIABLE fast )
-        list( REMOVE_ITEM units ${fast} )
+    endif()
+    list( REMOVE_ITEM units ${fast} )
+    add_library( ${NAME} SHARED ${fast} )
+    if( units )
         set_source_files_properties( ${units} PROPERTIES
             COMPILE_OPTIONS "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-Os>" )
-        list( PREPEND units ${fast} )
+        corvane_objects( ${NAME}-small LIKE ${NAME} ${units} )
+        target_sources( ${NAME} PRIVATE $<TARGET_OBJECTS:${NAME}-small> )
     endif()
-    add_library( ${NAME} SHARED ${units} )
+    set_target_properties( ${NAME} PROPERTIES CORVANE_FAST "${fast}" )
     add_library( corvane::${NAME} ALIAS ${NAME} )
     target_include_directories( ${NAME} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>" )
     target_link_libraries( ${NAME} PUBLIC ${ARG_NEEDS}

@@ -36,7 +36,7 @@ struct OutputHead
 {
     StartLine startLine; // empty if the bytes of the headers begin with it, or if there is none
     Bytes startLineBytes;
-    Decimal bodyLength;
+    Bytes bodyLength;
     HeaderTable *headers;
 };
 
@@ -48,7 +48,7 @@ template <class LINE>
 static void eachLine( const OutputHead &head, const HeaderEntry &entry, LINE line )
 {
     if ( entry.number == lengthNumber )
-        line( head.bodyLength.chars() );
+        line( head.bodyLength );
     else if ( entry.first.begin == -1 )
         for ( int64_t i = 0; i < rtVectorLength( entry.header->lines.get() ); ++i )
             line( rtStringFrom( rt___VectorObjBorrowed( entry.header->lines.get(), i ) ) );
@@ -183,7 +183,8 @@ RT_BUFFER telsxMessageFragmentEncode( TELSX_MESSAGE_FRAGMENT frag )
 {
     TELSX_ASSERT( frag );
     Bytes body = frag->body ? bytesOf( frag->body.get() ) : Bytes();
-    OutputHead head = { {}, {}, Decimal( lengthOf( body ) ), frag->headers.get() };
+    const Decimal bodyLength( lengthOf( body ) );
+    OutputHead head = { {}, {}, bodyLength.chars(), frag->headers.get() };
     if ( frag->startLineSize != -1 )
         head.startLineBytes = { head.headers->bytes(), static_cast<std::size_t>( frag->startLineSize ) };
     else if ( !telsxMessageFragmentIsNeitherRequestNorResponse( frag ) )

@@ -10,7 +10,7 @@ cd "$1"
 git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$scratch" 2>/dev/null || true
 cd "$scratch"
 units=source/telsx
-sed -i 's/-O2 -g/-O0/' CMakePresets.json # what counts here is not speed
+sed -i 's/-O2 -g/-O0/; s/"Release"/"Release", "CORVANE_TRAINING": "OFF"/' CMakePresets.json # what counts here is not speed
 
 # unit PATTERN NEW SED...: a pair of files like that of the pattern.
 unit()
