@@ -75,8 +75,11 @@ function( corvane_library NAME )
     if( units )
         set_source_files_properties( ${units} PROPERTIES
             COMPILE_OPTIONS "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-Os>" )
-        corvane_objects( ${NAME}-small LIKE ${NAME} ${units} )
-        target_sources( ${NAME} PRIVATE $<TARGET_OBJECTS:${NAME}-small> )
+        if( CORVANE_TRAINING ) # which links them into its program, too
+            corvane_objects( ${NAME}-small LIKE ${NAME} ${units} )
+            set( units $<TARGET_OBJECTS:${NAME}-small> )
+        endif()
+        target_sources( ${NAME} PRIVATE ${units} )
     endif()
     set_target_properties( ${NAME} PROPERTIES CORVANE_FAST "${fast}" )
     add_library( corvane::${NAME} ALIAS ${NAME} )
